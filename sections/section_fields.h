@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Visits the values of the section record by name, for output and for tests over all values.
+#pragma once
+
+#include "sections/section_record.h"
+
+namespace korvane {
+
+/// Calls visit("name", field) for every value of the record, in the order of its declaration.
+template <class Record, class Visitor>
+void ForEachSectionField(Record& rec, Visitor&& visit) {
+  visit("h", rec.h);
+  visit("b", rec.b);
+  visit("tw", rec.tw);
+  visit("tf", rec.tf);
+  visit("r", rec.r);
+  visit("S", rec.S);
+  visit("g", rec.g);
+  visit("hw", rec.hw);
+  visit("d", rec.d);
+  visit("c", rec.c);
+  visit("bw", rec.bw);
+  visit("rin", rec.rin);
+  visit("tmax", rec.tmax);
+  visit("Af", rec.Af);
+  visit("Aw", rec.Aw);
+  visit("e", rec.e);
+  visit("es", rec.es);
+  visit("r1", rec.r1);
+  visit("r2", rec.r2);
+  visit("ey", rec.ey);
+  visit("ez", rec.ez);
+  visit("b1", rec.b1);
+  visit("b2", rec.b2);
+  visit("tf1", rec.tf1);
+  visit("tf2", rec.tf2);
+  visit("c1", rec.c1);
+  visit("c2", rec.c2);
+  visit("cm", rec.cm);
+  visit("co", rec.co);
+  visit("Afw", rec.Afw);
+  visit("Afc", rec.Afc);
+  visit("A", rec.A);
+  visit("Ix", rec.Ix);
+  visit("Iy", rec.Iy);
+  visit("Iz", rec.Iz);
+  visit("Iw", rec.Iw);
+  visit("Wely", rec.Wely);
+  visit("Welz", rec.Welz);
+  visit("Wply", rec.Wply);
+  visit("Wplz", rec.Wplz);
+  visit("Aeff", rec.Aeff);
+  visit("Weffy", rec.Weffy);
+  visit("Weffz", rec.Weffz);
+  visit("alfadeg", rec.alfadeg);
+  visit("Iu", rec.Iu);
+  visit("Iv", rec.Iv);
+  visit("u1", rec.u1);
+  visit("u2", rec.u2);
+  visit("u3", rec.u3);
+  visit("v1", rec.v1);
+  visit("v2", rec.v2);
+  visit("v3", rec.v3);
+  visit("Wu1", rec.Wu1);
+  visit("Wu2", rec.Wu2);
+  visit("Wu3", rec.Wu3);
+  visit("Wv1", rec.Wv1);
+  visit("Wv2", rec.Wv2);
+  visit("Wv3", rec.Wv3);
+  visit("Mud1", rec.Mud1);
+  visit("Mud2", rec.Mud2);
+  visit("Mud3", rec.Mud3);
+  visit("Mvd1", rec.Mvd1);
+  visit("Mvd2", rec.Mvd2);
+  visit("Mvd3", rec.Mvd3);
+  visit("ezel", rec.ezel);
+  visit("ezpl", rec.ezpl);
+  visit("Wely1", rec.Wely1);
+  visit("Wely2", rec.Wely2);
+  visit("Weffy1c", rec.Weffy1c);
+  visit("Weffy1t", rec.Weffy1t);
+  visit("Weffy2c", rec.Weffy2c);
+  visit("Weffy2t", rec.Weffy2t);
+  visit("classTop", rec.classTop);
+  visit("classBottom", rec.classBottom);
+  visit("betaTop", rec.betaTop);
+  visit("betaBottom", rec.betaBottom);
+  visit("MdyTop", rec.MdyTop);
+  visit("MdyBottom", rec.MdyBottom);
+  visit("MvdyTop", rec.MvdyTop);
+  visit("MvdyBottom", rec.MvdyBottom);
+  visit("Mvred", rec.Mvred);
+  visit("zs", rec.zs);
+  visit("zjTop", rec.zjTop);
+  visit("zjBottom", rec.zjBottom);
+  visit("betafTop", rec.betafTop);
+  visit("betafBottom", rec.betafBottom);
+  visit("class", rec.class_);
+  visit("betaA", rec.betaA);
+  visit("betay", rec.betay);
+  visit("betaz", rec.betaz);
+  visit("Ntd", rec.Ntd);
+  visit("Ncrd", rec.Ncrd);
+  visit("Mdy", rec.Mdy);
+  visit("Mdz", rec.Mdz);
+  visit("Vdz", rec.Vdz);
+  visit("Vdy", rec.Vdy);
+  visit("Mvdy", rec.Mvdy);
+  visit("Mvdz", rec.Mvdz);
+  visit("Mndy", rec.Mndy);
+  visit("Mndz", rec.Mndz);
+  visit("Mndypl", rec.Mndypl);
+  visit("Mndzpl", rec.Mndzpl);
+  visit("Mfdy", rec.Mfdy);
+  visit("Mfdz", rec.Mfdz);
+  visit("Mvndy", rec.Mvndy);
+  visit("Mvndz", rec.Mvndz);
+  visit("alfa", rec.alfa);
+  visit("beta", rec.beta);
+  visit("Avz", rec.Avz);
+  visit("Avy", rec.Avy);
+  visit("classN", rec.classN);
+  visit("classMy", rec.classMy);
+  visit("Ncrdshown", rec.Ncrdshown);
+  visit("Mdyshown", rec.Mdyshown);
+  visit("Mdzshown", rec.Mdzshown);
+  visit("Vdzshown", rec.Vdzshown);
+  visit("Vdyshown", rec.Vdyshown);
+}
+
+}  // namespace korvane
