@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The driver: one Design owns all that a calculation reads and writes, and Calculate runs the
+// steps of analysis, sections and checks in their fixed order.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "analysis/beam.h"
+#include "analysis/deflections.h"
+#include "analysis/loads.h"
+#include "analysis/modal.h"
+#include "checks/check_line.h"
+#include "core/project_state.h"
+#include "core/setupbas.h"
+#include "sections/readprofiles.h"
+#include "sections/section_record.h"
+
+namespace korvane {
+
+/// What is read once at the start and shared read-only by all designs.
+struct Library {
+  std::string folder;
+  Catalogues catalogues;
+  MaterialTable materials;
+};
+
+/// Reads catalogues and materials of the data folder.
+std::shared_ptr<const Library> ReadLibrary(const std::string& folder);
+
+/// An arithmetic failure of a calculation, with the name of the step where it stopped.
+class CalculationFault : public ArithmeticFault {
+public:
+  CalculationFault(std::string step, const std::string& what)
+      : ArithmeticFault(step + ": " + what), step_(std::move(step)) {}
+  const std::string& Step() const { return step_; }
+
+private:
+  std::string step_;
+};
+
+/// One member with its input and the results of the last calculation. Two designs can run in
+/// two threads; they share only the library.
+struct Design {
+  explicit Design(std::shared_ptr<const Library> library) : lib(std::move(library)) {}
+
+  std::shared_ptr<const Library> lib;
+  ProjectState st;
+  SectionRecord rec;
+  SectionForces forces;
+  WorkingLoads loads;
+  BeamResults beam;
+  Deflections deflections;
+  ModalResults modal;
+  LtbResults ltb;
+  CheckResults checks;
+  BucklingResults buckling;
+  /// Messages that came up during the calculation, for a message box; the owner shows and
+  /// clears them.
+  std::vector<std::string> messages;
+};
+
+/// The start sequence without the window: new project, defaults file of the library's folder,
+/// material step. No calculation runs. An arithmetic failure of the material step (no defaults
+/// file) is passed over: the first calculation meets it again.
+void StartDesign(Design& design);
+
+/// One whole calculation from the state to the composed result lines. Throws CalculationFault
+/// where a step fails; results stay as far as the calculation had got.
+void Calculate(Design& design);
+
+/// The optimiser's calculation: section, analysis, checks, deflections, in this order; no text
+/// is composed and nothing is allocated. Throws CalculationFault.
+void SilentRecalculation(Design& design);
+
+/// The greatest ratio of the last calculation, in single precision.
+float MaxIR(const CheckResults& checks);
+
+}  // namespace korvane
