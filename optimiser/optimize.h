@@ -41,7 +41,7 @@ std::span<const OptimiserRow> AllOptimiserRows();
 /// A row by its number; throws ArithmeticFault outside 1 to 11.
 const OptimiserRow& OptimiserRowOf(int row);
 
-/// What the searches leave beside the state; lives as long as the form.
+/// What the searches leave beside the state. Outlives the form, as the size indices do.
 struct OptimiserResults {
   Indexed<float32, 1, kOptimiserRows> BestIR;
   /// The last search of the row accepted a size and left it in force. False: no section of this
