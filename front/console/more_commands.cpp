@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Binds the arguments of the commands optimise and batch to their routines.
+#include "front/console/more_commands.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "front/console/batch.h"
+#include "front/console/optimise.h"
+#include "front/console/project_run.h"
+#include "front/console/terminal.h"
+
+namespace korvane {
+namespace {
+
+struct OptimiseArguments {
+  OptimiseOptions options;
+  std::vector<std::string> families;
+  double limit = 0.0;
+  std::string data;
+};
+
+struct BatchArguments {
+  BatchOptions options;
+  std::string shard;
+  std::string data;
+};
+
+int Optimise(const ConsoleServices& services, const OptimiseArguments& arguments) {
+  OptimiseOptions options = arguments.options;
+  std::string unknown;
+  const auto rows = RowsOf(arguments.families, unknown);
+  if (!rows) {
+    std::cerr << "unknown series " << unknown << ": " << SeriesWords() << '\n';
+    return kCannotRead;
+  }
+  options.rows = *rows;
+  const auto library = services.library(arguments.data);
+  if (!library) return kCannotRead;
+  return RunOptimise(library, options, std::cout, std::cerr, ColourWanted(), ErrorsAreTerminal());
+}
+
+int Batch(const ConsoleServices& services, const BatchArguments& arguments) {
+  BatchOptions options = arguments.options;
+  if (!arguments.shard.empty() && !ParseShard(arguments.shard, options)) {
+    std::cerr << "--shard I/N: N files apart from the I-th on, 1 <= I <= N\n";
+    return kCannotRead;
+  }
+  const auto library = services.library(arguments.data);
+  if (!library) return kCannotRead;
+  return RunBatch(library, options, std::cout, std::cerr, ErrorsAreTerminal());
+}
+
+void AddOptimise(CLI::App& app, ConsoleServices& services) {
+  const auto arguments = std::make_shared<OptimiseArguments>();
+  CLI::App* command =
+      app.add_subcommand("optimise", "Find the lightest passing size of each rolled series");
+  command->add_option("FILE", arguments->options.file, "Project file")->required();
+  command->add_option("--criterion", arguments->options.criterion, "uls, sls or uls-sls")
+      ->check(CLI::IsMember({"uls", "sls", "uls-sls"}));
+  command->add_option("--families", arguments->families, "Series to search: " + SeriesWords())
+      ->delimiter(',');
+  CLI::Option* limit =
+      command->add_option("--limit", arguments->limit, "Deflection limit L/X, 100 to 1500");
+  command->add_flag("--json", arguments->options.json, "Print one JSON object");
+  command->add_option("-o,--output", arguments->options.save,
+                      "Save the project with the lightest passing section");
+  command->add_option("--data", arguments->data, "Folder of the data files");
+  command->callback([arguments, limit, &services] {
+    if (limit->count() > 0) arguments->options.limit = arguments->limit;
+    services.exitStatus = Optimise(services, *arguments);
+  });
+}
+
+void AddBatch(CLI::App& app, ConsoleServices& services) {
+  const auto arguments = std::make_shared<BatchArguments>();
+  CLI::App* command = app.add_subcommand("batch", "Design many projects, a line of CSV each");
+  command->add_option("INPUTS", arguments->options.inputs, "Project files and folders")
+      ->required();
+  command->add_option("--csv", arguments->options.csv, "Write the table to this file");
+  command->add_option("--jobs", arguments->options.jobs, "Threads; as many as cores if not given")
+      ->check(CLI::Range(1, 1024));
+  command->add_flag("--optimise", arguments->options.optimise,
+                    "Add the lightest passing size of each project's series");
+  command->add_option("--shard", arguments->shard,
+                      "I/N: every N-th file from the I-th on, one share of a job array");
+  command->add_option("--data", arguments->data, "Folder of the data files");
+  command->callback([arguments, &services] { services.exitStatus = Batch(services, *arguments); });
+}
+
+}  // namespace
+
+void AddBatchCommands(CLI::App& app, ConsoleServices& services) {
+  AddOptimise(app, services);
+  AddBatch(app, services);
+}
+
+}  // namespace korvane
