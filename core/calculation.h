@@ -12,6 +12,7 @@
 #include "analysis/loads.h"
 #include "analysis/modal.h"
 #include "checks/check_line.h"
+#include "checks/results.h"
 #include "core/project_state.h"
 #include "core/setupbas.h"
 #include "sections/readprofiles.h"
@@ -73,8 +74,5 @@ void Calculate(Design& design);
 /// The optimiser's calculation: section, analysis, checks, deflections, in this order; no text
 /// is composed and nothing is allocated. Throws CalculationFault.
 void SilentRecalculation(Design& design);
-
-/// The greatest ratio of the last calculation, in single precision.
-float MaxIR(const CheckResults& checks);
 
 }  // namespace korvane

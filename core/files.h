@@ -15,7 +15,6 @@ std::optional<std::string> ReadWholeFile(const std::string& path, bool* notFound
 /// Writes the bytes to a temporary file beside path, flushes it to the disk and renames it over
 /// path. On any failure the old file stays as it was, the temporary file is removed and false
 /// is returned; notFound tells whether the folder is missing.
-bool WriteFileAtomically(const std::string& path, std::string_view bytes,
-                         bool* notFound = nullptr);
+bool WriteFileAtomically(const std::string& path, std::string_view bytes, bool* notFound = nullptr);
 
 }  // namespace korvane

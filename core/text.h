@@ -14,6 +14,7 @@ namespace korvane {
 /// when it is there, '.' the decimal point, "E+0" an exponent with its sign ("0.000E+0").
 /// Rounds half away from zero on the decimal value at 15 significant digits; prints no negative
 /// zero; integer digits beyond the pattern are all printed. The decimal mark is always a point.
+/// Throws ArithmeticFault for a value that is not finite, and so do Str and FileText.
 std::string Format(double value, std::string_view pattern);
 
 /// General form: the shortest digits that read back to the same value, with a leading blank in
@@ -31,6 +32,12 @@ std::string FileText(double value);
 /// digits, one decimal point, an exponent; what follows is dropped; no digits give 0.
 /// Values beyond double precision give an infinity, which no field accepts.
 double LeadingNumber(std::string_view text);
+
+/// LeadingNumber rounded once, from the decimal digits to single precision.
+float LeadingSingle(std::string_view text);
+
+/// True when LeadingNumber has digits to read.
+bool BeginsWithNumber(std::string_view text);
 
 /// Typed input to a number (single precision by the caller's field).
 /// decimalComma false: leading blanks removed, "," counts as ".", then LeadingNumber.

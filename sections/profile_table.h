@@ -24,25 +24,33 @@ using NominalFn = void (*)(const ProjectState&, const Family&, SectionForces&, S
 
 /// Which section control routine a family has.
 enum class SectionControlKind {
-  None, DoubleSymmetric, Hollow, Angle, SingleSymmetric, T, FlatBar, Tube, Plate
+  None,
+  DoubleSymmetric,
+  Hollow,
+  Angle,
+  SingleSymmetric,
+  T,
+  FlatBar,
+  Tube,
+  Plate
 };
 /// Which column buckling routine a family has.
 enum class BucklingKind { None, DoubleSymmetric, Hollow, Angle, SingleSymmetric, T, FlatBar, Tube };
 
 /// One row of the table. A null routine means that the family has no such step.
 struct Family {
-  int code;                  ///< ProfileType
-  const char* menuControl;   ///< "mnup01"
-  const char* menuCaption;   ///< literal caption
-  const char* form;          ///< "p01"
-  const char* formCaption;   ///< literal caption of the form
-  const char* familyWord;    ///< what the menu command stores in FamilyName, or nullptr
+  int code;                 ///< ProfileType
+  const char* menuControl;  ///< "mnup01"
+  const char* menuCaption;  ///< literal caption
+  const char* form;         ///< "p01"
+  const char* formCaption;  ///< literal caption of the form
+  const char* familyWord;   ///< what the menu command stores in FamilyName, or nullptr
   LoadFn load;
   SectionFn effective;
   SectionFn shear;
   ForceFn sectionClass;
   ForceFn capacities;
-  ForceFn bucklingClass;     ///< class routine of the column buckling control
+  ForceFn bucklingClass;  ///< class routine of the column buckling control
   NominalFn nominal;
   SectionControlKind sectionControl;
   BucklingKind buckling;

@@ -12,8 +12,28 @@ namespace korvane {
 
 /// The catalogue files, in the order in which they are read.
 enum class Cat {
-  HEA, HEB, HEM, IPE, UPE, SHS, RHS, CFSHS, CFRHS, L1, L2, INP, UNP, L3, HP,
-  UB, UBP, UC, J, CH, PFC, Count
+  HEA,
+  HEB,
+  HEM,
+  IPE,
+  UPE,
+  SHS,
+  RHS,
+  CFSHS,
+  CFRHS,
+  L1,
+  L2,
+  INP,
+  UNP,
+  L3,
+  HP,
+  UB,
+  UBP,
+  UC,
+  J,
+  CH,
+  PFC,
+  Count
 };
 
 /// Shape of one catalogue file: little-endian 32-bit floats, row after row, nothing else.
@@ -36,9 +56,7 @@ public:
   /// The file's number; throws ArithmeticFault outside the table.
   double operator()(int row, int col) const;
   void Set(int row, int col, float v);
-  int Capacity() const {
-    return columns_ ? static_cast<int>(values_.size()) / columns_ : 0;
-  }
+  int Capacity() const { return columns_ ? static_cast<int>(values_.size()) / columns_ : 0; }
   int Columns() const { return columns_; }
 
 private:

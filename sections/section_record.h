@@ -23,24 +23,24 @@ struct SectionForces {
 struct SectionRecord {
   // Dimensions and derived geometry
   float32 h, b, tw, tf, r;
-  float32 S;      ///< kg/m, weight
-  float32 g;      ///< m2/m, surface
-  float32 hw;     ///< web height between flanges
-  float32 d;      ///< straight part of the web
-  float32 c;      ///< flange outstand (or flat part) of the slenderness tests
-  float32 bw;     ///< clear width between two webs
-  float32 rin;    ///< inner corner radius of hollow sections
-  float32 tmax;   ///< governing thickness for the yield stress
+  float32 S;     ///< kg/m, weight
+  float32 g;     ///< m2/m, surface
+  float32 hw;    ///< web height between flanges
+  float32 d;     ///< straight part of the web
+  float32 c;     ///< flange outstand (or flat part) of the slenderness tests
+  float32 bw;    ///< clear width between two webs
+  float32 rin;   ///< inner corner radius of hollow sections
+  float32 tmax;  ///< governing thickness for the yield stress
   float32 Af, Aw;
-  float32 e;      ///< channels: centroid from the back of the web
-  float32 es;     ///< channels: shear centre from the centroid
-  float32 r1, r2; ///< root and toe radii
-  float32 ey, ez; ///< angles: centroid from the heel
+  float32 e;       ///< channels: centroid from the back of the web
+  float32 es;      ///< channels: shear centre from the centroid
+  float32 r1, r2;  ///< root and toe radii
+  float32 ey, ez;  ///< angles: centroid from the heel
   float32 b1, b2, tf1, tf2, c1, c2;
-  float32 cm;     ///< plate part between two webs
-  float32 co;     ///< plate outstand
-  float32 Afw;    ///< web area of the lateral check of plate families
-  float32 Afc;    ///< area of the second flange
+  float32 cm;   ///< plate part between two webs
+  float32 co;   ///< plate outstand
+  float32 Afw;  ///< web area of the lateral check of plate families
+  float32 Afc;  ///< area of the second flange
 
   // Section constants
   float32 A, Ix, Iy, Iz, Iw;

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "checks/column_buckling.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "checks/buckling_curves.h"
+#include "checks/section_control.h"
+#include "sections/capacities.h"
+
+namespace korvane {
+
+double ColumnReduction(double lambda, double alfa) {
+  if (!(lambda > 0.2)) return 1;
+  const double phi = 0.5 * (1 + alfa * (lambda - 0.2) + lambda * lambda);
+  return std::min(1 / (phi + std::sqrt(phi * phi - lambda * lambda)), 1.0);
+}
+
+double LateralReduction(const ProjectState& st, const LtbResults& ltb) {
+  return st.LateralTorsionalBuckling == 0 ? 1.0 : double(ltb.chiLT_min);
+}
+
+namespace {
+
+/// Moment factor 1 - mu*N/X/Ncrd/gammam1; gammam1 divides on top of what Ncrd holds.
+double MomentFactor(const ProjectState& st, const SectionForces& f, const SectionRecord& rec,
+                    double mu, double X, double most) {
+  const double factor = 1 - std::min(mu, 0.9) * f.N / X / rec.Ncrd / st.gammam1;
+  return std::min(factor, most);
+}
+
+void Slendernesses(const ProjectState& st, const SectionRecord& rec, BucklingResults& b) {
+  const auto axis = [&](double factor, double I, number& lambda, number& geometric) {
+    const double i = std::sqrt(I / rec.A);
+    geometric = st.L * factor * 1000 / i;
+    lambda =
+        factor * 1000 * st.L / i / (std::sqrt(st.E / st.fyk) * kPiSingle) * std::sqrt(rec.betaA);
+  };
+  axis(st.bly, rec.Iy, b.Lybar, b.LyOverI);
+  axis(st.blz, rec.Iz, b.Lzbar, b.LzOverI);
+}
+
+/// Slendernesses about u and v, made effective for an angle held at its ends.
+void AngleSlendernesses(const ProjectState& st, const SectionRecord& rec, BucklingResults& b) {
+  const auto axis = [&](double factor, double I, number& lambda, number& geometric) {
+    const double i = std::sqrt(I / rec.A);
+    geometric = st.L * factor * 1000 / i;
+    const double bar =
+        factor * 1000 * st.L / kPiSingle / i * std::sqrt(st.fyk / st.E) * std::sqrt(rec.betaA);
+    lambda = 0.35 + 0.7 * bar;
+  };
+  axis(st.bly, rec.Iu, b.Lybar, b.LyOverI);
+  axis(st.blz, rec.Iv, b.Lzbar, b.LzOverI);
+}
+
+void Reductions(const ProjectState& st, const SectionRecord& rec, double alfaY, double alfaZ,
+                BucklingResults& b) {
+  b.Xy = ColumnReduction(b.Lybar, alfaY);
+  b.Xz = ColumnReduction(b.Lzbar, alfaZ);
+  b.Xmin = std::min<double>(b.Xy, b.Xz);
+  b.Nyd = b.Xy * rec.Ncrd;
+  b.Nzd = b.Xz * rec.Ncrd;
+  b.NXmin = ForceOf(st, rec.betaA * b.Xmin * rec.A);
+}
+
+/// Class and capacities for the governing moments of the whole member.
+void ClassifyMember(const Family& family, const ProjectState& st, const BeamResults& beam,
+                    const CheckResults& out, SectionForces& f, SectionRecord& rec) {
+  f.Ncl = f.N;
+  f.My = beam.MyAbsMax;
+  f.Mz = beam.MzAbsMax;
+  if (family.buckling == BucklingKind::T) return;
+  if (st.ProfileType == 41) rec.class_ = out.ClassGoverning;
+  family.bucklingClass(st, f, rec);
+  family.capacities(st, f, rec);
+}
+
+bool HasKlt(BucklingKind kind) {
+  return kind == BucklingKind::DoubleSymmetric || kind == BucklingKind::FlatBar;
+}
+
+void MomentFactorsOf(const Family& family, const ProjectState& st, const BeamResults& beam,
+                     const SectionForces& f, const SectionRecord& rec, BucklingResults& b) {
+  const bool plastic = rec.class_ <= 2 && st.BendingCapacityMode == 0;
+  const double Wely = family.buckling == BucklingKind::SingleSymmetric
+                          ? std::min<double>(rec.Wely1, rec.Wely2)
+                          : double(rec.Wely);
+  const double mu0y = plastic ? rec.Wply / Wely - 1 : 0;
+  const double mu0z = plastic ? rec.Wplz / rec.Welz - 1 : 0;
+  b.ky = MomentFactor(st, f, rec, b.Lybar * (2 * beam.betaMy - 4) + mu0y, b.Xy, 1.5);
+  b.kz = MomentFactor(st, f, rec, b.Lzbar * (2 * beam.betaMz - 4) + mu0z, b.Xz, 1.5);
+  if (HasKlt(family.buckling)) {
+    b.klt = MomentFactor(st, f, rec, 0.15 * (b.Lzbar * beam.betaMy - 1), b.Xz, 1.0);
+  }
+}
+
+/// Ratios of pure compression about the axes that can buckle.
+void PureCompression(const ProjectState& st, const SectionForces& f, const BucklingResults& b,
+                     bool always, CheckResults& out) {
+  if (always || st.bly != 0) {
+    out.IRny = std::fabs(f.N / b.Nyd);
+    out.textY = BucklingText::PureY;
+  }
+  if (always || st.blz != 0) {
+    out.IRnz = std::fabs(f.N / b.Nzd);
+    out.textZ = BucklingText::PureZ;
+  }
+}
+
+void WithBending(const ProjectState& st, const BeamResults& beam, const LtbResults& ltb,
+                 const SectionForces& f, const SectionRecord& rec, const BucklingResults& b,
+                 BucklingKind kind, CheckResults& out) {
+  const double my = beam.MyAbsMax;
+  const double mz = beam.MzAbsMax;
+  const double rz = mz != 0 ? b.kz * mz / rec.Mdz : 0;
+  const double ry = my != 0 ? b.ky * my / rec.Mdy : 0;
+  const double combined = std::fabs(f.N / b.NXmin) + ry + rz;
+  out.textY = BucklingText::Combined;
+  if (kind == BucklingKind::Tube) {
+    out.IRcombinedZ = combined;  // the text goes to the first line all the same
+    return;
+  }
+  out.IRcombinedY = combined;
+  if (kind == BucklingKind::DoubleSymmetric && st.LateralBucklingCase != 6 && my != 0) {
+    out.IRcombinedZ =
+        std::fabs(f.N / b.Nzd) + b.klt * my / rec.Mdy / LateralReduction(st, ltb) + rz;
+    out.textZ = BucklingText::Lateral;
+  }
+}
+
+/// Singly symmetric sections show the z axis alone and, in the second line, the last of the two
+/// ratios with bending; klt is what the last doubly symmetric calculation left.
+void SingleWithBending(const ProjectState& st, const BeamResults& beam, const LtbResults& ltb,
+                       const SectionForces& f, const SectionRecord& rec, const BucklingResults& b,
+                       CheckResults& out) {
+  const double my = beam.MyAbsMax;
+  if (st.blz != 0) {
+    out.IRnz = std::fabs(f.N / b.Nzd);
+    out.textY = BucklingText::PureZ;
+  }
+  out.IRcombinedY = std::fabs(f.N / b.NXmin) + b.ky * my / rec.Mdy;
+  out.textZ = BucklingText::SingleCombined;
+  if (st.LateralBucklingCase != 6) {
+    out.IRcombinedZ = std::fabs(f.N / b.Nzd) + b.klt * my / rec.Mdy / LateralReduction(st, ltb);
+    out.textZ = BucklingText::SingleLateral;
+  }
+}
+
+void AngleControl(const ProjectState& st, const BeamResults& beam, const SectionForces& f,
+                  const SectionRecord& rec, BucklingResults& b, CheckResults& out) {
+  const auto [Mu, Mv] = ToPrincipal(beam.MyAbsMax, beam.MzAbsMax, rec.alfadeg);
+  out.Mu = std::fabs(Mu);
+  out.Mv = std::fabs(Mv);
+  out.Mud = std::min<double>(rec.Mud1, rec.Mud3);
+  out.Mvd = std::min({double(rec.Mvd1), double(rec.Mvd2), double(rec.Mvd3)});
+  b.ky = MomentFactor(st, f, rec, b.Lybar * (2 * beam.betaMy - 4), b.Xy, 1.5);
+  b.kz = MomentFactor(st, f, rec, b.Lzbar * (2 * beam.betaMz - 4), b.Xz, 1.5);
+  if (out.Mu == 0 && out.Mv == 0) {
+    out.IRny = std::fabs(f.N / b.Nyd);
+    out.textY = BucklingText::PureU;
+    const double v = std::fabs(f.N / b.Nzd);
+    if (v > out.IRnz) {
+      out.IRnz = v;
+      out.textZ = BucklingText::PureV;
+    }
+    return;
+  }
+  const double ru = out.Mu != 0 ? std::fabs(b.ky * out.Mu / out.Mud) : 0;
+  const double rv = out.Mv != 0 ? std::fabs(b.kz * out.Mv / out.Mvd) : 0;
+  out.IRcombinedZ = std::fabs(f.N / b.NXmin) + ru + rv;
+  out.textY = BucklingText::CombinedAngle;
+}
+
+}  // namespace
+
+void BucklingControl(const Family& family, const ProjectState& st, const BeamResults& beam,
+                     const LtbResults& ltb, SectionForces& f, SectionRecord& rec,
+                     BucklingResults& b, CheckResults& out) {
+  out.bucklingRan = true;
+  out.textY = BucklingText::None;
+  out.textZ = BucklingText::None;
+  out.slenderness = st.check_slend == 1 && (st.bly != 0 || st.blz != 0);
+
+  const BucklingKind kind = family.buckling;
+  if (kind == BucklingKind::Angle) {
+    AngleSlendernesses(st, rec, b);
+    Reductions(st, rec, AngleImperfectionFactor(st.BucklingCurveY),
+               AngleImperfectionFactor(st.BucklingCurveZ), b);
+    AngleControl(st, beam, f, rec, b, out);
+    return;
+  }
+
+  ClassifyMember(family, st, beam, out, f, rec);
+  Slendernesses(st, rec, b);
+  Reductions(st, rec, ImperfectionFactor(st.BucklingCurveY), ImperfectionFactor(st.BucklingCurveZ),
+             b);
+  MomentFactorsOf(family, st, beam, f, rec, b);
+  const bool bendY = beam.MyAbsMax != 0;
+  const bool bendZ = beam.MzAbsMax != 0;
+  switch (kind) {
+    case BucklingKind::T:
+      return PureCompression(st, f, b, false, out);
+    case BucklingKind::SingleSymmetric:
+      return bendY ? SingleWithBending(st, beam, ltb, f, rec, b, out)
+                   : PureCompression(st, f, b, false, out);
+    default:
+      return bendY || bendZ ? WithBending(st, beam, ltb, f, rec, b, kind, out)
+                            : PureCompression(st, f, b, kind == BucklingKind::Tube, out);
+  }
+}
+
+}  // namespace korvane

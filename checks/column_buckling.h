@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Column buckling control: the member under compression, alone or with bending (12.3).
+#pragma once
+
+#include "analysis/beam.h"
+#include "checks/check_line.h"
+#include "sections/profile_table.h"
+
+namespace korvane {
+
+/// Reduction factor of a relative slenderness with the imperfection factor alfa (12.3.2).
+double ColumnReduction(double lambda, double alfa);
+
+/// Runs for N > 0. Reads the governing moments and moment factors of the analysis, writes
+/// slendernesses, reduction and moment factors, the ratios, and what each line shows; the text
+/// is composed afterwards by ComposeLines.
+void BucklingControl(const Family& family, const ProjectState& st, const BeamResults& beam,
+                     const LtbResults& ltb, SectionForces& f, SectionRecord& rec,
+                     BucklingResults& b, CheckResults& out);
+
+/// The lateral reduction that the buckling check takes: 1 when lateral buckling is off.
+double LateralReduction(const ProjectState& st, const LtbResults& ltb);
+
+}  // namespace korvane

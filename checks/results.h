@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The two result views as lines of text runs: the short view (label, IR, limit) and the long
+// view (formula and numbers as well). Targets print them as they stand.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "checks/check_line.h"
+#include "core/project_state.h"
+
+namespace korvane {
+
+/// The greatest ratio of the last calculation, in single precision.
+float MaxIR(const CheckResults& checks);
+
+/// A piece of a line in one style.
+struct TextRun {
+  std::string text;
+  bool bold = false;
+  bool underline = false;
+  int colour = 0;      ///< index of the 16-colour basic palette, 0 black
+  bool atTab = false;  ///< starts at the second column, left margin + 10
+};
+
+/// A line of a view; advance is the way down behind it, in lines.
+struct ViewLine {
+  std::vector<TextRun> runs;
+  double advance = 1;
+};
+using View = std::vector<ViewLine>;
+
+/// Fixed string ahead of a value.
+inline constexpr const char* kIRPrefix = "IR = ";
+
+View SectionControlShort(const ProjectState& st, const CheckResults& checks);
+View BucklingShort(const ProjectState& st, const CheckResults& checks, const BucklingResults& b);
+
+/// The long views. breaks(text) tells whether formula, numbers, value and limit together exceed
+/// the width of the target; then the formula stands alone and "    = " and the numbers follow.
+template <class Breaks>
+View SectionControlLong(const ProjectState& st, const CheckResults& checks, Breaks&& breaks);
+template <class Breaks>
+View BucklingLong(const ProjectState& st, const CheckResults& checks, const BucklingResults& b,
+                  Breaks&& breaks);
+
+/// Whether the views show the buckling block: compression, a family that has it, and an axis
+/// that can buckle.
+bool ShowsBuckling(const ProjectState& st, double N);
+
+namespace view {
+ViewLine Heading(const ProjectState& st, const char* text);
+ViewLine SlendernessLine(const ProjectState& st, const std::string& text, const BucklingResults& b);
+void AddLong(View& v, const CheckLine& line, bool broken);
+std::string WholeText(const CheckLine& line);
+}  // namespace view
+
+template <class Breaks>
+View SectionControlLong(const ProjectState& st, const CheckResults& checks, Breaks&& breaks) {
+  View v{view::Heading(st, "SECTION CONTROL:")};
+  for (const CheckLine* line :
+       {&checks.lineSection, &checks.lineVz, &checks.lineVy, &checks.lineLateral}) {
+    if (!line->formula.empty()) view::AddLong(v, *line, breaks(view::WholeText(*line)));
+  }
+  return v;
+}
+
+template <class Breaks>
+View BucklingLong(const ProjectState& st, const CheckResults& checks, const BucklingResults& b,
+                  Breaks&& breaks) {
+  View v{view::Heading(st, "BUCKLING CONTROL:")};
+  for (const CheckLine* line : {&checks.lineBucklingY, &checks.lineBucklingZ}) {
+    if (!line->formula.empty()) view::AddLong(v, *line, breaks(view::WholeText(*line)));
+  }
+  if (!checks.lineSlenderness.formula.empty()) {
+    v.push_back(view::SlendernessLine(st, checks.lineSlenderness.formula, b));
+  }
+  return v;
+}
+
+}  // namespace korvane

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Rolled I and H sections: HEA, HEB, HEM, IPE, INP, UB, UC, UBP, J. Their routines are the
+// model of the other families.
+#pragma once
+
+#include "sections/profile_table.h"
+
+namespace korvane {
+
+/// Dimension steps (mm, mm2, mm4, mm6, kg/m, m2/m).
+void LoadHEA(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+void LoadHEB(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+void LoadHEM(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+void LoadIPE(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+void LoadINP(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+/// UB, UC or UBP by p101_sub; another value takes no dimension step.
+void LoadBritishU(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+void LoadJ(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+
+/// Columns 4 to 9 of the British tables: S, h, b, tw, tf, r, and from column `first` on A, g,
+/// Iy, Wely, Wply, Iz, Welz, Wplz, Ix, Iw.
+void LoadBritish(const CatalogueTable& table, int row, int first, SectionRecord& rec);
+
+/// Aeff, Weffy, Weffz of a doubly symmetric I section; runs for every class.
+void EffectiveSection(const ProjectState& st, SectionRecord& rec);
+
+/// Avz, Avy and the shear capacities of a web between two flanges, for the stocky area given.
+void WebShear(const ProjectState& st, double stockyArea, SectionRecord& rec);
+/// WebShear with the stocky area of rolled I sections.
+void RolledShear(const ProjectState& st, SectionRecord& rec);
+
+/// Class of web and flange under Ncl, My, Mz (12.1).
+void SectionClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
+
+}  // namespace korvane

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Welded sections with two webs: box, box with unequal flanges, and the hat shaped HSQ beams on
+// a wide bottom plate.
+#pragma once
+
+#include "sections/profile_table.h"
+
+namespace korvane {
+
+void LoadBox(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+/// HSQ with flanges symmetric about the vertical axis.
+void LoadHsqSymmetric(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+/// HSQ with the bottom plate to one side.
+void LoadHsqOneSided(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+/// Box with unequal flanges.
+void LoadBoxUnequal(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+
+/// A flange of a section with two webs: thickness, plate part between the webs, outstand and
+/// the number of outstands.
+struct TwoWebFlange {
+  double t, cm, co;
+  int outstands;
+};
+
+/// Aeff and the effective moduli of a section with two webs; H the overall height.
+void TwoWebEffective(const ProjectState& st, const TwoWebFlange& top, const TwoWebFlange& bottom,
+                     double H, double depth, bool fullStripInertia, SectionRecord& rec);
+
+void HsqSymmetricEffective(const ProjectState& st, SectionRecord& rec);
+void HsqOneSidedEffective(const ProjectState& st, SectionRecord& rec);
+void BoxUnequalEffective(const ProjectState& st, SectionRecord& rec);
+
+/// Reads My only; Ncl plays no part.
+void HsqClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
+/// SingleCapacities with the flange loading of HSQ beams; sets flangeOverloaded when the load
+/// on one flange exceeds what it can carry.
+void HsqCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
+
+/// Load on one flange, kN per metre and flange length as the check counts it, 0 when flange
+/// loading does not apply.
+double FlangeLoad(const ProjectState& st);
+
+}  // namespace korvane

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sections/section_sum.h"
+
+#include <algorithm>
+
+#include "core/numeric.h"
+
+namespace korvane {
+
+SumResult SectionSum(const RectList& list) {
+  SumResult s;
+  double Ax = 0;
+  double Ay = 0;
+  const auto add = [&](double area, double x, double y, double ownY, double ownZ) {
+    s.A += area;
+    Ax += area * x;
+    Ay += area * y;
+    s.Iy += area * y * y + ownY;
+    s.Iz += area * x * x + ownZ;
+  };
+  for (const Rect& r : list) {
+    add(r.Area(), r.x0 + r.w / 2, r.y0 + r.t / 2, r.w * r.t * r.t * r.t / 12,
+        r.t * r.w * r.w * r.w / 12);
+    const double shortSide = std::min(r.w, r.t);
+    s.Ix += std::max(r.w, r.t) * shortSide * shortSide * shortSide / 3;
+  }
+  for (int i = 0; i < list.filletCount; ++i) {
+    const Fillet& f = list.fillets[static_cast<std::size_t>(i)];
+    add(f.area, f.x, f.y, f.own, f.own);
+  }
+  s.xbar = Ax / s.A;
+  s.ybar = Ay / s.A;
+  s.Iy -= s.ybar * s.ybar * s.A;
+  s.Iz -= s.xbar * s.xbar * s.A;
+  return s;
+}
+
+double WalkPlasticAxis(const RectList& list, double A, double H) {
+  for (double y = 2.0; y <= H; y += 0.1) {
+    double below = 0;
+    for (const Rect& r : list) below += r.w * std::clamp(y - r.y0, 0.0, r.t);
+    if (below >= A / 2) return y;
+  }
+  throw ArithmeticFault("no plastic axis inside the section");
+}
+
+double PlasticModulus(const RectList& list, double y) {
+  double W = 0;
+  for (const Rect& r : list) {
+    const double mid = (r.y0 + r.Top()) / 2;
+    if (r.y0 < y && y <= r.Top()) {
+      W += (y - r.y0) * (y - r.y0) * r.w / 2 + (r.Top() - y) * (r.Top() - y) * r.w / 2;
+    } else {
+      W += (mid > y ? mid - y : y - mid) * r.Area();
+    }
+  }
+  return W;
+}
+
+PlasticT PlasticAxisOfT(double A, double b, double tf, double hw, double tw) {
+  if (tf * b > A / 2) {
+    const double y = (A / 2) / b;
+    return {y, ((tf - y) * (tf - y) + y * y) * b / 2 + (hw / 2 + tf - y) * hw * tw};
+  }
+  const double y = (A / 2 - tf * b) / tw + tf;
+  const double below = hw + tf - y;
+  return {y, (y - tf) * (y - tf) * tw / 2 + (y - tf / 2) * tf * b + below * below * tw / 2};
+}
+
+}  // namespace korvane
