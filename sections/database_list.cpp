@@ -6,43 +6,29 @@
 
 #include "core/text.h"
 #include "sections/databasebas.h"
+#include "sections/names.h"
 
 namespace korvane {
 namespace {
 
-/// A number in the general form as titles of typed sections have it: without the sign's blank.
-std::string Plain(double v) {
-  std::string text = Str(v);
-  if (text.starts_with(' ')) text.erase(0, 1);
-  return text;
-}
-
-/// A catalogue number in the general form, with the blank in the place of the sign.
-std::string Catalogued(const CatalogueTable& table, int row, int column) {
-  return Str(float32(table(row, column)));
-}
-
-/// Entry of a rolled family: word and number or three dimensions of a catalogue row.
+/// Entry of a rolled family. The families of a single number show it with two digits behind
+/// their own word; the others read as the entry of the size list.
 struct RolledEntry {
   int family;
   int sub;  ///< column 2, where that is the sub-family; else 0
-  const char* word;
-  Cat table;
-  std::array<int, 3> columns;  ///< columns shown; a single one is a number with two digits
+  Cat catalogue;
+  const char* word;  ///< nullptr: the entry of the size list
 };
 
 /// Family 16 shows the number of the same row in the table of family 5: kept as it always was.
 constexpr std::array<RolledEntry, 19> kRolled{{
-    {1, 0, "HEA ", Cat::HEA, {1}},           {2, 0, "HEB ", Cat::HEB, {1}},
-    {3, 0, "HEM ", Cat::HEM, {1}},           {4, 0, "IPE ", Cat::IPE, {1}},
-    {5, 0, "UPE ", Cat::UPE, {1}},           {6, 0, "RHS ", Cat::SHS, {1, 1, 2}},
-    {7, 0, "RHS ", Cat::RHS, {1, 2, 3}},     {8, 0, "CFRHS ", Cat::CFSHS, {1, 2, 3}},
-    {9, 0, "CFRHS ", Cat::CFRHS, {1, 2, 3}}, {10, 0, "L ", Cat::L1, {1, 1, 2}},
-    {11, 0, "L ", Cat::L2, {1, 2, 3}},       {15, 0, "INP ", Cat::INP, {1}},
-    {16, 0, "UNP ", Cat::UPE, {1}},          {101, 1, "UB ", Cat::UB, {1, 2, 3}},
-    {101, 2, "UC ", Cat::UC, {1, 2, 3}},     {101, 3, "UBP ", Cat::UBP, {1, 2, 3}},
-    {102, 0, "J ", Cat::J, {1, 2, 3}},       {103, 1, "PFC ", Cat::PFC, {1, 2, 3}},
-    {103, 2, "CH ", Cat::CH, {1, 2, 3}},
+    {1, 0, Cat::HEA, "HEA "},    {2, 0, Cat::HEB, "HEB "},    {3, 0, Cat::HEM, "HEM "},
+    {4, 0, Cat::IPE, "IPE "},    {5, 0, Cat::UPE, "UPE "},    {6, 0, Cat::SHS, nullptr},
+    {7, 0, Cat::RHS, nullptr},   {8, 0, Cat::CFSHS, nullptr}, {9, 0, Cat::CFRHS, nullptr},
+    {10, 0, Cat::L1, nullptr},   {11, 0, Cat::L2, nullptr},   {15, 0, Cat::INP, "INP "},
+    {16, 0, Cat::UPE, "UNP "},   {101, 1, Cat::UB, nullptr},  {101, 2, Cat::UC, nullptr},
+    {101, 3, Cat::UBP, nullptr}, {102, 0, Cat::J, nullptr},   {103, 1, Cat::PFC, nullptr},
+    {103, 2, Cat::CH, nullptr},
 }};
 
 /// Entry of a typed family: words around the numbers of the columns from 3 on.
@@ -78,12 +64,9 @@ int RowNumber(double v) {
 }
 
 std::string RolledText(const RolledEntry& entry, const DatabaseRow& row, const Catalogues& cat) {
-  const CatalogueTable& table = cat[entry.table];
   const int index = RowNumber(row.col[entry.sub == 0 ? 2 : 3]);
-  if (entry.columns[1] == 0) return entry.word + Format(table(index, entry.columns[0]), "00");
-  return entry.word + Catalogued(table, index, entry.columns[0]) + "x" +
-         Catalogued(table, index, entry.columns[1]) + "x" +
-         Catalogued(table, index, entry.columns[2]);
+  if (entry.word == nullptr) return ListEntry(entry.catalogue, cat, index);
+  return entry.word + Format(cat[entry.catalogue](index, 1), "00");
 }
 
 std::string TypedText(const TypedEntry& entry, const DatabaseRow& row) {

@@ -75,8 +75,7 @@ void AddOptimise(CLI::App& app, ConsoleServices& services) {
 void AddBatch(CLI::App& app, ConsoleServices& services) {
   const auto arguments = std::make_shared<BatchArguments>();
   CLI::App* command = app.add_subcommand("batch", "Design many projects, a line of CSV each");
-  command->add_option("INPUTS", arguments->options.inputs, "Project files and folders")
-      ->required();
+  command->add_option("INPUTS", arguments->options.inputs, "Project files and folders")->required();
   command->add_option("--csv", arguments->options.csv, "Write the table to this file");
   command->add_option("--jobs", arguments->options.jobs, "Threads; as many as cores if not given")
       ->check(CLI::Range(1, 1024));
