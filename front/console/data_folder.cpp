@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "front/console/data_folder.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "sections/readprofiles.h"
+
+namespace korvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Folder of the running program, empty when the system doesn't tell.
+fs::path ProgramFolder() {
+  std::error_code error;
+  const fs::path self = fs::read_symlink("/proc/self/exe", error);
+  return error ? fs::path{} : self.parent_path();
+}
+
+bool HasAnyCatalogue(const fs::path& folder) {
+  std::error_code error;
+  return fs::is_regular_file(folder / "hea.dat", error);
+}
+
+std::string Checked(const std::string& folder) {
+  const auto missing = MissingCatalogues(folder);
+  if (missing.empty()) return folder;
+  std::string text = "data folder " + folder + " lacks";
+  for (const std::string& name : missing) text += " " + name;
+  throw DataFolderError(text);
+}
+
+}  // namespace
+
+std::string FindDataFolder(const std::string& asked) {
+  if (!asked.empty()) return Checked(asked);
+  if (const char* env = std::getenv("KORVANE_DATA"); env != nullptr && *env != '\0') {
+    return Checked(env);
+  }
+  const fs::path here = ProgramFolder();
+  if (!here.empty()) {
+    // Installed beside the program's prefix, or run from a build folder inside the sources.
+    for (const fs::path& candidate : {here / KORVANE_DATA_FROM_BIN, here / "data"}) {
+      if (HasAnyCatalogue(candidate)) return Checked(candidate.lexically_normal().string());
+    }
+    for (fs::path up = here; up.has_relative_path(); up = up.parent_path()) {
+      if (HasAnyCatalogue(up / "data")) return Checked((up / "data").string());
+    }
+  }
+  return Checked(KORVANE_BUILD_DATA);
+}
+
+}  // namespace korvane

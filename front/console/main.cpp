@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The console program: designs of members for scripts and batches.
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+
+#include "front/console/data_folder.h"
+#include "front/console/design_json.h"
+#include "front/console/design_text.h"
+#include "front/console/run_design.h"
+#include "sections/names.h"
+#include "sections/profile_table.h"
+
+namespace {
+
+using namespace korvane;
+
+enum Exit { kPass = 0, kFail = 1, kBadInput = 2, kFault = 3 };
+
+bool WantsColour() {
+  return isatty(STDOUT_FILENO) && std::getenv("NO_COLOR") == nullptr;
+}
+
+int RunDesign(const std::string& file, const std::string& data, bool json) {
+  Design design = StartedDesign(ReadLibrary(FindDataFolder(data)));
+  const DesignRun run = RunProject(design, file);
+  if (run.file != FileResult::Ok) {
+    std::cerr << FileMessage(run.file, file) << "\n";
+    return kBadInput;
+  }
+  for (const std::string& message : design.messages) std::cerr << message << "\n";
+  if (run.fault) std::cerr << "arithmetic failure in " << run.what << "\n";
+  if (json) {
+    std::cout << DesignJson(design, run.fault) << "\n";
+  } else if (!run.fault) {
+    std::cout << DesignText(design, WantsColour());
+  }
+  if (run.fault) return kFault;
+  return MaxIR(design.checks) <= design.st.iufa ? kPass : kFail;
+}
+
+int RunNew(const std::string& output, const std::string& data) {
+  Design design(ReadLibrary(FindDataFolder(data)));
+  StartDesign(design);
+  if (output.empty()) {
+    std::cout << ProjectText(design.st);
+    return kPass;
+  }
+  if (SaveProject(output, design.st) == FileResult::Ok) return kPass;
+  std::cerr << "can't save file - " << output << "\n";
+  return kBadInput;
+}
+
+const Family* FamilyByName(const std::string& name) {
+  for (const Family& family : AllFamilies()) {
+    std::string caption = family.menuCaption;
+    std::erase(caption, '&');
+    if (name == std::to_string(family.code) || name == caption || name == family.form) {
+      return &family;
+    }
+  }
+  return nullptr;
+}
+
+void ListSizes(const Family& family, const Catalogues& cat) {
+  ProjectState st;
+  st.ProfileType = family.code;
+  const int subs = family.code == 101 ? 3 : family.code == 103 ? 2 : 1;
+  for (int sub = 1; sub <= subs; ++sub) {
+    st.p101_sub = sub;
+    st.p103_sub = sub;
+    const SizeList sizes = SizesOf(st);
+    if (!sizes.hasCatalogue) {
+      std::cout << "typed dimensions, no catalogue\n";
+      return;
+    }
+    for (int row = 0; row < ListLength(sizes.catalogue); ++row) {
+      std::printf("%4d  %s\n", row, ListEntry(sizes.catalogue, cat, row).c_str());
+    }
+  }
+}
+
+int RunCatalogue(const std::string& name, const std::string& data) {
+  const Catalogues cat = ReadCatalogues(FindDataFolder(data));
+  if (name.empty()) {
+    for (const Family& family : AllFamilies()) {
+      std::string caption = family.menuCaption;
+      std::erase(caption, '&');
+      std::printf("%4d  %s\n", family.code, caption.c_str());
+    }
+    return kPass;
+  }
+  const Family* family = FamilyByName(name);
+  if (family == nullptr) {
+    std::cerr << "no such family - " << name << " (korvane-cli catalogue lists them)\n";
+    return kBadInput;
+  }
+  ListSizes(*family, cat);
+  std::fflush(stdout);
+  return kPass;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app{"Design of one steel member, a column or a beam, to NS 3472, 3rd edition"};
+  app.set_version_flag("--version", "korvane-cli " KORVANE_VERSION);
+  app.require_subcommand(1);
+  std::string data;
+  std::string file;
+  std::string output;
+  std::string family;
+  bool json = false;
+  int status = kPass;
+
+  const auto addData = [&](CLI::App* command) {
+    command->add_option("--data", data, "folder of the data files");
+  };
+  CLI::App* design = app.add_subcommand("design", "design the member of a project file");
+  design->add_option("file", file, "project file (*.kvn)")->required();
+  design->add_flag("--json", json, "print everything as one JSON object");
+  addData(design);
+  design->callback([&] { status = RunDesign(file, data, json); });
+
+  CLI::App* fresh = app.add_subcommand("new", "write the project that a new one starts with");
+  fresh->add_option("-o,--output", output, "project file to write (else standard output)");
+  addData(fresh);
+  fresh->callback([&] { status = RunNew(output, data); });
+
+  CLI::App* catalogue = app.add_subcommand("catalogue", "list the families, or the sizes of one");
+  catalogue->add_option("family", family, "code or name of a family");
+  addData(catalogue);
+  catalogue->callback([&] { status = RunCatalogue(family, data); });
+
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    const int code = app.exit(error);
+    return code == 0 ? kPass : kBadInput;
+  } catch (const DataFolderError& error) {
+    std::cerr << error.what() << "\n";
+    return kBadInput;
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << "\n";
+    return kBadInput;
+  }
+  return status;
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One project from its file to its results, as a person with the window would get them.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "core/calculation.h"
+#include "core/project_file.h"
+
+namespace korvane {
+
+/// What came of a project.
+struct DesignRun {
+  FileResult file = FileResult::Ok;
+  std::optional<std::string> fault;  ///< step of the arithmetic failure
+  std::string what;                  ///< its cause
+};
+
+/// The start sequence and the first calculation of the new project, whose failure is passed over.
+Design StartedDesign(std::shared_ptr<const Library> library);
+
+/// Opens the project in a started design and calculates twice, as opening and the focus of the
+/// window do. The results depend on the file and the data alone.
+DesignRun RunProject(Design& design, const std::string& path);
+
+/// The message of a file that could not be opened, empty when it could.
+std::string FileMessage(FileResult result, const std::string& path);
+
+}  // namespace korvane

@@ -1,0 +1,37 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Installs what a build needs from Debian's packages, by name and only what is missing.
+# Sourced by the other scripts.
+
+need() {
+  local missing=() package
+  for package in "$@"; do
+    if [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
+      missing+=("$package")
+    fi
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  echo "Installing: ${missing[*]}"
+  local sudo=
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || fail "packages are missing and only root can install them: apt-get install ${missing[*]}"
+    sudo=sudo
+  fi
+  local log
+  log=$(mktemp)
+  if ! { $sudo apt-get update && DEBIAN_FRONTEND=noninteractive \
+         $sudo apt-get install -y --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
+    tail -n 20 "$log" >&2
+    rm -f "$log"
+    fail "the packages could not be installed; look at the lines above, mend it and run again"
+  fi
+  rm -f "$log"
+}
+
+fail() {
+  echo "$0: $*" >&2
+  exit 1
+}
+
+BUILD_PACKAGES="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev"
+DESKTOP_PACKAGES="qt6-base-dev qt6-base-dev-tools qt6-svg-dev libgl-dev fonts-liberation"
+TEST_PACKAGES="libgtest-dev libbenchmark-dev poppler-utils"
