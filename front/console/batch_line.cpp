@@ -52,13 +52,13 @@ std::string Digits(Value v) {
 /// family, so the printed value decides.
 struct Candidate {
   double ir;
-  std::initializer_list<const CheckLine*> lines;
+  std::array<const CheckLine*, 2> lines{};
 };
 
 const CheckLine* LineOf(const Candidate& candidate) {
   const std::string value = Format(candidate.ir, "0.00");
   for (const CheckLine* line : candidate.lines)
-    if (line->value == value) return line;
+    if (line != nullptr && line->value == value) return line;
   return nullptr;
 }
 
