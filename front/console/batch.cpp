@@ -12,7 +12,8 @@
 #include <utility>
 
 #include "core/text.h"
-#include "front/console/project_run.h"
+#include "front/console/exit_status.h"
+#include "front/console/run_design.h"
 #include "front/console/terminal.h"
 
 namespace korvane {
@@ -87,7 +88,7 @@ void BatchCounts::Add(const BatchCounts& other) {
 }
 
 int BatchCounts::ExitStatus() const {
-  if (unread > 0) return kCannotRead;
+  if (unread > 0) return kBadInput;
   if (fault > 0) return kArithmeticFailure;
   return fail > 0 ? kCheckFails : kAllPass;
 }
@@ -167,7 +168,7 @@ int RunBatch(std::shared_ptr<const Library> library, const BatchOptions& options
   const std::vector<std::string> all = FindProjects(options.inputs);
   if (all.empty()) {
     errors << "no project (*.kvn) found\n";
-    return kCannotRead;
+    return kBadInput;
   }
   const std::vector<std::string> files = TakeShard(all, options.shard, options.shards);
   const bool header = options.shard == 1;
@@ -186,7 +187,7 @@ int RunBatch(std::shared_ptr<const Library> library, const BatchOptions& options
     if (!table || std::rename(beside.c_str(), options.csv.c_str()) != 0) {
       std::remove(beside.c_str());
       errors << "can't save file - " << ToUtf8(options.csv) << '\n';
-      return kCannotRead;
+      return kBadInput;
     }
   }
   errors << Totals(counts);

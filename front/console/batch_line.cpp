@@ -10,7 +10,7 @@
 
 #include "core/text.h"
 #include "front/console/batch.h"
-#include "front/console/project_run.h"
+#include "front/console/run_design.h"
 #include "optimiser/optimize.h"
 #include "sections/profile_table.h"
 
@@ -124,13 +124,13 @@ void FillOptimised(Design& d, Line& line) {
 }
 
 void DesignOne(const std::string& path, Design& work, bool optimise, Line& line) {
-  const FileResult opened = OpenInDesign(path, work);
-  if (opened != FileResult::Ok) {
+  const DesignRun run = RunProject(work, path);
+  if (run.file != FileResult::Ok) {
     line.status = "error";
-    line.error = FileMessage(opened, path);
+    line.error = FileMessage(run.file, ToUtf8(path));
     return;
   }
-  CalculateOpened(work);
+  if (run.fault) throw ArithmeticFault(run.what);
   FillResults(work, line);
   if (optimise) FillOptimised(work, line);
 }
@@ -160,7 +160,7 @@ void AppendBatchLine(const std::string& path, const Design& started, Design& wor
     DesignOne(path, work, optimise, line);
   } catch (const ArithmeticFault& fault) {
     line.status = "fault";
-    line.error = FaultMessage(fault);
+    line.error = std::string("arithmetic failure in ") + fault.what();
   } catch (const std::exception& other) {
     line.status = "error";
     line.error = other.what();

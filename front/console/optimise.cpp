@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iomanip>
 #include <nlohmann/json.hpp>
 #include <ostream>
 #include <set>
@@ -11,7 +10,8 @@
 #include <utility>
 
 #include "core/text.h"
-#include "front/console/project_run.h"
+#include "front/console/exit_status.h"
+#include "front/console/run_design.h"
 #include "front/console/terminal.h"
 
 namespace korvane {
@@ -109,19 +109,20 @@ bool ArgumentsHold(const OptimiseOptions& options, std::ostream& errors) {
   return true;
 }
 
-/// Opens and calculates the project; false after a line on errors.
-bool Opened(const OptimiseOptions& options, Design& design, std::ostream& errors) {
-  const FileResult result = OpenInDesign(options.file, design);
-  if (result != FileResult::Ok) {
-    errors << FileMessage(result, options.file) << '\n';
-    return false;
+/// Opens and calculates the project; another status than kAllPass after a line on errors.
+int Opened(const OptimiseOptions& options, Design& design, std::ostream& errors) {
+  const DesignRun run = RunProject(design, options.file);
+  if (run.file != FileResult::Ok) {
+    errors << FileMessage(run.file, ToUtf8(options.file)) << '\n';
+    return kBadInput;
   }
   if (!CanOptimise(design.st)) {
     errors << kOnlyDatabaseProfiles << '\n';
-    return false;
+    return kBadInput;
   }
-  CalculateOpened(design);
-  return true;
+  if (!run.fault) return kAllPass;
+  errors << "arithmetic failure in " << run.what << '\n';
+  return kArithmeticFailure;
 }
 
 /// Saves the project with the section found. Returns the exit status.
@@ -133,7 +134,7 @@ int SaveBest(const OptimiseOptions& options, const std::optional<ProjectState>& 
   }
   if (SaveProject(options.save, *best) == FileResult::Ok) return kAllPass;
   errors << "can't save file - " << ToUtf8(options.save) << '\n';
-  return kCannotRead;
+  return kBadInput;
 }
 
 int Candidates(const std::vector<int>& rows) {
@@ -150,14 +151,13 @@ std::optional<Criterion> CriterionOf(const std::string& word) {
   return std::nullopt;
 }
 
-std::optional<std::vector<int>> RowsOf(const std::vector<std::string>& words,
-                                       std::string& unknown) {
+std::optional<std::vector<int>> RowsOf(const std::string& list, std::string& unknown) {
   std::set<int> rows;
-  for (const std::string& word : words) {
+  std::istringstream words(list);
+  for (std::string word; std::getline(words, word, ',');) {
     const auto all = AllOptimiserRows();
-    const auto found = std::find_if(all.begin(), all.end(), [&](const OptimiserRow& row) {
-      return Upper(word) == row.series || word == std::to_string(row.row);
-    });
+    const auto found = std::find_if(
+        all.begin(), all.end(), [&](const OptimiserRow& row) { return Upper(word) == row.series; });
     if (found == all.end()) {
       unknown = word;
       return std::nullopt;
@@ -201,11 +201,11 @@ std::vector<SearchedRow> SearchRows(Design& design, const std::vector<int>& rows
 
 int RunOptimise(std::shared_ptr<const Library> library, const OptimiseOptions& options,
                 std::ostream& output, std::ostream& errors, bool colour, bool showProgress) {
-  if (!ArgumentsHold(options, errors)) return kCannotRead;
+  if (!ArgumentsHold(options, errors)) return kBadInput;
   Design design = StartedDesign(std::move(library));
   ProgressBar bar(errors, showProgress, "sections");
   try {
-    if (!Opened(options, design, errors)) return kCannotRead;
+    if (const int failed = Opened(options, design, errors)) return failed;
     design.st.ManualBucklingCurves = 0;
     design.st.ResultView = *CriterionOf(options.criterion);
     if (options.limit) design.st.DeflectionLimit = static_cast<int>(std::nearbyint(*options.limit));
@@ -226,7 +226,7 @@ int RunOptimise(std::shared_ptr<const Library> library, const OptimiseOptions& o
     return best ? kAllPass : kCheckFails;
   } catch (const ArithmeticFault& fault) {
     bar.Finish();
-    errors << FaultMessage(fault) << '\n';
+    errors << "arithmetic failure in " << fault.what() << '\n';
     return kArithmeticFailure;
   }
 }

@@ -35,9 +35,9 @@ struct SearchedRow {
 /// The criterion of a word, nothing for an unknown one.
 std::optional<Criterion> CriterionOf(const std::string& word);
 
-/// The rows of words like "HEA" or "cfrhs", in rising order and each once. For a word that is no
-/// series, nothing, and the word in unknown.
-std::optional<std::vector<int>> RowsOf(const std::vector<std::string>& words, std::string& unknown);
+/// The rows of a list of series like "HEA,cfrhs", in rising order and each once; of an empty list
+/// none. For a word that is no series, nothing, and the word in unknown.
+std::optional<std::vector<int>> RowsOf(const std::string& list, std::string& unknown);
 
 /// The words of all series, separated by commas.
 std::string SeriesWords();
