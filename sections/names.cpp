@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sections/names.h"
 
+#include <array>
 #include <initializer_list>
 
 #include "core/text.h"
@@ -59,7 +60,7 @@ namespace {
 /// What an entry is made of: a word, the columns whose numbers follow, joined by "x".
 struct EntryForm {
   const char* word;
-  std::initializer_list<int> columns;
+  std::array<int, 4> columns;  ///< 0 after the last
 };
 
 EntryForm FormOf(Cat catalogue) {
@@ -159,7 +160,7 @@ std::string TypedTitle(const ProjectState& s) {
 }
 
 bool IsSingleNumber(Cat c) {
-  return FormOf(c).columns.size() == 1;
+  return FormOf(c).columns[1] == 0;
 }
 
 }  // namespace
@@ -180,6 +181,7 @@ std::string ListEntry(Cat catalogue, const Catalogues& cat, int row) {
   std::string text = form.word;
   bool first = true;
   for (const int col : form.columns) {
+    if (col == 0) break;
     if (!first) text += "x";
     text += Str(float32(cat[catalogue](row, col)));
     first = false;

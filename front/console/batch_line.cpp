@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One project of a batch: its design and its line.
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <exception>
+#include <initializer_list>
+#include <string_view>
+
+#include "core/text.h"
+#include "front/console/batch.h"
+#include "front/console/run_design.h"
+#include "optimiser/optimize.h"
+#include "sections/profile_table.h"
+
+namespace korvane {
+namespace {
+
+constexpr const char* kColumns =
+    "file,section,weight_kg_m,max_ir,governing,governing_text,deflection_ratio,status,error";
+constexpr const char* kOptimisedColumns = ",optimised_section,optimised_weight_kg_m,optimised_ir";
+
+/// The fields of a line; empty where the project did not get so far.
+struct Line {
+  std::string section, weight, maxIR, governing, governingText, deflection, status, error;
+  std::string optimisedSection, optimisedWeight, optimisedIR;
+};
+
+void AppendField(std::string_view field, std::string& lines) {
+  if (field.find_first_of(",\"\r\n") == std::string_view::npos) {
+    lines += field;
+    return;
+  }
+  lines += '"';
+  for (const char c : field) {
+    if (c == '"') lines += '"';
+    lines += c;
+  }
+  lines += '"';
+}
+
+/// The shortest digits that read back to the same value.
+template <class Value>
+std::string Digits(Value v) {
+  std::array<char, 32> text{};
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), v).ptr;
+  return {text.data(), end};
+}
+
+/// A ratio with the lines that may show it. Which line a buckling ratio goes to differs with the
+/// family, so the printed value decides.
+struct Candidate {
+  double ir;
+  std::array<const CheckLine*, 2> lines{};
+};
+
+const CheckLine* LineOf(const Candidate& candidate) {
+  const std::string value = Format(candidate.ir, "0.00");
+  for (const CheckLine* line : candidate.lines)
+    if (line != nullptr && line->value == value) return line;
+  return nullptr;
+}
+
+/// The line of the greatest ratio, or nullptr where no line shows it.
+const CheckLine* GoverningLine(const CheckResults& c) {
+  const double corner =
+      c.hasCorners ? *std::max_element(c.cornerIR.begin(), c.cornerIR.end()) : 0.0;
+  const std::array<Candidate, 9> candidates{{
+      {c.IRsection, {&c.lineSection}},
+      {c.IRvz, {&c.lineVz}},
+      {c.IRvy, {&c.lineVy}},
+      {c.IRlateral, {&c.lineLateral}},
+      {c.IRny, {&c.lineBucklingY, &c.lineBucklingZ}},
+      {c.IRnz, {&c.lineBucklingZ, &c.lineBucklingY}},
+      {c.IRcombinedY, {&c.lineBucklingY, &c.lineBucklingZ}},
+      {c.IRcombinedZ, {&c.lineBucklingZ, &c.lineBucklingY}},
+      {corner, {&c.lineSection}},
+  }};
+  const auto governing =
+      std::max_element(candidates.begin(), candidates.end(),
+                       [](const Candidate& a, const Candidate& b) { return a.ir < b.ir; });
+  return governing->ir > 0.0 ? LineOf(*governing) : nullptr;
+}
+
+/// x of the greatest deflection L/x of both planes; empty without deflection, and with end
+/// forces, which give none.
+std::string DeflectionRatio(const Design& d) {
+  if (d.st.AnalysisMode != 1) return {};
+  double greatest = 0.0;
+  for (const double v : {d.deflections.DeflZ_max, d.deflections.DeflZ_min, d.deflections.DeflY_max,
+                         d.deflections.DeflY_min})
+    greatest = std::max(greatest, std::fabs(v));
+  if (greatest == 0.0) return {};
+  return Digits(static_cast<float>(d.st.L * 1000.0 / greatest));
+}
+
+void FillResults(const Design& d, Line& line) {
+  const float maxIR = MaxIR(d.checks);
+  line.section = SectionTitle(d.st, d.lib->catalogues);
+  line.weight = Digits(d.rec.S.Single());
+  line.maxIR = Digits(maxIR);
+  if (const CheckLine* governing = GoverningLine(d.checks)) {
+    line.governing = governing->label;
+    line.governingText =
+        governing->formula + governing->numbers + governing->value + governing->limit;
+  }
+  line.deflection = DeflectionRatio(d);
+  line.status = static_cast<double>(maxIR) > d.st.iufa ? "fail" : "pass";
+}
+
+/// The lightest size of the project's own series by ULS; nothing for a family without a series
+/// and where no size passes.
+void FillOptimised(Design& d, Line& line) {
+  d.st.ManualBucklingCurves = 0;
+  d.st.ResultView = kCriterionUls;
+  OptimiserResults results;
+  if (!OptimiseCurrent(d, results)) return;
+  const int row = d.st.ProfileType;
+  if (!results.Passes[row]) return;
+  line.optimisedSection = SectionTitle(d.st, d.lib->catalogues);
+  line.optimisedWeight = Digits(d.rec.S.Single());
+  line.optimisedIR = Digits(results.BestIR[row].Single());
+}
+
+void DesignOne(const std::string& path, Design& work, bool optimise, Line& line) {
+  const DesignRun run = RunProject(work, path);
+  if (run.file != FileResult::Ok) {
+    line.status = "error";
+    line.error = FileMessage(run.file, ToUtf8(path));
+    return;
+  }
+  if (run.fault) throw ArithmeticFault(run.what);
+  FillResults(work, line);
+  if (optimise) FillOptimised(work, line);
+}
+
+void Count(const std::string& status, BatchCounts& counts) {
+  if (status == "pass")
+    ++counts.pass;
+  else if (status == "fail")
+    ++counts.fail;
+  else if (status == "fault")
+    ++counts.fault;
+  else
+    ++counts.unread;
+}
+
+}  // namespace
+
+std::string BatchHeader(bool optimise) {
+  return std::string(kColumns) + (optimise ? kOptimisedColumns : "") + "\n";
+}
+
+void AppendBatchLine(const std::string& path, const Design& started, Design& work, bool optimise,
+                     std::string& lines, BatchCounts& counts) {
+  Line line;
+  work = started;
+  try {
+    DesignOne(path, work, optimise, line);
+  } catch (const ArithmeticFault& fault) {
+    line.status = "fault";
+    line.error = std::string("arithmetic failure in ") + fault.what();
+  } catch (const std::exception& other) {
+    line.status = "error";
+    line.error = other.what();
+  }
+  Count(line.status, counts);
+  AppendField(ToUtf8(path), lines);
+  for (const std::string* field :
+       {&line.section, &line.weight, &line.maxIR, &line.governing, &line.governingText,
+        &line.deflection, &line.status, &line.error}) {
+    lines += ',';
+    AppendField(*field, lines);
+  }
+  if (optimise)
+    for (const std::string* field :
+         {&line.optimisedSection, &line.optimisedWeight, &line.optimisedIR}) {
+      lines += ',';
+      AppendField(*field, lines);
+    }
+  lines += '\n';
+}
+
+}  // namespace korvane

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a terminal gets and a file or pipe does not: colour and a progress bar.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <ostream>
+#include <string>
+
+namespace korvane {
+
+/// Whether the standard output, or the standard error output, is a terminal.
+bool OutputIsTerminal();
+bool ErrorsAreTerminal();
+
+/// Whether results on the standard output are coloured: on a terminal, unless NO_COLOR is set.
+bool ColourWanted();
+
+/// The text in red when colour is wanted.
+std::string Red(const std::string& text, bool colour);
+
+/// One line that is rewritten in place: bar, count, rate and time left. Writes nothing when it
+/// is not shown; rewrites itself ten times a second at most.
+class ProgressBar {
+public:
+  ProgressBar(std::ostream& out, bool shown, std::string unit);
+  void Update(std::size_t done, std::size_t all);
+  /// Takes the line off the terminal.
+  void Finish();
+
+private:
+  using Clock = std::chrono::steady_clock;
+  std::ostream& out_;
+  bool shown_;
+  bool drawn_ = false;
+  std::string unit_;
+  Clock::time_point start_ = Clock::now();
+  Clock::time_point next_ = start_;
+};
+
+/// The line of a progress bar, without the carriage return.
+std::string ProgressLine(std::size_t done, std::size_t all, double seconds,
+                         const std::string& unit);
+
+}  // namespace korvane

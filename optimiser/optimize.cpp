@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "optimiser/optimize.h"
+
+#include <array>
+#include <cmath>
+
+#include "core/text.h"
+
+namespace korvane {
+namespace {
+
+using S = ProjectState;
+
+constexpr std::array<OptimiserRow, kOptimiserRows> kRows{{
+    {1, 1, "HEA", "HEA", SizeText::Number, Cat::HEA, 23, &S::idxHEA},
+    {2, 2, "HEB", "HEB", SizeText::Number, Cat::HEB, 23, &S::idxHEB},
+    {3, 3, "HEM", "HEM", SizeText::Number, Cat::HEM, 23, &S::idxHEM},
+    {4, 4, "IPE", "IPE", SizeText::Number, Cat::IPE, 17, &S::idxIPE},
+    {5, 5, "UPE", "UPE", SizeText::Number, Cat::UPE, 13, &S::idxUPE},
+    {6, 6, "SHS", "RHS ", SizeText::Square, Cat::SHS, 100, &S::idxRHSs},
+    {7, 7, "RHS", "RHS", SizeText::Rectangular, Cat::RHS, 157, &S::idxRHSr},
+    {8, 8, "CFSHS", "CHRHS", SizeText::Rectangular, Cat::CFSHS, 98, &S::idxCFRHSs},
+    {9, 9, "CFRHS", "CFRHS", SizeText::Rectangular, Cat::CFRHS, 115, &S::idxCFRHSr},
+    {10, 10, "L1", "L ", SizeText::Square, Cat::L1, 59, &S::idxLeq},
+    {11, 11, "L2", "L ", SizeText::Rectangular, Cat::L2, 48, &S::idxLuneq},
+}};
+
+/// No section of a catalogue is heavier than a search starts with, kg/m.
+constexpr double kStartWeight = 1000.0;
+
+/// The ULS limit of a search. Row 11 compares with 1 whatever iufa is: kept as it always was.
+double UlsLimit(const OptimiserRow& row, const ProjectState& st) {
+  return row.row == 11 ? 1.0 : static_cast<double>(st.iufa);
+}
+
+/// L/deflection of the z plane against the limit; no deflection is a division by zero.
+bool DeflectionPasses(const Design& design) {
+  const double deflection = std::fabs(design.deflections.DeflZ_max);
+  if (deflection == 0.0) throw CalculationFault("optimiser deflection", "division by zero");
+  return design.st.L * 1000.0 / deflection > design.st.DeflectionLimit;
+}
+
+/// The search's own test: strictly below the limit, where the checks let the limit itself pass.
+bool Accepts(const OptimiserRow& row, const Design& design, double ir) {
+  const bool uls = ir < UlsLimit(row, design.st);
+  switch (design.st.ResultView) {
+    case kCriterionUls:
+      return uls;
+    case kCriterionSls:
+      return DeflectionPasses(design);
+    default:
+      return DeflectionPasses(design) && uls;
+  }
+}
+
+std::string SizeName(const OptimiserRow& row, const CatalogueTable& table, int index) {
+  if (row.size == SizeText::Number) return row.word + Format(table(index, 1), "00");
+  const bool square = row.size == SizeText::Square;
+  const auto text = [&](int column) { return Str(float32(table(index, column))); };
+  return row.word + text(1) + "x" + text(square ? 1 : 2) + "x" + text(square ? 2 : 3);
+}
+
+std::string DeflectionText(const Design& design) {
+  const double stiff = design.deflections.DeflStiff;
+  if (stiff == 0.0) return "No load";
+  return "L/" + Format(std::fabs(design.st.L * 1000.0 / (stiff / design.rec.Iy)), "#0");
+}
+
+}  // namespace
+
+std::span<const OptimiserRow> AllOptimiserRows() {
+  return kRows;
+}
+
+const OptimiserRow& OptimiserRowOf(int row) {
+  if (row < 1 || row > kOptimiserRows) throw ArithmeticFault("index out of range");
+  return kRows[static_cast<std::size_t>(row - 1)];
+}
+
+bool CanOptimise(const ProjectState& st) {
+  return st.ProfileType <= kOptimiserRows;
+}
+
+void SearchRow(Design& design, int row, OptimiserResults& results, const SearchProgress& progress) {
+  const OptimiserRow& series = OptimiserRowOf(row);
+  ProjectState& st = design.st;
+  int16& index = st.*series.index;
+  float32& ir = results.BestIR[row];
+  st.ProfileType = series.ProfileType;
+  results.Passes[row] = false;
+  double bestWeight = kStartWeight;
+  int best = 0;
+  bool accepted = false;
+  for (int k = 0; k <= series.last; ++k) {
+    index = k;
+    SilentRecalculation(design);
+    ir = MaxIR(design.checks);
+    if (Accepts(series, design, ir) && design.rec.S < bestWeight) {
+      bestWeight = design.rec.S;
+      best = k;
+      accepted = true;
+    }
+    if (progress) progress(k + 1, series.last + 1);
+  }
+  // Only the last size decides whether the one found is taken, and by its ratio alone, also for
+  // the deflection criterion.
+  index = ir > st.iufa ? series.last : best;
+  SilentRecalculation(design);
+  ir = MaxIR(design.checks);
+  results.Passes[row] =
+      accepted && index == best && (st.ResultView == kCriterionSls || !(ir > st.iufa));
+}
+
+OptimiserRowView ShowRow(const Design& design, int row, OptimiserResults& results) {
+  const OptimiserRow& series = OptimiserRowOf(row);
+  if (row >= 6) results.BestIR[row] = MaxIR(design.checks);
+  OptimiserRowView view;
+  view.S = design.rec.S;
+  view.g = design.rec.g;
+  view.IR = results.BestIR[row];
+  view.name = SizeName(series, design.lib->catalogues[series.catalogue], design.st.*series.index);
+  view.weight = Format(view.S, "#00.0");
+  view.surface = Format(view.g, "#0.00");
+  view.ir = Format(view.IR, "#0.00");
+  view.deflection = DeflectionText(design);
+  return view;
+}
+
+int RowShownOnReSearch(int row) {
+  return row == 3 ? 1 : row;
+}
+
+bool TakeOverRow(Design& design, const OptimiserResults& results) {
+  if (results.RowChosen < 1 || results.RowChosen > kOptimiserRows) return false;
+  design.st.ProfileType = OptimiserRowOf(results.RowChosen).ProfileType;
+  SilentRecalculation(design);
+  return true;
+}
+
+bool OptimiseCurrent(Design& design, OptimiserResults& results, const SearchProgress& progress) {
+  const int family = design.st.ProfileType;
+  if (family < 1 || family > kOptimiserRows) return false;
+  SearchRow(design, family, results, progress);
+  return true;
+}
+
+}  // namespace korvane
