@@ -9,6 +9,18 @@
 
 namespace korvane {
 
+/// Members of the state that hold one trapezoid.
+struct Trapezoid {
+  float32 ProjectState::*q1;
+  float32 ProjectState::*q2;
+  float32 ProjectState::*x1;
+  float32 ProjectState::*x2;
+  int16 ProjectState::*pv;
+  int16 ProjectState::*yz;
+};
+/// Trapezoid 1 to 3.
+const Trapezoid& TrapezoidOf(int t);
+
 /// Loads of one plane. Index 1..3 trapezoids, 1..8 load entries. kN/m, kN, kNm.
 struct PlaneLoads {
   float32 q;                        ///< full line load
@@ -39,6 +51,9 @@ double AxialForceUls(const ProjectState& st);
 
 /// Sum over the z line loads of factor times load, without self weight (kN/m), ULS.
 double FlangeLineLoad(const ProjectState& st);
+
+/// Sum over the line loads that lie on axis z of SLS factor times load (kN/m), for the mass.
+double ModalLineLoad(const ProjectState& st);
 
 /// Members carried by a plate (IsPlateType) lose axial loads and everything in the y direction,
 /// for good; trapezoid 3 is deliberately left as it stands. Other types are not touched.

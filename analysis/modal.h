@@ -7,8 +7,8 @@
 namespace korvane {
 
 struct ModalResults {
-  number ModalMass;                     ///< kg/m
-  Indexed<number, 1, 3> ModalFreq;      ///< Hz
+  number ModalMass;                 ///< kg/m
+  Indexed<number, 1, 3> ModalFreq;  ///< Hz
 };
 
 /// Mass from the z line loads (SLS factors; 1 kN/m counts as 102 kg/m) and the section's weight

@@ -344,7 +344,12 @@ void ComposeLines(const Family* family, const ProjectState& st, const SectionRec
   out.lineVz = {};
   out.lineVy = {};
   out.lineLateral = {};
-  if (family == nullptr) return;
+  if (family == nullptr || family->sectionControl == SectionControlKind::None) {
+    out.lineBucklingY = {};
+    out.lineBucklingZ = {};
+    out.lineSlenderness = {};
+    return;
+  }
   ComposeSection(*family, st, ltb, out);
   if (!out.bucklingRan) return;
   const BucklingNumbers n{st, rec, beam, b, out, f.N, LateralReduction(st, ltb), family->buckling};

@@ -9,7 +9,8 @@
 namespace korvane {
 
 /// Writes all CheckLines of a calculation: section control, and column buckling where it ran
-/// (else its lines keep the text of the last run). A null family has no checks: empty lines.
+/// (else its lines keep the text of the last run). A family without a control, or null, has no
+/// lines at all.
 void ComposeLines(const Family* family, const ProjectState& st, const SectionRecord& rec,
                   const SectionForces& f, const BeamResults& beam, const LtbResults& ltb,
                   const BucklingResults& b, CheckResults& out);

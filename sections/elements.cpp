@@ -76,7 +76,7 @@ int GoverningClass(const ProjectState& st, int webClass, int flangeClass) {
 BentSection ReduceInBending(const CompressedSide& s, double eps) {
   const double moment = s.z * s.A;
   const double A1 = s.A - s.removed;
-  const double e1 = (moment - s.removed * s.t / 2) / A1;
+  const double e1 = (moment - s.removedMoments * s.t / 2) / A1;
   const double hc = e1 - s.t;
   const double psi = -(s.depth - hc) / hc;
   const double rho = EffectiveWidth(s.webRatio, eps, InternalBendingFactor(psi), s.ignoreWeb);
@@ -84,10 +84,10 @@ BentSection ReduceInBending(const CompressedSide& s, double eps) {
   const double strip = (1 - rho) * s.webs * hc;
   const double m = e1 - 0.6 * rho * hc - (1 - rho) * hc / 2;
   const double A2 = A1 - strip;
-  const double e2 = (moment - strip * m - s.removed * s.t / 2) / A2;
+  const double e2 = (moment - strip * m - s.removedMoments * s.t / 2) / A2;
   const double own = s.fullStripInertia ? (1 - rho) * s.webs * hc * hc * hc / 12
                                         : s.webs * std::pow((1 - rho) * hc, 3) / 12;
-  const double flange = s.removedInertia * (s.t * s.t / 12 + s.t * s.t / 4);
+  const double flange = s.removedMoments * (s.t * s.t / 12 + s.t * s.t / 4);
   return {e2, s.z * moment + s.I - own - strip * m * m - flange - A2 * e2 * e2};
 }
 

@@ -58,7 +58,7 @@ struct CompressedSide {
   double z;               ///< compressed edge to elastic axis
   double t;               ///< thickness of the compressed flange
   double removed;         ///< area removed from the flange
-  double removedInertia;  ///< removed area as the inertia terms count it
+  double removedMoments;  ///< removed area as first and second moments count it
   double webs;            ///< total thickness of the webs
   double depth;           ///< web depth in psi
   double webRatio;        ///< slenderness of one web

@@ -113,7 +113,7 @@ void EffectiveModuli(const ProjectState& st, const RemovedFlange& top, const Rem
                      double webs, double H, double depth, bool fullStripInertia,
                      SectionRecord& rec) {
   const auto bend = [&](const RemovedFlange& flange, double z) {
-    return ReduceInBending({rec.A, rec.Iy, z, flange.t, flange.area, flange.inertiaArea, webs,
+    return ReduceInBending({rec.A, rec.Iy, z, flange.t, flange.area, flange.momentArea, webs,
                             depth, rec.d / rec.tw, st.IgnoreWebBuckling == 1, fullStripInertia},
                            st.epsilon);
   };

@@ -22,10 +22,10 @@ void LoadSingleI(const ProjectState& st, const Catalogues& cat, SectionRecord& r
 /// distance of their middles in a section of overall height H (rec: b1, tf1, b2, tf2, ezel).
 void TwoFlangeWarping(double H, SectionRecord& rec);
 
-/// One flange of a singly symmetric section: thickness, area removed, area removed as the
-/// inertia counts it.
+/// One flange of a singly symmetric section: thickness, area removed, area removed as its
+/// moments count it.
 struct RemovedFlange {
-  double t, area, inertiaArea;
+  double t, area, momentArea;
 };
 
 /// Weffy1c, Weffy2t, Weffy2c, Weffy1t for the flanges given; webs: total thickness; H: overall

@@ -238,7 +238,7 @@ void AngleStiffenerEffective(const ProjectState& st, SectionRecord& rec) {
   };
   const double top = 2 * outstand(rec.c1, rec.tf1);
   const double leg = outstand(rec.c2, rec.tf2);
-  // The leg is one-sided, yet the inertia terms and Aeff count it twice: kept.
+  // The leg is one-sided, yet its moments and Aeff count it twice: kept.
   EffectiveModuli(st, {rec.tf1, top, top}, {rec.tf2, leg, 2 * leg}, rec.tw, rec.h, rec.hw, false,
                   rec);
   const double rhow = EffectiveWidth(rec.d / rec.tw, st.epsilon, 4, st.IgnoreWebBuckling == 1);
