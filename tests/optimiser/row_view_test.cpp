@@ -35,7 +35,7 @@ Design Shown() {
   design.rec.Iy = 2.0e7;
   design.deflections.DeflStiff = 2.0e8;
   design.st.L = 5.0;
-  design.checks.IRsection = 0.775;
+  design.checks.IRsection = 0.78125;
   return design;
 }
 
@@ -100,7 +100,7 @@ TEST(RowView, Rows6To11TakeTheRatioOfTheLastRecalculation) {
     OptimiserResults results;
     results.BestIR[row] = 0.25;
     EXPECT_EQ(ShowRow(design, row, results).ir, row >= 6 ? "0.78" : "0.25") << row;
-    EXPECT_FLOAT_EQ(results.BestIR[row].Single(), row >= 6 ? 0.775F : 0.25F) << row;
+    EXPECT_FLOAT_EQ(results.BestIR[row].Single(), row >= 6 ? 0.78125F : 0.25F) << row;
   }
 }
 

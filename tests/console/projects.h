@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Project files for the tests of the console's commands.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "../core/temp_folder.h"
+#include "core/calculation.h"
+#include "core/project_file.h"
+#include "sections/profile_table.h"
+
+namespace korvane {
+
+inline const std::shared_ptr<const Library>& SharedLibrary() {
+  static const std::shared_ptr<const Library> library = ReadLibrary(KORVANE_SOURCE_DIR "/data");
+  return library;
+}
+
+/// Saves a new project with the test's changes.
+inline void PutProject(const std::string& path,
+                       const std::function<void(ProjectState&)>& change = {}) {
+  Design design(SharedLibrary());
+  StartDesign(design);
+  if (change) change(design.st);
+  if (SaveProject(path, design.st) != FileResult::Ok) throw std::runtime_error("not saved");
+}
+
+/// count projects p000.kvn, p001.kvn, ... of all families, with lengths and loads of their own:
+/// some pass and some fail.
+inline void PutProjects(const TempFolder& folder, int count) {
+  const auto families = AllFamilies();
+  for (int i = 0; i < count; ++i) {
+    const std::string number = std::to_string(1000 + i).substr(1);
+    PutProject(folder / ("p" + number + ".kvn"), [&](ProjectState& st) {
+      st.ProfileType = families[static_cast<std::size_t>(i) % families.size()].code;
+      st.L = 2.0 + 0.13 * (i % 50);
+      st.q1 = 2.0 + i % 37;
+      st.NP = 10.0 * (i % 23);
+      st.SupportType = i % 6;
+    });
+  }
+}
+
+}  // namespace korvane
