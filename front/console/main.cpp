@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The console program: designs of members for scripts and batches.
-#include <unistd.h>
-
 #include <CLI/CLI.hpp>
 #include <cstdio>
-#include <cstdlib>
 #include <iostream>
 
 #include "front/console/data_folder.h"
 #include "front/console/design_json.h"
 #include "front/console/design_text.h"
+#include "front/console/exit_status.h"
+#include "front/console/more_commands.h"
 #include "front/console/run_design.h"
+#include "front/console/terminal.h"
 #include "sections/names.h"
 #include "sections/profile_table.h"
 
@@ -18,9 +18,7 @@ namespace {
 
 using namespace korvane;
 
-enum Exit { kPass = 0, kFail = 1, kBadInput = 2, kFault = 3 };
-
-bool WantsColour() {
+bool ColourWanted() {
   return isatty(STDOUT_FILENO) && std::getenv("NO_COLOR") == nullptr;
 }
 
@@ -36,10 +34,10 @@ int RunDesign(const std::string& file, const std::string& data, bool json) {
   if (json) {
     std::cout << DesignJson(design, run.fault) << "\n";
   } else if (!run.fault) {
-    std::cout << DesignText(design, WantsColour());
+    std::cout << DesignText(design, ColourWanted());
   }
-  if (run.fault) return kFault;
-  return MaxIR(design.checks) <= design.st.iufa ? kPass : kFail;
+  if (run.fault) return kArithmeticFailure;
+  return MaxIR(design.checks) <= design.st.iufa ? kAllPass : kCheckFails;
 }
 
 int RunNew(const std::string& output, const std::string& data) {
@@ -47,9 +45,9 @@ int RunNew(const std::string& output, const std::string& data) {
   StartDesign(design);
   if (output.empty()) {
     std::cout << ProjectText(design.st);
-    return kPass;
+    return kAllPass;
   }
-  if (SaveProject(output, design.st) == FileResult::Ok) return kPass;
+  if (SaveProject(output, design.st) == FileResult::Ok) return kAllPass;
   std::cerr << "can't save file - " << output << "\n";
   return kBadInput;
 }
@@ -91,7 +89,7 @@ int RunCatalogue(const std::string& name, const std::string& data) {
       std::erase(caption, '&');
       std::printf("%4d  %s\n", family.code, caption.c_str());
     }
-    return kPass;
+    return kAllPass;
   }
   const Family* family = FamilyByName(name);
   if (family == nullptr) {
@@ -100,7 +98,7 @@ int RunCatalogue(const std::string& name, const std::string& data) {
   }
   ListSizes(*family, cat);
   std::fflush(stdout);
-  return kPass;
+  return kAllPass;
 }
 
 }  // namespace
@@ -114,7 +112,7 @@ int main(int argc, char** argv) {
   std::string output;
   std::string family;
   bool json = false;
-  int status = kPass;
+  int status = kAllPass;
 
   const auto addData = [&](CLI::App* command) {
     command->add_option("--data", data, "folder of the data files");
@@ -135,11 +133,13 @@ int main(int argc, char** argv) {
   addData(catalogue);
   catalogue->callback([&] { status = RunCatalogue(family, data); });
 
+  AddBatchCommands(app, status);
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     const int code = app.exit(error);
-    return code == 0 ? kPass : kBadInput;
+    return code == 0 ? kAllPass : kBadInput;
   } catch (const DataFolderError& error) {
     std::cerr << error.what() << "\n";
     return kBadInput;
