@@ -38,6 +38,7 @@ expect 'sls' korvane-cli optimise a.kvn --criterion s
 expect 'sls|uls|uls-sls' korvane-cli optimise a.kvn --criterion ''
 expect 'CFRHS|CFSHS' korvane-cli optimise --families C
 expect 'HEA,IPE,HEA|HEA,IPE,HEB|HEA,IPE,HEM' korvane-cli optimise --families HEA,IPE,H
+expect 'U|UNP|UPE' korvane-cli catalogue U
 expect 'comma|point' korvane-cli session --decimal ''
 expect 'projects' korvane-cli design --data ''
 expect '' korvane-cli optimise --limit ''
