@@ -143,9 +143,13 @@ void Calculate(Design& d) {
   if (d.st.ModalAnalysis == 1) {
     RunStep("ModalAnalysis", [&] { ModalAnalysisRun(d.st, d.rec.S, d.rec.Iy, d.modal); });
   }
+  ComposeResults(d);
+  RefreshState(d.st);
+}
+
+void ComposeResults(Design& d) {
   ComposeLines(FindFamily(d.st.ProfileType), d.st, d.rec, d.forces, d.beam, d.ltb, d.buckling,
                d.checks);
-  RefreshState(d.st);
 }
 
 void SilentRecalculation(Design& d) {

@@ -71,6 +71,9 @@ void StartDesign(Design& design);
 /// where a step fails; results stay as far as the calculation had got.
 void Calculate(Design& design);
 
+/// Composes the result lines from the numbers of the last calculation, silent ones too.
+void ComposeResults(Design& design);
+
 /// The optimiser's calculation: section, analysis, checks, deflections, in this order; no text
 /// is composed and nothing is allocated. Throws CalculationFault.
 void SilentRecalculation(Design& design);

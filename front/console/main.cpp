@@ -2,6 +2,7 @@
 // The console program: designs of members for scripts and batches.
 #include <CLI/CLI.hpp>
 #include <cstdio>
+#include <fstream>
 #include <iostream>
 
 #include "front/console/data_folder.h"
@@ -10,6 +11,7 @@
 #include "front/console/exit_status.h"
 #include "front/console/more_commands.h"
 #include "front/console/run_design.h"
+#include "front/console/script.h"
 #include "front/console/terminal.h"
 #include "sections/names.h"
 #include "sections/profile_table.h"
@@ -101,6 +103,18 @@ int RunCatalogue(const std::string& name, const std::string& data) {
   return kAllPass;
 }
 
+int RunSession(const std::string& script, const std::string& decimal, const std::string& data) {
+  const auto library = ReadLibrary(FindDataFolder(data));
+  const bool comma = decimal.empty() ? LocaleWritesComma() : decimal == "comma";
+  if (script.empty()) return RunScript(library, comma, std::cin, std::cout, std::cerr);
+  std::ifstream file(script);
+  if (!file) {
+    std::cerr << "can't find file - " << script << "\n";
+    return kBadInput;
+  }
+  return RunScript(library, comma, file, std::cout, std::cerr);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -133,6 +147,13 @@ int main(int argc, char** argv) {
   addData(catalogue);
   catalogue->callback([&] { status = RunCatalogue(family, data); });
 
+  CLI::App* session = app.add_subcommand("session", "drive the program from a script");
+  session->add_option("script", file, "script, one action a line (else standard input)");
+  std::string decimal;
+  session->add_option("--decimal", decimal, "decimal separator: point or comma")
+      ->check(CLI::IsMember({"point", "comma"}));
+  addData(session);
+  session->callback([&] { status = RunSession(file, decimal, data); });
   AddBatchCommands(app, status);
 
   try {

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The typed dimensions of the section families with their limits.
+#pragma once
+
+#include <vector>
+
+#include "front/form_table.h"
+
+namespace korvane {
+
+/// Appends the input fields of a family; none for a family that is only chosen from a list.
+void AddTypedFields(int code, std::vector<Control>& controls);
+
+}  // namespace korvane

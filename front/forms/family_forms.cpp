@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One form for each section family: the list of sizes or the typed dimensions, the figure, and
+// the values of the section.
+#include <algorithm>
+#include <cctype>
+
+#include "front/forms/family_fields.h"
+#include "front/forms/forms.h"
+#include "front/session.h"
+#include "sections/names.h"
+#include "sections/profile_table.h"
+#include "sections/shown_values.h"
+
+namespace korvane {
+
+namespace {
+
+/// The state field that holds the chosen row of a family.
+int16 ProjectState::*IndexOf(const ProjectState& st) {
+  using S = ProjectState;
+  switch (st.ProfileType) {
+    case 1:
+      return &S::idxHEA;
+    case 2:
+      return &S::idxHEB;
+    case 3:
+      return &S::idxHEM;
+    case 4:
+      return &S::idxIPE;
+    case 5:
+      return &S::idxUPE;
+    case 6:
+      return &S::idxRHSs;
+    case 7:
+      return &S::idxRHSr;
+    case 8:
+      return &S::idxCFRHSs;
+    case 9:
+      return &S::idxCFRHSr;
+    case 10:
+      return &S::idxLeq;
+    case 11:
+      return &S::idxLuneq;
+    case 15:
+      return &S::idxINP;
+    case 16:
+      return &S::idxUNP;
+    case 52:
+      return &S::p52_index;
+    case 54:
+      return &S::p54_index;
+    case 101:
+      return st.p101_sub == 2 ? &S::p101_idx2 : st.p101_sub == 3 ? &S::p101_idx3 : &S::p101_idx1;
+    case 102:
+      return &S::p102_idx;
+    case 103:
+      return st.p103_sub == 2 ? &S::p103_idx2 : &S::p103_idx1;
+    default:
+      return nullptr;
+  }
+}
+
+/// The state with this family in force, for the list of its own form.
+ProjectState WithFamily(const Session& s, int code) {
+  ProjectState st = s.st();
+  st.ProfileType = code;
+  return st;
+}
+
+Control SizeControl(int code) {
+  Control c;
+  c.name = code == 10 || code == 11 ? "cbo" : "Cbo";
+  c.kind = Kind::List;
+  c.items = [code](const Session& s) {
+    const SizeList sizes = SizesOf(WithFamily(s, code));
+    std::vector<std::string> entries;
+    for (int row = 0; row < ListLength(sizes.catalogue); ++row) {
+      entries.push_back(ListEntry(sizes.catalogue, s.design().lib->catalogues, row));
+    }
+    return entries;
+  };
+  c.selected = [code](const Session& s) { return SizesOf(WithFamily(s, code)).row; };
+  c.select = [code](Session& s, int index) {
+    ProjectState st = WithFamily(s, code);
+    s.st().*IndexOf(st) = index;
+    s.Calculate();
+  };
+  return c;
+}
+
+/// The catalogues of the British families.
+void AddSubFamilies(int code, std::vector<Control>& c) {
+  const auto option = [&](int sub, const char* caption, int16 ProjectState::*member) {
+    c.push_back(ValueOption("prof" + std::to_string(sub), caption, member, sub));
+  };
+  if (code == 101) {
+    option(1, "UB", &ProjectState::p101_sub);
+    option(2, "UC", &ProjectState::p101_sub);
+    option(3, "UBP", &ProjectState::p101_sub);
+  } else if (code == 103) {
+    option(1, "PFC", &ProjectState::p103_sub);
+    option(2, "CH", &ProjectState::p103_sub);
+  }
+}
+
+void AddHollowExtras(int code, std::vector<Control>& c) {
+  if (code == 7 || code == 9) {
+    c.push_back(Picture("cbuttbucklingy", "Turn the section by 90 degrees", [](Session& s) {
+      s.st().RhsOrientation = s.st().RhsOrientation == 1 ? 0 : 1;
+      s.Calculate();
+    }));
+  }
+  const bool cold = code == 8 || code == 9;
+  c.push_back(TextLabel("str", [cold](const Session& s) {
+    if (!cold) return std::string(" r = 1.5*t ");
+    return "r = " + s.Shown(s.design().rec.r, "##0.0") + " mm";
+  }));
+  if (cold) c.back().tip = " r = 2*t ; t<=6 \n r = 2.5*t ; 6<t<=10 \n r = 3*t ; t>10 ";
+}
+
+/// Capacities carry the older symbols of the standard in their controls' names.
+constexpr std::pair<std::string_view, std::string_view> kCapacityNames[] = {
+    {"Ntd", "ontrd"},   {"Ncd", "oncrd"},      {"Ncrd", "oncrd"},        {"Mdy", "omcyrd"},
+    {"Mdz", "omczrd"},  {"MdyTop", "omcyrd1"}, {"MdyBottom", "omcyrd2"}, {"Vdz", "ovrzd"},
+    {"Vdy", "ovryd"},   {"Mud1", "omrud1"},    {"Mud2", "omrud2"},       {"Mud3", "omrud3"},
+    {"Mvd1", "omrvd1"}, {"Mvd2", "omrvd2"},    {"Mvd3", "omrvd3"}};
+
+std::string ControlName(std::string_view symbol) {
+  for (const auto& [capacity, control] : kCapacityNames) {
+    if (capacity == symbol) return std::string(control);
+  }
+  std::string name = "ost";
+  for (const char ch : symbol) {
+    if (std::isalnum(static_cast<unsigned char>(ch))) {
+      name += static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
+    }
+  }
+  return name;
+}
+
+using Values = ShownValues (*)(const ProjectState&, const SectionRecord&);
+
+/// One label for each value of a block: its text is value and unit, its caption the symbol.
+void AddValueLabels(int code, Values values, std::vector<Control>& c) {
+  ProjectState st;
+  st.ProfileType = code;
+  st.p103_sub = 2;  // the longer list; a value that the sub-family lacks is hidden
+  const SectionRecord none;
+  for (const ShownValue& v : values(st, none)) {
+    const std::string symbol(v.name);
+    const auto find = [values, symbol](const Session& s) {
+      const ShownValues all = values(s.st(), s.design().rec);
+      const auto it = std::find_if(all.begin(), all.end(),
+                                   [&](const ShownValue& x) { return x.name == symbol; });
+      return it == all.end() ? std::string() : it->text + " " + std::string(it->unit);
+    };
+    Control label = TextLabel(ControlName(symbol), [find](const Session& s) {
+      std::string text = find(s);
+      if (s.DecimalComma()) std::replace(text.begin(), text.end(), '.', ',');
+      return text;
+    });
+    label.caption = symbol + " =";
+    label.visible = [find](const Session& s) { return !find(s).empty(); };
+    c.push_back(std::move(label));
+  }
+}
+
+void AddCommon(int code, const char* form, std::vector<Control>& c) {
+  AddValueLabels(code, Dimensions, c);
+  AddValueLabels(code, Properties, c);
+  AddValueLabels(code, Capacities, c);
+  c.push_back(
+      TextLabel("osclass", [](const Session& s) { return ClassText(s.st(), s.design().rec); }));
+  c.back().caption = "Sectionclass:";
+  Control figure;
+  figure.name = "pic1";
+  figure.kind = Kind::Surface;
+  figure.text = [](const Session& s) {
+    return std::string(s.st().FigureNotToScale == 1 ? "Figure not to scale" : "Figure to scale");
+  };
+  const auto flip = [](Session& s) {
+    s.st().FigureNotToScale = s.st().FigureNotToScale == 1 ? 0 : 1;
+  };
+  figure.click = flip;
+  c.push_back(figure);
+  c.push_back(Button("figscale", "Figure scale", flip));
+  c.back().text = figure.text;
+  c.push_back(Button("addtodb", "Add to Database",
+                     [](Session& s) { AddToDatabase(s.st(), s.database()); }));
+  c.push_back(CloseButton("Command1", "OK", form));
+}
+
+void AddTypedOptions(int code, std::vector<Control>& c) {
+  using S = ProjectState;
+  if (code == 23) {
+    c.push_back(FrameOf("frweld", "Based on Cold rolling"));
+    c.push_back(ValueOption("oweld0", "Yes", &S::BoxWeld, 0));
+    c.push_back(ValueOption("oweld1", "No", &S::BoxWeld, 1));
+  }
+  if (code == 24 || code == 25) {
+    c.push_back(FrameOf("frhsq", "Consider flange loading (valid for q-load)"));
+    c.push_back(ValueOption("opthsq0", "Yes", &S::HsqKind, 0));
+    c.push_back(ValueOption("opthsq1", "No", &S::HsqKind, 1));
+  }
+  if (code == 26) c.push_back(Label("onote", "Note: Profile takes only N-loads (axial)"));
+  if (code == 31) {
+    c.push_back(ValueOption("opthot", "Hotformed", &S::TubeKind, 1));
+    c.push_back(ValueOption("optcold", "Coldformed", &S::TubeKind, 0));
+  }
+  if (code == 41) {
+    c.push_back(FrameOf("frclass", "Sectionclass"));
+    for (int k = 1; k <= 3; ++k) {
+      c.push_back(ValueOption("op" + std::to_string(k), std::to_string(k), &S::p41_option, k));
+    }
+    c.push_back(Label("onote", "Only section class 1-3 is available for this profile"));
+  }
+}
+
+Form FamilyForm(const Family& family) {
+  Form form;
+  form.name = family.form;
+  form.title = Fixed(family.formCaption);
+  std::vector<Control>& c = form.controls;
+  ProjectState st;
+  st.ProfileType = family.code;
+  AddSubFamilies(family.code, c);
+  if (SizesOf(st).hasCatalogue) c.push_back(SizeControl(family.code));
+  AddTypedFields(family.code, c);
+  AddTypedOptions(family.code, c);
+  if (family.code >= 6 && family.code <= 9) AddHollowExtras(family.code, c);
+  AddCommon(family.code, family.form, c);
+  form.onFocus = [name = std::string(family.form)](Session& s) { s.Fill(name); };
+  return form;
+}
+
+}  // namespace
+
+void AddFamilyForms(std::vector<Form>& forms) {
+  for (const Family& family : AllFamilies()) forms.push_back(FamilyForm(family));
+}
+
+}  // namespace korvane

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the program needs of its platform: settings, dialogs, message boxes, printer, help, clock.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+
+namespace korvane {
+
+struct Design;
+
+/// A print dialog's answer.
+struct PrintJob {
+  int copies = 1;
+};
+
+/// Local date and time of the page frame.
+struct DateTime {
+  int year = 0, month = 0, day = 0, hour = 0, minute = 0;
+};
+
+/// The platform's operations. This class is a whole platform by itself: settings in memory, every
+/// dialog cancelled, nothing shown. Fronts and tests override what they have.
+class Platform {
+public:
+  virtual ~Platform() = default;
+
+  /// Settings store of the application Korvane_ns, section Recent Files: strings by key, empty
+  /// when there is none. A store that can't be read or written behaves as an empty one.
+  virtual std::string Setting(const std::string& key) {
+    const auto it = settings_.find(key);
+    return it == settings_.end() ? std::string() : it->second;
+  }
+  virtual void SetSetting(const std::string& key, const std::string& value) {
+    settings_[key] = value;
+  }
+
+  /// File dialogs with a filter ("*.kvn") and a default extension; nothing on cancel.
+  virtual std::optional<std::string> AskOpen(const std::string&, const std::string&) {
+    return std::nullopt;
+  }
+  virtual std::optional<std::string> AskSave(const std::string&, const std::string&) {
+    return std::nullopt;
+  }
+
+  /// A message box with the exclamation icon.
+  virtual void Message(const std::string&) {}
+  virtual void Beep() {}
+  virtual std::optional<PrintJob> AskPrint() { return std::nullopt; }
+  /// Prints report 0 (section property and capacity) or 1 (section and stability control).
+  virtual void Print(const Design&, int, int) {}
+  virtual void OpenHelp(const std::string&) {}
+  virtual DateTime Now() { return {}; }
+  /// Raised while a search blocks the input, and its progress.
+  virtual void WaitCursor(bool) {}
+  virtual void Progress(int, int) {}
+
+private:
+  std::map<std::string, std::string> settings_;
+};
+
+}  // namespace korvane
