@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+#include <cmath>
+
+#include "core/text.h"
+#include "presentation/diagram_sheet.h"
+#include "presentation/load_items.h"
+#include "presentation/position_row.h"
+#include "presentation/symbols.h"
+
+namespace korvane {
+namespace {
+
+constexpr double kBandTotal = 12;  // greatest height of all bands of one side together
+constexpr double kBandMost = 5;    // greatest height of one band
+constexpr double kBandLeast = 1;
+constexpr double kArrowLeast = 2.2;  // point load above the bands
+constexpr double kArrowMore = 4;     // what the greatest point load has above that
+constexpr double kMomentLeast = 1.5;
+constexpr double kMomentMore = 0.9;
+constexpr double kSupport = 2.8;
+constexpr double kRise = 1.2;  // from the arrows to a row of values that had to move apart
+
+const char* TitleOf(Plane plane, bool variable) {
+  constexpr const char* titles[2][2] = {
+      {"Permanent load - z-axis: (kN/kNm)", "Variable load - z-axis: (kN/kNm)"},
+      {"Permanent load - y-axis: (kN/kNm)", "Variable load - y-axis: (kN/kNm)"}};
+  return titles[plane == Plane::Z ? 0 : 1][variable ? 1 : 0];
+}
+
+// Heights of the picture, grid units.
+struct Layout {
+  double band = 0;   // height of the greatest ordinate of a layer
+  double layer = 0;  // from one layer to the next: band and the line of its values
+  double above = 0, below = 0;
+  double positions = 0;
+
+  double Bands(int layers) const { return layers * layer; }
+};
+
+double MomentRoom(const LoadItems& items) {
+  return items.greatestM > 0 ? kMomentLeast + kMomentMore + 0.6 : 0;
+}
+
+// Number and greatest size of the point loads of one side.
+struct PointSide {
+  int count = 0;
+  double greatest = 0;
+};
+
+PointSide PointsOf(const LoadItems& items, bool upward) {
+  PointSide side;
+  for (const PointLoad& load : items.points) {
+    if (load.moment || (load.value < 0) != upward) continue;
+    ++side.count;
+    side.greatest = std::max(side.greatest, std::fabs(load.value));
+  }
+  return side;
+}
+
+double SideRoom(const LoadItems& items, const Layout& layout, bool upward,
+                const DiagramStyle& style) {
+  double room = layout.Bands(upward ? items.layersBelow : items.layersAbove);
+  const PointSide points = PointsOf(items, upward);
+  if (points.count > 0) {
+    room += kArrowLeast + kArrowMore * points.greatest / items.greatestP + LineOf(style) +
+            (points.count > 1 ? kRise : 0);
+  }
+  return std::max(room, MomentRoom(items) + (upward ? 0 : LineOf(style)));
+}
+
+Layout LayoutOf(const LoadItems& items, const DiagramStyle& style) {
+  Layout layout;
+  const int layers = std::max({1, items.layersAbove, items.layersBelow});
+  layout.band = std::min(kBandMost, kBandTotal / layers);
+  layout.layer = layout.band + LineOf(style) + 0.3;
+  layout.above = std::max(0.6, SideRoom(items, layout, false, style));
+  layout.below = std::max(kSupport + 0.6, SideRoom(items, layout, true, style));
+  layout.positions = PositionRowHeight(items.Positions().size(), style.text);
+  return layout;
+}
+
+struct Picture {
+  DiagramSheet& sheet;
+  const LoadItems& items;
+  const Layout& layout;
+  double axis;
+};
+
+std::vector<TextRun> Runs(double value, const char* tag) {
+  std::vector<TextRun> runs = {{Format(value, "#0.0")}};
+  if (*tag) runs.push_back({std::string(" ") + tag, Role::Quiet});
+  return runs;
+}
+
+// Height of an ordinate in its band; what is not 0 can be seen.
+double BandHeight(const Picture& p, double q) {
+  if (q == 0 || p.items.greatestQ == 0) return 0;
+  return std::max(kBandLeast, p.layout.band * std::fabs(q) / p.items.greatestQ);
+}
+
+// More intensity, more arrows: their distance runs from 2.2 to 4.4 grid units.
+int ArrowCount(const Picture& p, const DistributedLoad& load, double length) {
+  const double share = (std::fabs(load.q1) + std::fabs(load.q2)) / 2 / p.items.greatestQ;
+  const double spacing = 4.4 - 2.2 * std::min(1., share);
+  return std::max(2, static_cast<int>(std::lround(length / spacing)) + 1);
+}
+
+void DrawBandArrows(const Picture& p, const DistributedLoad& load, double base, double sign) {
+  DrawingTarget& t = p.sheet.Target();
+  const double x1 = p.sheet.X(load.x1);
+  const double x2 = p.sheet.X(load.x2);
+  const double h1 = BandHeight(p, load.q1);
+  const double h2 = BandHeight(p, load.q2);
+  const int count = ArrowCount(p, load, x2 - x1);
+  p.sheet.Pen(Role::Second, 0.12);
+  for (int i = 0; i < count; ++i) {
+    const double f = static_cast<double>(i) / (count - 1);
+    const double h = h1 + f * (h2 - h1);
+    if (h < 0.7) continue;
+    const double x = x1 + f * (x2 - x1);
+    DrawArrow(t, {x, base + sign * h}, {x, base}, 0.9);
+  }
+}
+
+void LabelBand(const Picture& p, const DistributedLoad& load, double base, double sign) {
+  const Side side = sign < 0 ? Side::Above : Side::Below;
+  p.sheet.Pen(Role::Ink, 0.1);
+  const auto place = [&](double x, double q, const char* tag) {
+    const Point anchor{p.sheet.X(x), base + sign * BandHeight(p, q)};
+    p.sheet.Labels().Place({Runs(q, tag), anchor, side, 0.15, false});
+  };
+  if (load.q1 == load.q2) return place((load.x1 + load.x2) / 2, load.q1, load.tag);
+  place(load.x1, load.q1, load.tag);
+  place(load.x2, load.q2, load.tag);
+}
+
+double BandBase(const Picture& p, const DistributedLoad& load, double sign) {
+  return p.axis + sign * p.layout.Bands(load.layer);
+}
+
+void DrawBand(const Picture& p, const DistributedLoad& load) {
+  DrawingTarget& t = p.sheet.Target();
+  const double sign = load.Upward() ? 1 : -1;  // the side of the member, y down
+  const double base = BandBase(p, load, sign);
+  const double x1 = p.sheet.X(load.x1);
+  const double x2 = p.sheet.X(load.x2);
+  const Point top1{x1, base + sign * BandHeight(p, load.q1)};
+  const Point top2{x2, base + sign * BandHeight(p, load.q2)};
+  const Point corners[] = {{x1, base}, top1, top2, {x2, base}};
+  p.sheet.Pen(Role::Second, 0.14);
+  t.FillColor = Role::Second;
+  t.FillOpacity = 0.12;
+  t.Polygon(corners, Paint::Both);
+  p.sheet.Labels().Avoid(top1, top2);
+  if (load.layer > 0) p.sheet.Labels().Avoid({x1, base}, {x2, base});
+  DrawBandArrows(p, load, base, sign);
+}
+
+// Tail of a point load's arrow: above the bands, higher for the greater load.
+double ArrowTail(const Picture& p, const PointLoad& load) {
+  const bool upward = load.value < 0;
+  const double bands = p.layout.Bands(upward ? p.items.layersBelow : p.items.layersAbove);
+  const double length =
+      bands + kArrowLeast + kArrowMore * std::fabs(load.value) / p.items.greatestP;
+  return p.axis + (upward ? length : -length);
+}
+
+void DrawPointLoad(const Picture& p, const PointLoad& load) {
+  DrawingTarget& t = p.sheet.Target();
+  const double x = p.sheet.X(load.x);
+  const double tail = ArrowTail(p, load);
+  p.sheet.Pen(Role::Accent, 0.32);
+  DrawArrow(t, {x, tail}, {x, p.axis}, 1.7);
+  p.sheet.Labels().Avoid({x, tail}, {x, p.axis});
+}
+
+void DrawMoment(const Picture& p, const PointLoad& load) {
+  DrawingTarget& t = p.sheet.Target();
+  const Point c{p.sheet.X(load.x), p.axis};
+  const double radius = kMomentLeast + kMomentMore * std::fabs(load.value) / p.items.greatestM;
+  p.sheet.Pen(Role::Accent, 0.28);
+  DrawMomentArrow(t, c, radius, load.value > 0);
+  t.FillColor = Role::Accent;
+  t.FillOpacity = 1;
+  t.Circle(c, 0.35, Paint::Filled);
+  const Point low = Beside(t, c, -radius, -radius);
+  const Point high = Beside(t, c, radius, radius);
+  p.sheet.Labels().Avoid(low, {high.x, low.y});
+  p.sheet.Labels().Avoid(low, {low.x, high.y});
+  p.sheet.Labels().Avoid({high.x, low.y}, high);
+}
+
+void LabelMoment(const Picture& p, const PointLoad& load) {
+  const double radius = kMomentLeast + kMomentMore * std::fabs(load.value) / p.items.greatestM;
+  p.sheet.Pen(Role::Ink, 0.1);
+  p.sheet.Labels().Place(
+      {Runs(load.value, load.tag), {p.sheet.X(load.x), p.axis - radius}, Side::Above, 0.3, true});
+}
+
+// The values of one side's point loads: each at the tail of its arrow; where they would stand
+// over each other they move apart into a row, in the order of the arrows.
+void LabelPointLoads(const Picture& p, bool upward) {
+  DrawingTarget& t = p.sheet.Target();
+  LabelPlacer& labels = p.sheet.Labels();
+  std::vector<const PointLoad*> loads;
+  for (const PointLoad& load : p.items.points) {
+    if (!load.moment && (load.value < 0) == upward) loads.push_back(&load);
+  }
+  std::stable_sort(loads.begin(), loads.end(),
+                   [](const PointLoad* a, const PointLoad* b) { return a->x < b->x; });
+  const double gap = t.Across(0.25 * labels.LineHeight());
+  std::vector<double> wanted, widths;
+  double total = 0;
+  double end = p.axis;
+  for (const PointLoad* load : loads) {
+    wanted.push_back(p.sheet.X(load->x));
+    widths.push_back(labels.WidthOf(Runs(load->value, load->tag)));
+    total += widths.back() + gap;
+    const double tail = ArrowTail(p, *load);
+    end = upward ? std::max(end, tail) : std::min(end, tail);
+  }
+  const double size = t.FontSize;
+  const double fit = std::min(1., p.sheet.Bounds().Width() / std::max(total, 1e-9));
+  t.FontSize = size * fit;
+  for (double& width : widths) width *= fit;
+  const std::vector<double> centres =
+      SpreadInRow(wanted, widths, gap * fit, p.sheet.Bounds().left, p.sheet.Bounds().right);
+  const double height = labels.LineHeight();
+  for (std::size_t i = 0; i < loads.size(); ++i) {
+    const double tail = ArrowTail(p, *loads[i]);
+    const bool moved = std::fabs(centres[i] - wanted[i]) > 0.1 * widths[i];
+    const double edge = moved ? end + (upward ? kRise : -kRise) : tail + (upward ? 0.2 : -0.2);
+    if (moved) {
+      p.sheet.Pen(Role::Quiet, 0.08);
+      t.Line({wanted[i], tail}, {wanted[i], end});
+      t.Line({wanted[i], end}, {centres[i], edge});
+      labels.Avoid({wanted[i], end}, {centres[i], edge});
+    }
+    labels.Fix(Runs(loads[i]->value, loads[i]->tag),
+               {centres[i] - widths[i] / 2, upward ? edge : edge - height});
+  }
+  t.FontSize = size;
+}
+
+void DrawMember(const Picture& p, const ProjectState& st) {
+  DrawingTarget& t = p.sheet.Target();
+  p.sheet.Pen(Role::Ink, 0.16);
+  const Point left{p.sheet.X(0), p.axis};
+  const Point right{p.sheet.X(1), p.axis};
+  DrawSupports(t, st.SupportType, left, right, 0, kSupport);
+  p.sheet.Pen(Role::Ink, 0.45);
+  t.Line(left, right);
+  p.sheet.Labels().Avoid(left, right);
+}
+
+}  // namespace
+
+double LoadsHeight(const ProjectState& st, Plane plane, bool variable, const DiagramStyle& style) {
+  const LoadItems items = CollectLoads(st, plane, variable);
+  const Layout layout = LayoutOf(items, style);
+  return LineOf(style) + layout.above + layout.below + layout.positions;
+}
+
+void DrawLoads(DrawingTarget& target, const DiagramOrigin& origin, const ProjectState& st,
+               Plane plane, bool variable, const DiagramStyle& style) {
+  const LoadItems items = CollectLoads(st, plane, variable);
+  const Layout layout = LayoutOf(items, style);
+  DiagramSheet sheet(target, origin, style, LoadsHeight(st, plane, variable, style));
+  sheet.Title(TitleOf(plane, variable), origin.y);
+  const Picture p{sheet, items, layout, origin.y + LineOf(style) + layout.above};
+  for (const DistributedLoad& load : items.distributed) DrawBand(p, load);
+  DrawMember(p, st);
+  for (const PointLoad& load : items.points) {
+    if (load.moment) {
+      DrawMoment(p, load);
+    } else {
+      DrawPointLoad(p, load);
+    }
+  }
+  DrawPositionRow(sheet, items.Positions(), st.L, p.axis + layout.below, style.text);
+  for (const bool upward : {false, true}) LabelPointLoads(p, upward);
+  for (const PointLoad& load : items.points) {
+    if (load.moment) LabelMoment(p, load);
+  }
+  for (const DistributedLoad& load : items.distributed) {
+    const double sign = load.Upward() ? 1 : -1;
+    LabelBand(p, load, BandBase(p, load, sign), sign);
+  }
+}
+
+}  // namespace korvane

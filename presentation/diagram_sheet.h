@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The sheet that a diagram is drawn on: grid, title, axis and the labels already placed.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "presentation/grafik.h"
+#include "presentation/label_placer.h"
+
+namespace korvane {
+
+/// Prepares a target for one diagram and restores its state at the end.
+class DiagramSheet {
+public:
+  DiagramSheet(DrawingTarget& target, const DiagramOrigin& origin, const DiagramStyle& style,
+               double height);
+  ~DiagramSheet();
+  DiagramSheet(const DiagramSheet&) = delete;
+  DiagramSheet& operator=(const DiagramSheet&) = delete;
+
+  DrawingTarget& Target() { return target_; }
+  LabelPlacer& Labels() { return labels_; }
+  const Rect& Bounds() const { return bounds_; }
+  /// User x of a relative position of the member.
+  double X(double relative) const { return bounds_.left + kMemberLeft + kMemberWidth * relative; }
+  /// A title in bold, its upper left corner at the sheet's left edge; returns its rectangle.
+  Rect Title(const std::string& text, double y);
+  /// The member's line with a tick at each end.
+  void Axis(double y);
+  void Pen(Role colour, double width);
+
+private:
+  DrawingTarget& target_;
+  DrawingState before_;
+  Rect bounds_;
+  LabelPlacer labels_;
+};
+
+/// Height of a line of text with its air, grid units.
+inline double LineOf(const DiagramStyle& style) {
+  return 1.25 * style.text;
+}
+
+/// One curve over the member.
+struct Curve {
+  const StationValues& values;
+  double max = 0, min = 0;
+  /// Ordinate of the greatest size in grid units; positive draws positive values upwards.
+  double scale = 12;
+  Role colour = Role::Accent;
+  /// Positions and values between the stations, where an extreme may stand.
+  std::vector<Point> between;
+  std::vector<double> zeros;  ///< relative positions to be marked on the axis
+};
+
+/// Grid units that a curve and its labels need above and below the axis.
+struct CurveRoom {
+  double above = 0, below = 0;
+};
+CurveRoom RoomOf(double max, double min, double scale, const DiagramStyle& style);
+
+/// Ordinate of a value in grid units, upwards; 0 where the greatest is 0.
+double Ordinate(double value, double greatest, double scale);
+
+/// Draws the curve over 51 points, the closing lines at the ends and the labels of its extremes
+/// ("#0.0"); a curve of zeros is a flat line without labels.
+void DrawCurve(DiagramSheet& sheet, const Curve& curve, double axis);
+
+}  // namespace korvane

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/symbols.h"
+
+#include <cmath>
+#include <vector>
+
+#include "core/numeric.h"
+
+namespace korvane {
+namespace {
+
+enum class End { Pinned, Fixed, Spring, Free };
+
+// Ends at x = 0 and x = L of the six support cases.
+constexpr End kEnds[6][2] = {{End::Pinned, End::Pinned}, {End::Pinned, End::Fixed},
+                             {End::Fixed, End::Fixed},   {End::Spring, End::Spring},
+                             {End::Fixed, End::Free},    {End::Pinned, End::Spring}};
+
+void Hatch(DrawingTarget& t, Point from, double dx, double dy, int strokes, double sx, double sy) {
+  for (int i = 0; i < strokes; ++i) {
+    const double f = (i + 0.5) / strokes;
+    const Point p = Beside(t, from, dx * f, dy * f);
+    t.Line(p, Beside(t, p, sx, sy));
+  }
+}
+
+void DrawPinned(DrawingTarget& t, Point p, double size) {
+  const double half = size * 0.55;
+  const Point left = Beside(t, p, -half, size * 0.8);
+  const Point right = Beside(t, p, half, size * 0.8);
+  const Point corners[] = {p, right, left};
+  const Role before = t.FillColor;
+  t.FillColor = Role::Paper;
+  t.Polygon(corners, Paint::Both);
+  t.FillColor = before;
+  const Point ground = Beside(t, p, -half * 1.35, size * 0.8);
+  t.Line(ground, Beside(t, p, half * 1.35, size * 0.8));
+  Hatch(t, ground, half * 2.7, 0, 6, -size * 0.16, size * 0.2);
+}
+
+// outward: -1 at the left end, 1 at the right end.
+void DrawFixed(DrawingTarget& t, Point p, double member, double size, int outward) {
+  const double half = member + size * 0.6;
+  const Point top = Beside(t, p, 0, -half);
+  const double width = t.LineWidth;
+  t.LineWidth = width * 2;
+  t.Line(top, Beside(t, p, 0, half));
+  t.LineWidth = width;
+  Hatch(t, top, 0, 2 * half, 6, outward * size * 0.25, size * 0.18);
+}
+
+// A pinned support with the spiral of a rotational spring round the node.
+void DrawSpring(DrawingTarget& t, Point p, double member, double size, int outward) {
+  DrawPinned(t, Beside(t, p, 0, member), size);
+  std::vector<Point> spiral;
+  constexpr int kSteps = 56;
+  for (int i = 0; i <= kSteps; ++i) {
+    const double f = static_cast<double>(i) / kSteps;
+    const double angle = (0.5 + 3.75 * f) * kPi;
+    const double r = size * (0.12 + 0.4 * f);
+    spiral.push_back(Beside(t, p, outward * r * std::cos(angle), -r * std::sin(angle)));
+  }
+  t.Polyline(spiral);
+  // Its outer end is held.
+  const Point end = spiral.back();
+  t.Line(Beside(t, end, -size * 0.22, 0), Beside(t, end, size * 0.22, 0));
+}
+
+void DrawEnd(DrawingTarget& t, End end, Point p, double member, double size, int outward) {
+  switch (end) {
+    case End::Pinned:
+      return DrawPinned(t, Beside(t, p, 0, member), size);
+    case End::Fixed:
+      return DrawFixed(t, p, member, size, outward);
+    case End::Spring:
+      return DrawSpring(t, p, member, size, outward);
+    case End::Free:
+      return;
+  }
+}
+
+}  // namespace
+
+Point Beside(const DrawingTarget& target, Point p, double dx, double dy) {
+  return {p.x + target.Across(dx), p.y + dy};
+}
+
+void DrawArrowHead(DrawingTarget& target, Point tip, double dx, double dy, double size) {
+  // Directions are compared as they look on the page.
+  const double px = dx / target.Across(1);
+  const double length = std::hypot(px, dy);
+  if (length == 0) return;
+  const double ux = px / length;
+  const double uy = dy / length;
+  const double half = size * 0.3;
+  const Point corners[] = {tip, Beside(target, tip, -ux * size - uy * half, -uy * size + ux * half),
+                           Beside(target, tip, -ux * size + uy * half, -uy * size - ux * half)};
+  const DrawingState before = target;
+  target.FillColor = target.ForeColor;
+  target.FillOpacity = 1;
+  target.Polygon(corners, Paint::Filled);
+  target.FillColor = before.FillColor;
+  target.FillOpacity = before.FillOpacity;
+}
+
+void DrawArrow(DrawingTarget& target, Point tail, Point tip, double head) {
+  const double dx = tip.x - tail.x;
+  const double dy = tip.y - tail.y;
+  const double length = std::hypot(dx / target.Across(1), dy);
+  if (length == 0) return;
+  // The line ends inside the head, so that the tip stays sharp.
+  const double f = std::max(0., 1 - 0.8 * head / length);
+  target.Line(tail, {tail.x + f * dx, tail.y + f * dy});
+  DrawArrowHead(target, tip, dx, dy, std::min(head, length));
+}
+
+void DrawMomentArrow(DrawingTarget& target, Point centre, double radius, bool clockwise) {
+  // Three quarters of a circle, open towards the member's right or left.
+  const double start = clockwise ? 225 : -45;
+  const double sweep = clockwise ? -250 : 250;
+  target.Arc(centre, radius, start, sweep);
+  // The head follows the curve: it points along the chord of its own length.
+  const double head = std::min(1.3, radius * 0.55);
+  const double turn = head / radius * 180 / kPi * (clockwise ? -1 : 1);
+  const auto at = [&](double degrees) {
+    const double a = degrees * kPi / 180;
+    return Beside(target, centre, radius * std::cos(a), -radius * std::sin(a));
+  };
+  const Point from = at(start + sweep);
+  const Point tip = at(start + sweep + turn);
+  DrawArrowHead(target, tip, tip.x - from.x, tip.y - from.y, head);
+}
+
+void DrawDimension(DrawingTarget& target, Point a, Point b, double head) {
+  const double dx = b.x - a.x;
+  const double dy = b.y - a.y;
+  const double length = std::hypot(dx / target.Across(1), dy);
+  if (length == 0) return;
+  const double ux = dx / target.Across(1) / length;
+  const double uy = dy / length;
+  if (length > 2.6 * head) {
+    target.Line(a, b);
+    DrawArrowHead(target, a, -dx, -dy, head);
+    DrawArrowHead(target, b, dx, dy, head);
+    return;
+  }
+  const double tail = 2.2 * head;
+  target.Line(Beside(target, a, -ux * tail, -uy * tail), a);
+  target.Line(b, Beside(target, b, ux * tail, uy * tail));
+  DrawArrowHead(target, a, dx, dy, head);
+  DrawArrowHead(target, b, -dx, -dy, head);
+}
+
+void DrawSupports(DrawingTarget& target, int supportType, Point left, Point right, double half,
+                  double size) {
+  if (supportType < 0 || supportType > 5) return;
+  DrawEnd(target, kEnds[supportType][0], left, half, size, -1);
+  DrawEnd(target, kEnds[supportType][1], right, half, size, 1);
+}
+
+}  // namespace korvane
