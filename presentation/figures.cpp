@@ -20,7 +20,7 @@ constexpr double kOffset = 0.13;       // dimension lines beside the section
 constexpr double kNear = 0.09;         // lines of flange thicknesses
 constexpr double kStub = 0.05;         // axes beyond the section at their short ends
 constexpr double kAxis = 0.24;         // and at the ends that have the letter
-constexpr double kPrincipal = 0.5;     // half length of the axes u and v
+constexpr double kPrincipal = 0.45;    // half length of the axes u and v
 constexpr double kLetterAbove = 0.25;  // place of a letter along a line that an axis crosses
 
 /// The figure's window: mm to the right and down, from the section's mm with y up.
@@ -207,8 +207,8 @@ void DrawDimensions(Window& w) {
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const SectionDimension& d = w.shape.dimensions[i];
     const bool lit = d.letter == w.options.highlight;
-    w.Letter(d.letter, w.At(lines[i].letter), lines[i].side, 0.03, lit ? Role::Accent : Role::Ink,
-             lit);
+    w.Letter(d.letter, w.At(lines[i].letter), lines[i].side,
+             lines[i].side == Side::Right ? 0.05 : 0.03, lit ? Role::Accent : Role::Ink, lit);
   }
 }
 

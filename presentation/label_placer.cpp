@@ -87,7 +87,7 @@ double LabelPlacer::Cost(const Box& r, double least) const {
   const double over = std::max({0., bounds_.left - r.left, r.right - bounds_.right}) +
                       std::max({0., bounds_.top - r.top, r.bottom - bounds_.bottom});
   double cost = over > 1e-9 ? kOutside * (1 + over / height) : 0;
-  const Box air = r.Grown(target_.Across(0.12 * height), 0);
+  const Box air = r.Grown(target_.Across(0.4 * height), 0);
   for (const Box& k : kept_) {
     if (cost >= least) return cost;
     if (air.Overlaps(k)) cost += kOverlapping;
