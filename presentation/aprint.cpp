@@ -32,8 +32,8 @@ void DrawSectionReport(DrawingTarget& t, double line, const Design& d) {
   }
   const std::string classFour = ClassFourLine(d);
   if (!classFour.empty()) PutText(t, kC1, line, classFour);
-  DrawSectionFigure(t, Box{kC1 + 12, line + 4, kRightEdge - 12, kPageLines - 8}, Destination::Page,
-                    d.st, d.rec, FigureOptions{});
+  DrawSectionFigure(t, Box{kC1 + 20, line + 3, kRightEdge - 20, line + 35}, Destination::Page, d.st,
+                    d.rec, FigureOptions{});
 }
 
 }  // namespace

@@ -29,9 +29,9 @@ void PutRight(DrawingTarget& t, double column, double line, std::string_view tex
 void PutValue(DrawingTarget& t, double column, double line, std::string_view name,
               std::string_view value, std::string_view unit) {
   PutText(t, column, line, name);
-  PutText(t, column + 8, line, "=");
-  PutRight(t, column + 19, line, value);
-  PutText(t, column + 20, line, unit);
+  PutText(t, column + 9.8, line, "=");
+  PutRight(t, column + 20, line, value);
+  PutText(t, column + 21, line, unit);
 }
 
 namespace {
@@ -66,8 +66,8 @@ std::string FittedPath(const DrawingTarget& t, std::string path, double width) {
 double DrawPageFrame(DrawingTarget& t, const Design& d, const ReportTime& time) {
   constexpr double top = 4;
   constexpr double bottom = 10.6;
-  constexpr double first = kMargin + 38;
-  constexpr double second = kMargin + 80;
+  constexpr double first = kMargin + 45;
+  constexpr double second = kMargin + 84;
   t.ForeColor = Role::Ink;
   t.LineWidth = 0.7;
   for (const double line : {top, bottom}) t.Line({kMargin, line}, {kRightEdge, line});
@@ -163,7 +163,7 @@ double DrawSectionValues(DrawingTarget& t, double line, const Design& d) {
   const std::string sectionClass = ClassText(d.st, d.rec);
   if (!sectionClass.empty()) {
     PutText(t, kC8, capacity, "Sectionclass:");
-    PutText(t, kC8 + 10, capacity, sectionClass);
+    PutText(t, kC8 + 12, capacity, sectionClass);
     capacity += kLineStep;
   }
   return std::max(end, capacity);

@@ -3,6 +3,8 @@
 // so that a member with all loads in use stays on one sheet.
 #include <algorithm>
 #include <array>
+#include <tuple>
+#include <vector>
 
 #include "analysis/loads.h"
 #include "checks/buckling_curves.h"
@@ -18,14 +20,17 @@ namespace korvane {
 
 namespace {
 
-// Lines of the blocks on the page.
+// The blocks stand one below the other; what loads and checks leave is the diagrams'.
 constexpr double kSection = 15.0;
-constexpr double kLoads = 33.2;
-constexpr double kDiagrams = 53.6;
-constexpr double kChecks = 73.2;
 constexpr double kBottom = 86.0;
+constexpr double kLeastDiagrams = 17.0;  ///< lines that the diagrams need
 constexpr double kFigureLeft = 103;
-constexpr double kParameters = 92;  ///< left column of the buckling block
+constexpr double kParameters = 90;  ///< left column of the buckling block
+
+/// Upper lines of the blocks below the section.
+struct Layout {
+  double loads, diagrams, checks;
+};
 
 // --- Load information ---------------------------------------------------------------------------
 
@@ -76,6 +81,13 @@ std::vector<LoadRow> LoadRows(const ProjectState& st, bool z) {
   return rows;
 }
 
+/// Whether a direction carries loads of the permanent or of the variable groups.
+bool HasLoads(const ProjectState& st, bool z, bool variable) {
+  const auto rows = LoadRows(st, z);
+  return std::any_of(rows.begin(), rows.end(),
+                     [variable](const LoadRow& r) { return (r.category != "P") == variable; });
+}
+
 void DrawLoadTable(DrawingTarget& t, double column, double line, double step, const char* heading,
                    const std::vector<LoadRow>& rows) {
   PutText(t, column, line, heading);
@@ -101,14 +113,18 @@ std::string Combination(const char* name, const std::string& selfWeight, double 
   return name + selfWeight + f(p) + "*P+" + f(v1) + "*V1+" + f(v2) + "*V2";
 }
 
-void DrawLoadInformation(DrawingTarget& t, const ProjectState& st) {
+/// Lines of the load information at full size.
+double LoadLines(const ProjectState& st) {
+  return 8.2 + static_cast<double>(std::max(LoadRows(st, true).size(), LoadRows(st, false).size()));
+}
+
+void DrawLoadInformation(DrawingTarget& t, const Layout& at, const ProjectState& st) {
   const auto z = LoadRows(st, true);
   const auto y = LoadRows(st, false);
-  const double needed = 8.0 + static_cast<double>(std::max(z.size(), y.size()));
-  const double step = std::min(kLineStep, (kDiagrams - kLoads - 0.8) / needed);
+  const double step = std::min(kLineStep, (at.diagrams - at.loads - 0.6) / LoadLines(st));
   const double size = t.FontSize;
   t.FontSize = std::min(size, size * (step / kLineStep) * 1.12);
-  double line = kLoads;
+  double line = at.loads;
   PutHeading(t, kC1, line, "Loading information: (kN/kNm/m)");
   PutText(t, kC1 + 34, line, "P=Permanent; V=Variable; S=Selfweight");
   line += step * 1.2;
@@ -136,8 +152,8 @@ void DrawLoadInformation(DrawingTarget& t, const ProjectState& st) {
 
 double DrawBucklingTable(DrawingTarget& t, double line, const Design& d) {
   const bool angle = d.st.ProfileType == 10 || d.st.ProfileType == 11;
-  constexpr double first = kParameters + 19;
-  constexpr double second = kParameters + 28;
+  constexpr double first = kParameters + 22;
+  constexpr double second = kParameters + 30;
   PutHeading(t, kParameters, line, "Buckling parameters:");
   PutText(t, first, line, angle ? "U-axis" : "Y-axis");
   PutText(t, second, line, angle ? "V-axis" : "Z-axis");
@@ -199,36 +215,46 @@ void DrawGeometry(DrawingTarget& t, double line, const Design& d) {
 
 // --- Diagrams -----------------------------------------------------------------------------------
 
-void DrawDiagrams(DrawingTarget& t, const Design& d) {
+void DrawDiagrams(DrawingTarget& t, const Layout& at, const Design& d) {
   const bool loads = d.st.AnalysisMode == 1;
   const DiagramData data{d.st, d.beam, d.deflections, d.forces.N};
-  const DiagramStyle style;
-  PutHeading(t, kC1, kDiagrams, loads ? "Loading/Moment: (kN/kNm/m)" : "Endforces: (kN/kNm/m)");
+  DiagramStyle style;
+  style.text = 3.0;
+  PutHeading(t, kC1, at.diagrams, loads ? "Loading/Moment: (kN/kNm/m)" : "Endforces: (kN/kNm/m)");
   constexpr double middle = (kC1 + kRightEdge) / 2;
   const auto draw = [&](DiagramKind kind, double left, double right, double top, double bottom) {
     DrawDiagramIn(t, kind, Box{left, top, right, bottom}, Destination::Page, data, style);
   };
-  const double top = kDiagrams + 1.1;
+  const double top = at.diagrams + 1.1;
+  const double end = at.checks - 0.4;
   using K = DiagramKind;
   if (!loads) {
     draw(K::AxialForce, kC1, middle - 1, top, top + 4);
-    draw(K::EndMomentZ, kC1, middle - 1, top + 4, kChecks - 0.4);
-    draw(K::EndMomentY, middle + 1, kRightEdge, top + 4, kChecks - 0.4);
+    draw(K::EndMomentZ, kC1, middle - 1, top + 4, end);
+    draw(K::EndMomentY, middle + 1, kRightEdge, top + 4, end);
     return;
   }
-  // Loads of both planes side by side, permanent and variable.
-  const double width = (kRightEdge - kC1) / 4;
-  const double loadsEnd = top + 5.4;
-  const std::array<K, 4> pictures{K::LoadPermZ, K::LoadVarZ, K::LoadPermY, K::LoadVarY};
+  // The load pictures that show something side by side.
+  const double height = end - top;
+  const double loadsEnd = top + 0.25 * height;
+  std::vector<K> pictures;
+  for (const auto& [kind, z, variable] :
+       {std::tuple{K::LoadPermZ, true, false}, std::tuple{K::LoadVarZ, true, true},
+        std::tuple{K::LoadPermY, false, false}, std::tuple{K::LoadVarY, false, true}}) {
+    if (HasLoads(d.st, z, variable)) pictures.push_back(kind);
+  }
+  if (pictures.empty()) pictures.push_back(K::LoadPermZ);
+  const double width =
+      (kRightEdge - kC1) / static_cast<double>(std::max<std::size_t>(pictures.size(), 2));
   for (std::size_t k = 0; k < pictures.size(); ++k) {
     const double left = kC1 + static_cast<double>(k) * width;
     draw(pictures[k], left, left + width - 0.8, top, loadsEnd);
   }
-  const double shearEnd = loadsEnd + 8.4;
+  const double shearEnd = loadsEnd + 0.52 * height;
   draw(K::MomentShearZ, kC1, middle - 1, loadsEnd + 0.2, shearEnd);
   draw(K::MomentShearY, middle + 1, kRightEdge, loadsEnd + 0.2, shearEnd);
-  draw(K::DeflectionZ, kC1, middle - 1, shearEnd + 0.2, kChecks - 0.3);
-  draw(K::DeflectionY, middle + 1, kRightEdge, shearEnd + 0.2, kChecks - 0.3);
+  draw(K::DeflectionZ, kC1, middle - 1, shearEnd + 0.2, end);
+  draw(K::DeflectionY, middle + 1, kRightEdge, shearEnd + 0.2, end);
 }
 
 // --- Checks -------------------------------------------------------------------------------------
@@ -251,34 +277,61 @@ double DrawView(DrawingTarget& t, const View& view, double line, double step) {
   return line;
 }
 
-std::string ModalText(const Design& d) {
-  std::string text =
-      " (SLS - selfweigth + q-loads)  Mass: m = " + Format(d.modal.ModalMass, "#0") + " kg/m";
+std::string ModalModes(const Design& d) {
+  std::string text;
   for (int n = 1; n <= 3; ++n) {
     const double f = d.modal.ModalFreq[n];
-    text += "   Mode " + std::to_string(n) + ": " + Format(f, "#0.00") + " Hz/" +
-            Format(f == 0 ? 0 : 1 / f, "#0.00") + "s";
+    text += "Mode " + std::to_string(n) + ": " + Format(f, "#0.00") + " Hz/" +
+            Format(f == 0 ? 0 : 1 / f, "#0.00") + "s     ";
   }
   return text;
 }
 
-void DrawChecks(DrawingTarget& t, const Design& d) {
+/// The result lines of the page.
+struct CheckBlock {
+  View section, buckling;
+  bool modal = false;
+  double Lines() const {
+    double lines = 0;
+    for (const ViewLine& row : section) lines += row.advance;
+    for (const ViewLine& row : buckling) lines += row.advance;
+    return lines + (buckling.empty() ? 0 : 0.3) + (modal ? 2.4 : 0);
+  }
+};
+
+CheckBlock ChecksOf(const DrawingTarget& t, const Design& d) {
   constexpr double breakWidth = 80;
   const auto breaks = [&t](const std::string& text) { return t.TextWidth(text) > breakWidth; };
-  const View section = SectionControlLong(d.st, d.checks, breaks);
-  View buckling;
+  CheckBlock block;
+  block.section = SectionControlLong(d.st, d.checks, breaks);
   if (ShowsBuckling(d.st, d.forces.N)) {
-    buckling = BucklingLong(d.st, d.checks, d.buckling, breaks);
+    block.buckling = BucklingLong(d.st, d.checks, d.buckling, breaks);
   }
-  const double modal = d.st.ModalAnalysis == 1 ? 1.2 : 0;
-  const double needed = static_cast<double>(section.size() + buckling.size()) + 0.6 + modal;
-  const double step = std::min(kLineStep, (kBottom - kChecks) / needed);
-  double line = DrawView(t, section, kChecks, step);
-  if (!buckling.empty()) line = DrawView(t, buckling, line + 0.3 * step, step);
-  if (modal > 0) {
-    PutHeading(t, kC1, line + 0.2 * step, "Modal analysis:");
-    PutText(t, kC1 + 16, line + 0.2 * step, ModalText(d));
-  }
+  block.modal = d.st.ModalAnalysis == 1;
+  return block;
+}
+
+void DrawChecks(DrawingTarget& t, const CheckBlock& block, double line, const Design& d) {
+  const double step = std::min(kLineStep, (kBottom - line) / block.Lines());
+  line = DrawView(t, block.section, line, step);
+  if (!block.buckling.empty()) line = DrawView(t, block.buckling, line + 0.3 * step, step);
+  if (!block.modal) return;
+  line += 0.3 * step;
+  PutHeading(t, kC1, line, "Modal analysis:");
+  PutText(t, kC1 + 16, line,
+          " (SLS - selfweigth + q-loads)   Mass: m = " + Format(d.modal.ModalMass, "#0") + " kg/m");
+  PutText(t, kC1 + 16, line + step, ModalModes(d));
+}
+
+/// Loads below the section values, checks at the foot, diagrams between them.
+Layout LayoutOf(const Design& d, double sectionEnd, double checkLines) {
+  constexpr double parameters = 20;  // lines of geometry, buckling and lateral parameters
+  Layout at{};
+  at.loads = std::max(sectionEnd, 28.0) + 0.6;
+  at.checks = std::max(kBottom - checkLines, 71.0);
+  const double loads = d.st.AnalysisMode == 1 ? LoadLines(d.st) + 0.8 : 0;
+  at.diagrams = std::min(at.loads + std::max(loads, parameters), at.checks - kLeastDiagrams);
+  return at;
 }
 
 }  // namespace
@@ -296,15 +349,17 @@ void DrawControlReport(DrawingTarget& t, double line, const Design& d) {
             "Mdy takes into account flange loading of " + Format(FlangeLoad(d.st) / 60, "0.0") +
                 " kN/m flange (incl loadf)");
   }
-  DrawSectionValues(t, kSection + 0.8, d);
-  DrawSectionFigure(t, Box{kFigureLeft, kSection + 0.6, kRightEdge, kLoads - 1}, Destination::Page,
-                    d.st, d.rec, FigureOptions{});
-  if (d.st.AnalysisMode == 1) DrawLoadInformation(t, d.st);
-  DrawGeometry(t, kLoads, d);
-  const double next = DrawBucklingTable(t, kLoads + 8.2, d);
+  const double sectionEnd = DrawSectionValues(t, kSection + 0.8, d);
+  const CheckBlock checks = ChecksOf(t, d);
+  const Layout at = LayoutOf(d, sectionEnd, checks.Lines());
+  DrawSectionFigure(t, Box{kFigureLeft, kSection + 0.6, kRightEdge, at.loads - 0.6},
+                    Destination::Page, d.st, d.rec, FigureOptions{});
+  if (d.st.AnalysisMode == 1) DrawLoadInformation(t, at, d.st);
+  DrawGeometry(t, at.loads, d);
+  const double next = DrawBucklingTable(t, at.loads + 8.0, d);
   DrawLateralParameters(t, next, d);
-  DrawDiagrams(t, d);
-  DrawChecks(t, d);
+  DrawDiagrams(t, at, d);
+  DrawChecks(t, checks, at.checks, d);
 }
 
 }  // namespace korvane

@@ -18,6 +18,8 @@ namespace {
 /// Fonts need an application; a program without one gets its own, on no display.
 std::unique_ptr<QGuiApplication> ApplicationWhereNone() {
   if (QCoreApplication::instance() != nullptr) return nullptr;
+  // Remarks about the session's folders are none of a console program's business.
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   static int argc = 3;
   static char name[] = "korvane";
   static char option[] = "-platform";
