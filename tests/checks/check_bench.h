@@ -50,7 +50,7 @@ struct CheckBench {
     rec.Mvdz = 50;
     rec.Mvndy = 80;
     rec.Mvndz = 40;
-    rec.alfa = 2;
+    rec.alfa = 3;
     rec.beta = 1.5;
     rec.Vdz = 200;
     rec.Vdy = 300;
