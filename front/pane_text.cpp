@@ -1,71 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/pane_text.h"
 
-#include <algorithm>
-#include <cmath>
-
-#include "core/text.h"
+#include "presentation/recording_target.h"
 
 namespace korvane {
 
-namespace {
-
-std::string Extremes(const char* title, double max, double min) {
-  return std::string(title) + " " + Format(max, "#0.0") + "/" + Format(min, "#0.0");
+std::optional<DiagramKind> DiagramOfPane(const ProjectState& st, const std::string& pane) {
+  for (const DiagramKind kind : DiagramsOfMode(st)) {
+    if (InfoOf(kind).control == pane) return kind;
+  }
+  return std::nullopt;
 }
 
-std::string DeflectionText(const Design& d, const char* axis, double max, double min) {
-  const double extreme = std::max(std::fabs(max), std::fabs(min));
-  const double ratio = extreme == 0 ? 0 : d.st.L * 1000 / extreme;
-  return std::string("Deflection (SLS): ") + axis + " (mm): L/" + Format(ratio, "#0");
+DiagramData DiagramDataOf(const Design& d) {
+  return {d.st, d.beam, d.deflections, d.forces.N};
 }
 
-int NearestStation(double relative) {
-  return static_cast<int>(std::lround(std::clamp(relative, 0.0, 1.0) * 50));
+std::string PaneText(const Design& design, const std::string& pane) {
+  const auto kind = DiagramOfPane(design.st, pane);
+  if (!kind) return {};
+  RecordingTarget target;
+  DrawDiagram(target, *kind, {}, DiagramDataOf(design), {});
+  std::string text;
+  for (const std::string& part : target.Texts()) {
+    if (part.find_first_not_of(' ') == std::string::npos) continue;
+    text += (text.empty() ? "" : " | ") + part;
+  }
+  return text;
 }
 
-}  // namespace
-
-std::string PaneText(const Design& d, const std::string& pane) {
-  const PlaneForces& z = d.beam.z;
-  const PlaneForces& y = d.beam.y;
-  if (pane == "picmy") {
-    return Extremes("Bending moment (My, kNm)", z.M_max, z.M_min) + " | " +
-           Extremes("Shear (Vz, kN)", z.V_max, z.V_min);
-  }
-  if (pane == "picmz") {
-    return Extremes("Bending moment (Mz, kNm)", y.M_max, y.M_min) + " | " +
-           Extremes("Shear (Vy, kN)", y.V_max, y.V_min);
-  }
-  if (d.st.AnalysisMode != 1) return {};
-  if (pane == "picdz") {
-    return DeflectionText(d, "z", d.deflections.DeflZ_max, d.deflections.DeflZ_min);
-  }
-  if (pane == "picdy") {
-    return DeflectionText(d, "y", d.deflections.DeflY_max, d.deflections.DeflY_min);
-  }
-  if (pane == "picloadzp") return "Permanent load - z-axis: (kN/kNm)";
-  if (pane == "picloadzv") return "Variable load - z-axis: (kN/kNm)";
-  if (pane == "picloadyp") return "Permanent load - y-axis: (kN/kNm)";
-  if (pane == "picloadyv") return "Variable load - y-axis: (kN/kNm)";
-  return {};
-}
-
-std::string ValueUnderPointer(const Design& d, const std::string& pane, double relative) {
-  const int i = NearestStation(relative);
-  const std::string x = " x = " + Format(i / 50.0 * d.st.L, "0.000") + " m";
-  const auto forces = [&](const PlaneForces& p, const char* M, const char* V) {
-    return x + "  " + M + " = " + Format(p.M[i], "0.0") + " kNm  " + V + " = " +
-           Format(p.V[i], "0.0") + " kN";
-  };
-  if (pane == "picmy") return forces(d.beam.z, "My", "Vz");
-  if (pane == "picmz") return forces(d.beam.y, "Mz", "Vy");
-  const auto deflection = [&](const StationValues& v) {
-    return x + "  y = " + Format(v[i], "0.0") + " mm";
-  };
-  if (pane == "picdz") return deflection(d.deflections.DeflZ);
-  if (pane == "picdy") return deflection(d.deflections.DeflY);
-  return {};
+std::string ValueUnderPointer(const Design& design, const std::string& pane, double relative) {
+  const auto kind = DiagramOfPane(design.st, pane);
+  return kind ? ValueUnderPointer(*kind, relative, DiagramDataOf(design)) : std::string();
 }
 
 }  // namespace korvane

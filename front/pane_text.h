@@ -1,18 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The text of a drawing surface: what stands in a diagram, for scripts and screen readers.
+// The drawing panes of the main window: which diagram each one shows, and its text for scripts
+// and screen readers.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "core/calculation.h"
+#include "presentation/grafik.h"
 
 namespace korvane {
 
-/// Titles and figures of the pane, joined by " | "; empty for a pane that shows nothing.
+/// The diagram of a pane in the analysis mode in force; none for a pane that shows nothing then.
+std::optional<DiagramKind> DiagramOfPane(const ProjectState& st, const std::string& pane);
+
+/// What diagrams read of a design.
+DiagramData DiagramDataOf(const Design& design);
+
+/// The texts in the pane's diagram, joined by " | "; empty for a pane that shows nothing.
 std::string PaneText(const Design& design, const std::string& pane);
 
-/// The value of a diagram under the pointer, at the station nearest to the relative position
-/// (0 to 1): " x = 2.500 m  My = 37.5 kNm  Vz = 0.0"; empty for other panes.
+/// The value of a pane's diagram under the pointer, at the station nearest to the relative
+/// position (0 to 1); empty where there are no stations.
 std::string ValueUnderPointer(const Design& design, const std::string& pane, double relative);
 
 }  // namespace korvane
