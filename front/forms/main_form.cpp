@@ -15,7 +15,7 @@ std::string ViewText(const View& view) {
   std::string out;
   for (const ViewLine& line : view) {
     if (!out.empty()) out += " | ";
-    for (const TextRun& run : line.runs) out += run.text;
+    for (const TextRun& run : line.runs) out += (run.atTab ? " " : "") + run.text;
   }
   return out;
 }
