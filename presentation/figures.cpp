@@ -18,7 +18,7 @@ constexpr double kOutline = 0.009;
 constexpr double kHead = 0.042;
 constexpr double kOffset = 0.13;       // dimension lines beside the section
 constexpr double kNear = 0.09;         // lines of flange thicknesses
-constexpr double kStub = 0.05;         // axes beyond the section at their short ends
+constexpr double kShortEnd = 0.05;     // axes beyond the section at their short ends
 constexpr double kAxis = 0.24;         // and at the ends that have the letter
 constexpr double kPrincipal = 0.45;    // half length of the axes u and v
 constexpr double kLetterAbove = 0.25;  // place of a letter along a line that an axis crosses
@@ -87,12 +87,12 @@ void AxisLine(Window& w, Point from, Point to) {
 
 void DrawAxes(Window& w) {
   const SectionShape& s = w.shape;
-  const double stub = kStub * w.size;
+  const double shortEnd = kShortEnd * w.size;
   const double reach = kAxis * w.size;
   const Point up = w.At({s.zAxis, s.H + reach});
   const Point right = w.At({s.W + reach, s.yAxis});
-  AxisLine(w, w.At({s.zAxis, -stub}), up);
-  AxisLine(w, w.At({-stub, s.yAxis}), right);
+  AxisLine(w, w.At({s.zAxis, -shortEnd}), up);
+  AxisLine(w, w.At({-shortEnd, s.yAxis}), right);
   w.Letter("Z", up, Side::Above, 0.01, Role::Quiet, true);
   w.Letter("Y", right, Side::Right, 0.02, Role::Quiet, true);
 }

@@ -155,4 +155,11 @@ inline Section SectionOf(int code) {
   return s;
 }
 
+/// The codes of all families.
+inline std::vector<int> AllCodes() {
+  std::vector<int> codes;
+  for (const Family& f : AllFamilies()) codes.push_back(f.code);
+  return codes;
+}
+
 }  // namespace korvane::sample
