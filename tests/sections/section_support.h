@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A section of one family through all its steps on the real data.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "core/calculation.h"
+#include "sections/profile_table.h"
+
+namespace korvane::testing {
+
+inline std::shared_ptr<const Library> TheLibrary() {
+  static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
+  return library;
+}
+
+/// The steps of ComputeSection for a state, without a member around it.
+struct Made {
+  explicit Made(int type) { st.ProfileType = type; }
+
+  ProjectState st = [] {
+    ProjectState s;
+    s.fyk = 355.0;
+    s.gammam1 = 1.1;
+    return s;
+  }();
+  SectionRecord rec;
+  SectionForces f;
+
+  const Family& family() const { return *FindFamily(st.ProfileType); }
+  void Load() {
+    st.epsilon = std::sqrt(235 / st.fyk);
+    st.fd = st.fyk / st.gammam1;
+    family().load(st, TheLibrary()->catalogues, rec);
+  }
+  SectionRecord& All() {
+    Load();
+    family().effective(st, rec);
+    if (family().shear) family().shear(st, rec);
+    if (family().nominal) family().nominal(st, family(), f, rec);
+    return rec;
+  }
+  void ClassFor(double N, double My, double Mz) {
+    f.Ncl = N;
+    f.N = N;
+    f.My = My;
+    f.Mz = Mz;
+    family().sectionClass(st, f, rec);
+  }
+};
+
+}  // namespace korvane::testing
