@@ -238,6 +238,19 @@ TEST_F(Segments, PlateGoesByTheEndsOfTheSegment) {
   EXPECT_NEAR(ltb.Mdb, 116.5908, 1e-4);
 }
 
+// Of segments reduced alike the last gives the smallest design moment, also where none is reduced.
+TEST_F(Segments, LastOfEqualReductionsGivesTheSmallestDesignMoment) {
+  StraightMoments(50, 50);
+  Run(51, 1);
+  EXPECT_EQ(ltb.chiLT_min, 1);
+  EXPECT_NEAR(ltb.Mdb_min, 0.9 * 355 / 1.1, 2e-5);
+  bench.rec.tw = 25;  // stocky: not reduced on the other side either
+  M[50] = -50;
+  Run(51, 1);
+  EXPECT_EQ(ltb.chiLT_min, 1);
+  EXPECT_NEAR(ltb.Mdb_min, 0.8 * 355 / 1.1, 2e-5);
+}
+
 TEST_F(Segments, NoMomentLeavesTheLastSegmentGoverning) {
   StraightMoments(0, 0);
   Run(1, 4);
