@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The reports of every family as PDF files of the console program: text is text, and every value
+// of the section and every check line can be read from the page.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+
+#include "core/files.h"
+#include "front/console/run_design.h"
+#include "sections/profile_table.h"
+#include "sections/shown_values.h"
+
+namespace korvane {
+namespace {
+
+/// Output of a shell command.
+std::string OutputOf(const std::string& command) {
+  std::string out;
+  if (FILE* pipe = popen(command.c_str(), "r")) {
+    char buffer[4096];
+    while (const std::size_t n = fread(buffer, 1, sizeof buffer, pipe)) out.append(buffer, n);
+    pclose(pipe);
+  }
+  return out;
+}
+
+/// Blanks count for nothing: a PDF places words by their positions.
+std::string Squeezed(const std::string& text) {
+  std::string out;
+  for (const char c : text) {
+    if (c != ' ' && c != '\n' && c != '\f') out += c;
+  }
+  return out;
+}
+
+class ReportPdf : public ::testing::TestWithParam<int> {
+protected:
+  ReportPdf() {
+    char number[8];
+    std::snprintf(number, sizeof number, "f%03d", GetParam());
+    project_ = std::string(KORVANE_SOURCE_DIR) + "/tests/design/projects/" + number + ".kvn";
+    folder_ = std::filesystem::temp_directory_path() /
+              ("korvane_pdf_" + std::string(number) + std::to_string(getpid()));
+    std::filesystem::create_directories(folder_);
+  }
+  ~ReportPdf() override { std::filesystem::remove_all(folder_); }
+
+  std::string TextOf(const char* kind) {
+    const std::string pdf = (folder_ / kind).string() + ".pdf";
+    OutputOf(std::string(KORVANE_CLI) + " report " + project_ + " --data " + KORVANE_SOURCE_DIR +
+        "/data --kind " + kind + " -o " + pdf);
+    return Squeezed(OutputOf("pdftotext -layout " + pdf + " -"));
+  }
+  std::string project_;
+  std::filesystem::path folder_;
+};
+
+TEST_P(ReportPdf, HoldsTheSectionAndTheChecks) {
+  Design d = StartedDesign(ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data"));
+  const DesignRun run = RunProject(d, project_);
+  ASSERT_EQ(run.file, FileResult::Ok);
+  ASSERT_FALSE(run.fault.has_value()) << run.what;
+  const std::string section = TextOf("section");
+  const std::string control = TextOf("control");
+  for (const ShownValues& block :
+       {Dimensions(d.st, d.rec), Properties(d.st, d.rec), Capacities(d.st, d.rec)}) {
+    for (const ShownValue& v : block) {
+      const std::string row = "=" + v.text + std::string(v.unit);
+      EXPECT_NE(section.find(row), std::string::npos) << v.name << row;
+      EXPECT_NE(control.find(row), std::string::npos) << v.name << row;
+    }
+  }
+  EXPECT_NE(control.find("SECTIONCONTROL:"), std::string::npos);
+  for (const CheckLine* line :
+       {&d.checks.lineSection, &d.checks.lineVz, &d.checks.lineVy, &d.checks.lineLateral}) {
+    if (line->formula.empty()) continue;
+    EXPECT_NE(control.find(Squeezed(line->numbers + line->value + line->limit)), std::string::npos)
+        << line->numbers;
+  }
+}
+
+TEST_P(ReportPdf, CarriesItsTitleAndTheProject) {
+  const std::string pdf = (folder_ / "both.pdf").string();
+  OutputOf(std::string(KORVANE_CLI) + " report " + project_ + " --data " + KORVANE_SOURCE_DIR +
+      "/data --kind both -o " + pdf);
+  const std::string info = OutputOf("pdfinfo " + pdf);
+  EXPECT_NE(info.find("Title:"), std::string::npos);
+  EXPECT_NE(info.find("Section and Stability Control"), std::string::npos);
+  EXPECT_NE(info.find("Pages:           2"), std::string::npos) << info;
+  const std::string attached = (folder_ / "attached.kvn").string();
+  OutputOf("pdfdetach -save 1 -o " + attached + " " + pdf);
+  const auto first = ReadWholeFile(attached).value_or("");
+  const auto second = ReadWholeFile(project_).value_or("");
+  EXPECT_FALSE(first.empty());
+  // The design may change the project (loads that a family can't carry); its head is the same.
+  EXPECT_EQ(first.substr(0, 40), second.substr(0, 40));
+}
+
+std::vector<int> AllCodes() {
+  std::vector<int> codes;
+  for (const Family& family : AllFamilies()) codes.push_back(family.code);
+  return codes;
+}
+
+INSTANTIATE_TEST_SUITE_P(AllFamilies, ReportPdf, ::testing::ValuesIn(AllCodes()),
+                         [](const auto& i) { return "f" + std::to_string(i.param); });
+
+}  // namespace
+}  // namespace korvane
