@@ -167,7 +167,10 @@ double DrawBucklingTable(DrawingTarget& t, double line, const Design& d) {
   const auto letter = angle ? AngleCurveLetter : CurveLetter;
   row("Buckling length factor", f2(d.st.bly), f2(d.st.blz));
   row("Buckling Curve", letter(d.st.BucklingCurveY), letter(d.st.BucklingCurveZ));
-  row("Slenderness lamda =", f2(d.buckling.Lybar), f2(d.buckling.Lzbar));
+  // Without compression no slenderness was worked out for this member.
+  if (d.checks.bucklingRan) {
+    row("Slenderness lamda =", f2(d.buckling.Lybar), f2(d.buckling.Lzbar));
+  }
   if (d.beam.betaMy != 0 || d.beam.betaMz != 0) {
     row("Betam", f2(d.beam.betaMy), f2(d.beam.betaMz));
   }
