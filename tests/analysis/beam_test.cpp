@@ -119,6 +119,17 @@ TEST(MomentZeros, TheLastOneOfAHalfCounts) {
   EXPECT_LE(r.z.M_zero1, (last + 1) / 50.0);
 }
 
+TEST(MomentZeros, OneJustBehindTheMiddleBelongsToBothHalves) {
+  ProjectState st = MomentLoaded(1, 50, 100, 25.5);
+  PutPoint(st, 2, -4, 40);  // keeps the fixed end on the positive side
+  const BeamResults r = Analysed(st);
+  ASSERT_LT(r.z.M[25], 0);
+  ASSERT_GT(r.z.M[26], 0);
+  EXPECT_GT(r.z.M_zero1, 0.5);
+  EXPECT_LT(r.z.M_zero1, 0.52);
+  EXPECT_EQ(r.z.M_zero2, r.z.M_zero1);
+}
+
 TEST(MomentZeros, StandForTheYPlaneToo) {
   ProjectState st = LineLoaded(2, 6, 10);
   st.q1_yz = 0;

@@ -56,6 +56,7 @@ constexpr FactorCase kFactors[] = {
     {"triangle: quarter moments are half", 0, 10, 0, 5, 5, 1.4},
     {"parabola: three quarters", 0, 10, 0, 7.5, 7.5, 1.3},
     {"exactly 1.2 times half is still 1.4", 0, 10, 0, 6, 6, 1.4},
+    {"just above 1.2 times half", 0, 10, 0, 6.01, 6.01, 1.3},
     {"left station alone", 0, 10, 0, 6.5, 0, 1.3},
     {"right station alone", 0, 10, 0, 0, -6.5, 1.3},
     {"mid moment of the other sign", 0, -10, 0, -7.5, -7.5, 1.3},
