@@ -11,7 +11,8 @@
 
 namespace korvane {
 
-/// The greatest ratio of the last calculation, in single precision.
+/// The greatest ratio of the last calculation, in single precision. Throws ArithmeticFault when
+/// it is too large for that.
 float MaxIR(const CheckResults& checks);
 
 /// A piece of a line in one style.

@@ -93,6 +93,15 @@ ordered_json Buckling(const BucklingResults& b) {
           {"klt", Value(b.klt)}};
 }
 
+/// 0 where the ratios are too large for it.
+double MaxIROrZero(const CheckResults& c) {
+  try {
+    return MaxIR(c);
+  } catch (const ArithmeticFault&) {
+    return 0;
+  }
+}
+
 ordered_json Checks(const CheckResults& c) {
   return {{"IRsection", Value(c.IRsection)},
           {"IRvz", Value(c.IRvz)},
@@ -103,7 +112,7 @@ ordered_json Checks(const CheckResults& c) {
           {"IRcombinedY", Value(c.IRcombinedY)},
           {"IRcombinedZ", Value(c.IRcombinedZ)},
           {"ClassGoverning", Value(c.ClassGoverning)},
-          {"MaxIR", Value(double(MaxIR(c)))},
+          {"MaxIR", Value(MaxIROrZero(c))},
           {"lineSection", Line(c.lineSection)},
           {"lineVz", Line(c.lineVz)},
           {"lineVy", Line(c.lineVy)},

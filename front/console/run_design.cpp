@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "checks/results.h"
+
 namespace korvane {
 
 Design StartedDesign(std::shared_ptr<const Library> library) {
@@ -16,6 +18,21 @@ Design StartedDesign(std::shared_ptr<const Library> library) {
   design.messages.clear();
   return design;
 }
+
+namespace {
+
+/// The single figure of the usage is held in single precision: ratios beyond it are a failure
+/// as any other.
+void CheckMaxIR(const Design& design, DesignRun& run) {
+  try {
+    MaxIR(design.checks);
+  } catch (const ArithmeticFault& fault) {
+    run.fault = "MaxIR";
+    run.what = std::string("MaxIR: ") + fault.what();
+  }
+}
+
+}  // namespace
 
 DesignRun RunProject(Design& design, const std::string& path) {
   DesignRun run;
@@ -33,6 +50,7 @@ DesignRun RunProject(Design& design, const std::string& path) {
     run.fault = "SetMaterial";
     run.what = std::string("SetMaterial: ") + fault.what();
   }
+  if (!run.fault) CheckMaxIR(design, run);
   return run;
 }
 
