@@ -105,7 +105,7 @@ void DrawLegend(const Sketch& s, double y) {
   for (const LegendEntry& entry : LegendOf(s)) {
     entry.sign({x, y + s.sheet.Labels().LineHeight() / 2});
     s.sheet.Pen(Role::Quiet, 0.1);
-    const Rect box = s.sheet.Labels().Fix({{entry.text, Role::Quiet}}, {x + t.Across(1.3), y});
+    const Box box = s.sheet.Labels().Fix({{entry.text, Role::Quiet}}, {x + t.Across(1.3), y});
     x = box.right + t.Across(3);
   }
 }

@@ -40,7 +40,7 @@ std::vector<double> ZerosOf(const PlaneForces& f) {
 
 // The zero positions at the right end of the title's line, in a smaller size if they need it.
 void PrintZeros(DiagramSheet& sheet, const char* head, const std::vector<double>& zeros, double L,
-                const Rect& title) {
+                const Box& title) {
   std::string text = head;
   for (const double zero : zeros) text += " x = " + Format(zero * L, "#0.000") + " m";
   DrawingTarget& t = sheet.Target();
@@ -71,7 +71,7 @@ void DrawMomentShear(DrawingTarget& target, const DiagramOrigin& origin, const P
   const CurveRoom m = RoomOf(f.M_max, f.M_min, kMomentScale, style);
   const CurveRoom v = RoomOf(f.V_max, f.V_min, kShearScale, style);
 
-  const Rect title = sheet.Title(names.moment, origin.y);
+  const Box title = sheet.Title(names.moment, origin.y);
   const std::vector<double> at = zeros ? ZerosOf(f) : std::vector<double>{};
   if (!at.empty()) PrintZeros(sheet, names.zeros, at, st.L, title);
   const double shearTitle = origin.y + LineOf(style) + m.above + m.below;

@@ -98,7 +98,7 @@ DiagramSheet::DiagramSheet(DrawingTarget& target, const DiagramOrigin& origin,
                            const DiagramStyle& style, double height)
     : target_(target),
       before_(target),
-      bounds_(Rect::At(origin.x, origin.y, kPictureWidth, height)),
+      bounds_(Box::At(origin.x, origin.y, kPictureWidth, height)),
       labels_(target, bounds_) {
   if (origin.destination == Destination::Picture) target_.Clear();
   target_.FontName = "Arial";
@@ -112,7 +112,7 @@ DiagramSheet::~DiagramSheet() {
   static_cast<DrawingState&>(target_) = before_;
 }
 
-Rect DiagramSheet::Title(const std::string& text, double y) {
+Box DiagramSheet::Title(const std::string& text, double y) {
   return labels_.Fix({{text, Role::Ink, true}}, {bounds_.left, y});
 }
 

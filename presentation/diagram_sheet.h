@@ -21,11 +21,11 @@ public:
 
   DrawingTarget& Target() { return target_; }
   LabelPlacer& Labels() { return labels_; }
-  const Rect& Bounds() const { return bounds_; }
+  const Box& Bounds() const { return bounds_; }
   /// User x of a relative position of the member.
   double X(double relative) const { return bounds_.left + kMemberLeft + kMemberWidth * relative; }
   /// A title in bold, its upper left corner at the sheet's left edge; returns its rectangle.
-  Rect Title(const std::string& text, double y);
+  Box Title(const std::string& text, double y);
   /// The member's line with a tick at each end.
   void Axis(double y);
   void Pen(Role colour, double width);
@@ -33,7 +33,7 @@ public:
 private:
   DrawingTarget& target_;
   DrawingState before_;
-  Rect bounds_;
+  Box bounds_;
   LabelPlacer labels_;
 };
 

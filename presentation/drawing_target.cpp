@@ -84,7 +84,7 @@ void DrawingTarget::Arc(Point centre, double radius, double start, double sweep)
   OnArc(ToPage(centre), radius * frame_.sy, start, sweep, CurrentStroke(Paint::Outline));
 }
 
-void DrawingTarget::PushFrame(const Rect& place, const Rect& window) {
+void DrawingTarget::PushFrame(const Box& place, const Box& window) {
   if (window.Width() == 0 || window.Height() == 0) {
     throw ArithmeticFault("division by zero");
   }
@@ -105,13 +105,13 @@ void DrawingTarget::PopFrame() {
   saved_.pop_back();
 }
 
-Rect DrawingTarget::FitInside(const Rect& place, double width, double height) const {
+Box DrawingTarget::FitInside(const Box& place, double width, double height) const {
   if (width <= 0 || height <= 0) return place;
   const double scale =
       std::min(place.Width() * frame_.sx / width, place.Height() * frame_.sy / height);
   const double w = width * scale / frame_.sx;
   const double h = height * scale / frame_.sy;
-  return Rect::At(place.left + (place.Width() - w) / 2, place.top + (place.Height() - h) / 2, w, h);
+  return Box::At(place.left + (place.Width() - w) / 2, place.top + (place.Height() - h) / 2, w, h);
 }
 
 Stroke DrawingTarget::CurrentStroke(Paint paint) const {

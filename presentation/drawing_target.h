@@ -108,12 +108,12 @@ public:
 
   /// From now on user units are those of the window, which fills the place (in the present user
   /// units). Saves the state; sizes of the window must not be 0.
-  void PushFrame(const Rect& place, const Rect& window);
+  void PushFrame(const Box& place, const Box& window);
   /// Returns to the frame and the state before.
   void PopFrame();
   /// The largest rectangle inside the place that shows width by height without distortion,
   /// centred.
-  Rect FitInside(const Rect& place, double width, double height) const;
+  Box FitInside(const Box& place, double width, double height) const;
 
   /// Page units per user unit.
   double UnitX() const { return frame_.sx; }
@@ -154,7 +154,7 @@ private:
 /// Holds a frame for the length of a block.
 class ScopedFrame {
 public:
-  ScopedFrame(DrawingTarget& target, const Rect& place, const Rect& window) : target_(target) {
+  ScopedFrame(DrawingTarget& target, const Box& place, const Box& window) : target_(target) {
     target_.PushFrame(place, window);
   }
   ~ScopedFrame() { target_.PopFrame(); }

@@ -17,7 +17,7 @@ bool Cut(double start, double delta, double low, double high, double& t0, double
 
 }  // namespace
 
-bool Meets(Point a, Point b, const Rect& r) {
+bool Meets(Point a, Point b, const Box& r) {
   double t0 = 0, t1 = 1;
   return Cut(a.x, b.x - a.x, r.left, r.right, t0, t1) &&
          Cut(a.y, b.y - a.y, r.top, r.bottom, t0, t1);

@@ -12,36 +12,36 @@ struct Point {
 };
 
 /// A rectangle with y down: top <= bottom.
-struct Rect {
+struct Box {
   double left = 0, top = 0, right = 0, bottom = 0;
 
-  static Rect At(double x, double y, double width, double height) {
+  static Box At(double x, double y, double width, double height) {
     return {x, y, x + width, y + height};
   }
   double Width() const { return right - left; }
   double Height() const { return bottom - top; }
   Point Centre() const { return {(left + right) / 2, (top + bottom) / 2}; }
-  Rect Moved(double dx, double dy) const { return {left + dx, top + dy, right + dx, bottom + dy}; }
-  Rect Grown(double dx, double dy) const { return {left - dx, top - dy, right + dx, bottom + dy}; }
+  Box Moved(double dx, double dy) const { return {left + dx, top + dy, right + dx, bottom + dy}; }
+  Box Grown(double dx, double dy) const { return {left - dx, top - dy, right + dx, bottom + dy}; }
   /// The area in common is more than a touch.
-  bool Overlaps(const Rect& o, double tolerance = 0) const {
+  bool Overlaps(const Box& o, double tolerance = 0) const {
     return std::min(right, o.right) - std::max(left, o.left) > tolerance &&
            std::min(bottom, o.bottom) - std::max(top, o.top) > tolerance;
   }
-  bool Contains(const Rect& o, double tolerance = 0) const {
+  bool Contains(const Box& o, double tolerance = 0) const {
     return o.left >= left - tolerance && o.right <= right + tolerance && o.top >= top - tolerance &&
            o.bottom <= bottom + tolerance;
   }
-  void Include(const Rect& o) {
+  void Include(const Box& o) {
     left = std::min(left, o.left);
     top = std::min(top, o.top);
     right = std::max(right, o.right);
     bottom = std::max(bottom, o.bottom);
   }
-  void Include(Point p) { Include(Rect{p.x, p.y, p.x, p.y}); }
+  void Include(Point p) { Include(Box{p.x, p.y, p.x, p.y}); }
 };
 
 /// The straight line from a to b passes through the rectangle or touches it.
-bool Meets(Point a, Point b, const Rect& r);
+bool Meets(Point a, Point b, const Box& r);
 
 }  // namespace korvane

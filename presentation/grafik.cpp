@@ -141,11 +141,11 @@ void DrawDiagram(DrawingTarget& target, DiagramKind kind, const DiagramOrigin& o
   EntryOf(kind).draw(target, origin, data, style);
 }
 
-void DrawDiagramIn(DrawingTarget& target, DiagramKind kind, const Rect& place,
+void DrawDiagramIn(DrawingTarget& target, DiagramKind kind, const Box& place,
                    Destination destination, const DiagramData& data, const DiagramStyle& style) {
   const double height = DiagramHeight(kind, data, style);
-  const Rect fitted = target.FitInside(place, kPictureWidth, height);
-  const ScopedFrame frame(target, fitted, Rect::At(0, 0, kPictureWidth, height));
+  const Box fitted = target.FitInside(place, kPictureWidth, height);
+  const ScopedFrame frame(target, fitted, Box::At(0, 0, kPictureWidth, height));
   DrawDiagram(target, kind, {0, 0, destination}, data, style);
 }
 

@@ -82,7 +82,7 @@ void DrawDiagram(DrawingTarget& target, DiagramKind kind, const DiagramOrigin& o
                  const DiagramData& data, const DiagramStyle& style);
 
 /// Draws a diagram into a rectangle of the target's user units, undistorted and centred.
-void DrawDiagramIn(DrawingTarget& target, DiagramKind kind, const Rect& place,
+void DrawDiagramIn(DrawingTarget& target, DiagramKind kind, const Box& place,
                    Destination destination, const DiagramData& data, const DiagramStyle& style);
 
 /// What a status line says for the pointer at a relative position of a diagram: the values of

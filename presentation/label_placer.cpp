@@ -38,7 +38,7 @@ constexpr double kTooMuch = 1e9;
 
 }  // namespace
 
-LabelPlacer::LabelPlacer(DrawingTarget& target, const Rect& bounds)
+LabelPlacer::LabelPlacer(DrawingTarget& target, const Box& bounds)
     : target_(target), bounds_(bounds) {}
 
 void LabelPlacer::Avoid(Point a, Point b) {
@@ -61,11 +61,11 @@ double LabelPlacer::WidthOf(const std::vector<TextRun>& runs) const {
   return width;
 }
 
-Rect LabelPlacer::Preferred(const Label& label, double width) const {
+Box LabelPlacer::Preferred(const Label& label, double width) const {
   const double height = LineHeight();
   const double across = target_.Across(label.gap);
   const Point p = label.anchor;
-  const Rect centred = Rect::At(p.x - width / 2, p.y - height / 2, width, height);
+  const Box centred = Box::At(p.x - width / 2, p.y - height / 2, width, height);
   switch (label.side) {
     case Side::Above:
       return centred.Moved(0, -height / 2 - label.gap);
@@ -82,13 +82,13 @@ Rect LabelPlacer::Preferred(const Label& label, double width) const {
 }
 
 // Cost of a place apart from its distance; stops counting above the least cost known.
-double LabelPlacer::Cost(const Rect& r, double least) const {
+double LabelPlacer::Cost(const Box& r, double least) const {
   const double height = LineHeight();
   const double over = std::max({0., bounds_.left - r.left, r.right - bounds_.right}) +
                       std::max({0., bounds_.top - r.top, r.bottom - bounds_.bottom});
   double cost = over > 1e-9 ? kOutside * (1 + over / height) : 0;
-  const Rect air = r.Grown(target_.Across(0.12 * height), 0);
-  for (const Rect& k : kept_) {
+  const Box air = r.Grown(target_.Across(0.4 * height), 0);
+  for (const Box& k : kept_) {
     if (cost >= least) return cost;
     if (air.Overlaps(k)) cost += kOverlapping;
   }
@@ -99,13 +99,13 @@ double LabelPlacer::Cost(const Rect& r, double least) const {
   return cost;
 }
 
-Rect LabelPlacer::BestPlace(const Rect& preferred) const {
+Box LabelPlacer::BestPlace(const Box& preferred) const {
   const double step = LineHeight();
-  Rect best = preferred;
+  Box best = preferred;
   double least = kTooMuch;
   for (const Move& m : Moves()) {
     if (m.distance >= least) break;
-    const Rect r = preferred.Moved(target_.Across(m.dx * step), m.dy * step);
+    const Box r = preferred.Moved(target_.Across(m.dx * step), m.dy * step);
     const double cost = m.distance + Cost(r, least - m.distance);
     if (cost < least) {
       least = cost;
@@ -115,9 +115,9 @@ Rect LabelPlacer::BestPlace(const Rect& preferred) const {
   return best;
 }
 
-Rect LabelPlacer::Place(const Label& label) {
-  const Rect preferred = Preferred(label, WidthOf(label.runs));
-  const Rect box = BestPlace(preferred);
+Box LabelPlacer::Place(const Label& label) {
+  const Box preferred = Preferred(label, WidthOf(label.runs));
+  const Box box = BestPlace(preferred);
   const double height = LineHeight();
   const double moved = std::hypot((box.left - preferred.left) / target_.Across(height),
                                   (box.top - preferred.top) / height);
@@ -127,8 +127,8 @@ Rect LabelPlacer::Place(const Label& label) {
   return box;
 }
 
-Rect LabelPlacer::Fix(const std::vector<TextRun>& runs, Point topLeft) {
-  const Rect box = Rect::At(topLeft.x, topLeft.y, WidthOf(runs), LineHeight());
+Box LabelPlacer::Fix(const std::vector<TextRun>& runs, Point topLeft) {
+  const Box box = Box::At(topLeft.x, topLeft.y, WidthOf(runs), LineHeight());
   Draw(runs, topLeft);
   Keep(box);
   return box;
@@ -147,7 +147,7 @@ void LabelPlacer::Draw(const std::vector<TextRun>& runs, Point topLeft) {
   target_.FontBold = before.FontBold;
 }
 
-void LabelPlacer::DrawLeader(const Label& label, const Rect& box) {
+void LabelPlacer::DrawLeader(const Label& label, const Box& box) {
   const Role before = target_.ForeColor;
   target_.ForeColor = Role::Quiet;
   const Point end{std::clamp(label.anchor.x, box.left, box.right),

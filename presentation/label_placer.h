@@ -32,18 +32,18 @@ struct Label {
 /// its present font.
 class LabelPlacer {
 public:
-  LabelPlacer(DrawingTarget& target, const Rect& bounds);
+  LabelPlacer(DrawingTarget& target, const Box& bounds);
 
   /// Nothing is placed over this rectangle.
-  void Keep(const Rect& r) { kept_.push_back(r); }
+  void Keep(const Box& r) { kept_.push_back(r); }
   /// Labels stay off these lines where they can.
   void Avoid(Point a, Point b);
   void Avoid(const std::vector<Point>& polyline);
 
   /// Finds the place, draws the label and keeps the place. Returns the label's rectangle.
-  Rect Place(const Label& label);
+  Box Place(const Label& label);
   /// Draws text with its top left corner at a point and keeps the place.
-  Rect Fix(const std::vector<TextRun>& runs, Point topLeft);
+  Box Fix(const std::vector<TextRun>& runs, Point topLeft);
 
   double WidthOf(const std::vector<TextRun>& runs) const;
   double LineHeight() const;
@@ -52,15 +52,15 @@ private:
   struct Segment {
     Point a, b;
   };
-  Rect Preferred(const Label& label, double width) const;
-  double Cost(const Rect& r, double least) const;
-  Rect BestPlace(const Rect& preferred) const;
+  Box Preferred(const Label& label, double width) const;
+  double Cost(const Box& r, double least) const;
+  Box BestPlace(const Box& preferred) const;
   void Draw(const std::vector<TextRun>& runs, Point topLeft);
-  void DrawLeader(const Label& label, const Rect& box);
+  void DrawLeader(const Label& label, const Box& box);
 
   DrawingTarget& target_;
-  Rect bounds_;
-  std::vector<Rect> kept_;
+  Box bounds_;
+  std::vector<Box> kept_;
   std::vector<Segment> lines_;
 };
 

@@ -27,7 +27,7 @@ struct Number {
 };
 
 // Numbers first, first + step, ... in one row.
-void Spread(std::vector<Number>& numbers, std::size_t first, std::size_t step, const Rect& room) {
+void Spread(std::vector<Number>& numbers, std::size_t first, std::size_t step, const Box& room) {
   std::vector<double> wanted, widths;
   for (std::size_t i = first; i < numbers.size(); i += step) {
     wanted.push_back(numbers[i].x);

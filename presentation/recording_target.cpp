@@ -9,25 +9,25 @@
 namespace korvane {
 namespace {
 
-Rect BoundsOf(const std::vector<std::vector<Point>>& outlines) {
-  std::optional<Rect> box;
+Box BoundsOf(const std::vector<std::vector<Point>>& outlines) {
+  std::optional<Box> box;
   for (const std::vector<Point>& outline : outlines) {
     for (const Point& p : outline) {
-      if (!box) box = Rect{p.x, p.y, p.x, p.y};
+      if (!box) box = Box{p.x, p.y, p.x, p.y};
       box->Include(p);
     }
   }
-  return box.value_or(Rect{});
+  return box.value_or(Box{});
 }
 
 // Bounds of an arc: its two ends and each quarter point that it passes.
-Rect ArcBounds(Point c, double r, double start, double sweep) {
+Box ArcBounds(Point c, double r, double start, double sweep) {
   const auto at = [&](double degrees) {
     const double a = degrees * kPi / 180;
     return Point{c.x + r * std::cos(a), c.y - r * std::sin(a)};
   };
   const Point first = at(start);
-  Rect box{first.x, first.y, first.x, first.y};
+  Box box{first.x, first.y, first.x, first.y};
   box.Include(at(start + sweep));
   const double low = std::min(start, start + sweep);
   const double high = std::max(start, start + sweep);
@@ -73,8 +73,8 @@ std::vector<const RecordedShape*> RecordingTarget::WithPoints(ShapeKind kind,
   return found;
 }
 
-std::optional<Rect> RecordingTarget::Bounds() const {
-  std::optional<Rect> box;
+std::optional<Box> RecordingTarget::Bounds() const {
+  std::optional<Box> box;
   for (const RecordedShape& s : shapes_) {
     if (!box) box = s.box;
     box->Include(s.box);
@@ -105,7 +105,7 @@ void RecordingTarget::OnText(Point topLeft, const std::string& text, double widt
   s.kind = ShapeKind::Text;
   s.text = text;
   s.style = style;
-  s.box = Rect::At(topLeft.x, topLeft.y, width, (kArialAscent + kArialDescent) * style.size);
+  s.box = Box::At(topLeft.x, topLeft.y, width, (kArialAscent + kArialDescent) * style.size);
   shapes_.push_back(std::move(s));
 }
 

@@ -22,7 +22,7 @@ struct RecordedShape {
   TextStyle style;
   Stroke stroke;
   Fill fill;
-  Rect box;  ///< bounds, of text from its advance widths
+  Box box;  ///< bounds, of text from its advance widths
 
   /// The points of the first outline.
   const std::vector<Point>& Points() const { return outlines.at(0); }
@@ -44,7 +44,7 @@ public:
   std::vector<const RecordedShape*> WithPoints(ShapeKind kind, std::size_t points) const;
 
   /// Bounds of everything drawn, if anything was.
-  std::optional<Rect> Bounds() const;
+  std::optional<Box> Bounds() const;
   /// Pairs of texts whose boxes have more than the tolerance (page units) in common in both
   /// directions. Blank texts don't count.
   std::vector<std::pair<std::string, std::string>> OverlappingTexts(double tolerance) const;

@@ -138,7 +138,7 @@ void DrawDimension(DrawingTarget& target, Point a, Point b, double head) {
   if (length == 0) return;
   const double ux = dx / target.Across(1) / length;
   const double uy = dy / length;
-  if (length > 2.6 * head) {
+  if (length > kOutsideHeads * head) {
     target.Line(a, b);
     DrawArrowHead(target, a, -dx, -dy, head);
     DrawArrowHead(target, b, dx, dy, head);

@@ -21,8 +21,9 @@ void DrawArrow(DrawingTarget& target, Point tail, Point tip, double head);
 /// moment.
 void DrawMomentArrow(DrawingTarget& target, Point centre, double radius, bool clockwise);
 
-/// A dimension line between two points of one height or of one vertical. Where it is too short
-/// for the heads they stand outside and point inwards.
+/// A dimension line between two points. Shorter than kOutsideHeads heads it has them outside,
+/// pointing inwards.
+inline constexpr double kOutsideHeads = 3.2;
 void DrawDimension(DrawingTarget& target, Point a, Point b, double head);
 
 /// The supports of a member whose axis runs between two points of one height and which is

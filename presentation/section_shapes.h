@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the figures of single families are built with: drawn thicknesses and dimensions.
+#pragma once
+
+#include "presentation/section_outlines.h"
+#include "presentation/section_shape.h"
+
+namespace korvane::shapes {
+
+/// What a builder reads.
+struct Source {
+  const ProjectState& st;
+  const SectionRecord& rec;
+  bool notToScale;
+  ArcSteps steps;
+};
+
+/// Flange tip over flange thickness of sections with tapered flanges.
+inline constexpr double kTipShare = 0.6;
+
+/// Thicknesses as they are drawn.
+class Walls {
+public:
+  Walls(const Source& s, double greatest) : least_(s.notToScale ? kLeastWall * greatest : 0) {}
+  /// t, but not less than can be seen as far as the room allows.
+  double operator()(double t, double room) const { return std::max(t, std::min(least_, room)); }
+
+private:
+  static constexpr double kLeastWall = 0.045;  // of the greatest size
+  double least_;
+};
+
+/// Radius drawn beside walls that are drawn thicker, as far as the room allows.
+double DrawnRadius(double r, double thickness, double drawn, double room);
+
+/// A dimension; none for two equal points.
+void Add(SectionShape& s, const char* letter, Point a, Point b, DimensionSide side);
+/// A height told at the left of the section.
+void AddHeight(SectionShape& s, const char* letter, double from, double to);
+/// Thickness of a flange whose edge is at x.
+void AddFlange(SectionShape& s, const char* letter, double x, double from, double to);
+/// Thickness of a web from x, told at the height y.
+void AddWeb(SectionShape& s, const char* letter, double x, double t, double y);
+
+SectionShape RolledI(const Source& s);
+SectionShape TaperedI(const Source& s);
+SectionShape WeldedI(const Source& s);
+SectionShape ParallelChannel(const Source& s);
+SectionShape TaperedChannel(const Source& s);
+SectionShape Hollow(const Source& s);
+SectionShape Angle(const Source& s);
+SectionShape SingleI(const Source& s);
+SectionShape TSection(const Source& s);
+SectionShape Box23(const Source& s);
+SectionShape Hsq24(const Source& s);
+SectionShape Hsq25(const Source& s);
+SectionShape Box27(const Source& s);
+SectionShape FlatBar(const Source& s);
+SectionShape Tube(const Source& s);
+SectionShape PlateFlat(const Source& s);
+SectionShape PlateAngle(const Source& s);
+SectionShape PlateWeldedAngle(const Source& s);
+SectionShape PlateBulb(const Source& s);
+SectionShape PlateTrapeze(const Source& s);
+SectionShape PlateGirder(const Source& s);
+SectionShape General(const Source& s);
+
+}  // namespace korvane::shapes
