@@ -201,4 +201,17 @@ std::string SectionTitle(const ProjectState& st, const Catalogues& cat) {
   return FormOf(sizes.catalogue).word + Format(table(sizes.row, 1), "00");
 }
 
+std::string NameDimensions(const ProjectState& st, const Catalogues& cat) {
+  const std::string title = SectionTitle(st, cat);
+  const auto digit = title.find_first_of("0123456789.");
+  if (digit == std::string::npos) return {};
+  std::string out;
+  for (const char ch : title.substr(digit)) {
+    // List entries carry a blank for the sign of each number.
+    if (ch == ' ' && !out.empty() && out.back() == 'x') continue;
+    out += ch;
+  }
+  return out;
+}
+
 }  // namespace korvane

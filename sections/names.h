@@ -23,6 +23,9 @@ SizeList SizesOf(const ProjectState& st);
 /// "RHS  100x 100x 5", "UB  1016x 305x 487").
 std::string ListEntry(Cat catalogue, const Catalogues& cat, int row);
 
+/// The dimensions in the section's name without its word ("200", "600x300x12x20").
+std::string NameDimensions(const ProjectState& st, const Catalogues& cat);
+
 /// Number of entries in a list.
 int ListLength(Cat catalogue);
 

@@ -10,6 +10,7 @@
 #include "front/console/design_text.h"
 #include "front/console/exit_status.h"
 #include "front/console/more_commands.h"
+#include "front/console/paint.h"
 #include "front/console/run_design.h"
 #include "front/console/script.h"
 #include "front/console/terminal.h"
@@ -155,6 +156,7 @@ int main(int argc, char** argv) {
   addData(session);
   session->callback([&] { status = RunSession(file, decimal, data); });
   AddBatchCommands(app, status);
+  AddPaintCommands(app, status);
 
   try {
     app.parse(argc, argv);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "painter/painter_target.h"
+#include "front/painter/painter_target.h"
 
 #include <QFontMetricsF>
 #include <QPaintDevice>

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/aprint.h"
+
+#include "core/text.h"
+#include "presentation/figures.h"
+#include "presentation/page.h"
+#include "sections/p23bas.h"
+#include "sections/profile_table.h"
+
+namespace korvane {
+
+const char* ReportTitle(Report report) {
+  return report == Report::SectionProperty ? "Section Property and Capacity"
+                                           : "Section and Stability Control";
+}
+
+namespace {
+
+void DrawSectionReport(DrawingTarget& t, double line, const Design& d) {
+  t.FontSize = kBodySize;
+  DrawMaterial(t, line + 1.5, "Material: ", d);
+  line += 4;
+  t.FontSize = kFrameSize;
+  PutHeading(t, kC1, line, ProfileLine(d));
+  t.FontSize = kBodySize;
+  line = DrawSectionValues(t, line + 2.5, d) + 1;
+  PutText(t, kC8, line, ModulusLine(d));
+  if (d.st.ProfileType == 24 || d.st.ProfileType == 25) {
+    PutText(t, kC1, line + 1,
+            "Mdy takes into account flange loading of " + Format(FlangeLoad(d.st) / 60, "0.0") +
+                " kN/m flange (incl loadf)");
+  }
+  const std::string classFour = ClassFourLine(d);
+  if (!classFour.empty()) PutText(t, kC1, line, classFour);
+  DrawSectionFigure(t, Box{kC1 + 20, line + 3, kRightEdge - 20, line + 35}, Destination::Page, d.st,
+                    d.rec, FigureOptions{});
+}
+
+}  // namespace
+
+void DrawReport(DrawingTarget& page, Report report, const Design& design, const ReportTime& time) {
+  const ScopedFrame grid(page, Box{0, 0, kPageWidth, kPageHeight},
+                         Box{0, 0, kPageColumns, kPageLines});
+  const double line = DrawPageFrame(page, design, time);
+  if (report == Report::SectionProperty) {
+    DrawSectionReport(page, line, design);
+  } else {
+    DrawControlReport(page, line, design);
+  }
+}
+
+}  // namespace korvane

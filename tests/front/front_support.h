@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A session on the real data with a platform that remembers what it was asked.
+#pragma once
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "front/session.h"
+
+namespace korvane::testing {
+
+class RememberingPlatform : public Platform {
+public:
+  void Message(const std::string& text) override { messages.push_back(text); }
+  void Beep() override { ++beeps; }
+  std::optional<std::string> AskOpen(const std::string& filter, const std::string&) override {
+    filters.push_back(filter);
+    return Next();
+  }
+  std::optional<std::string> AskSave(const std::string& filter, const std::string&) override {
+    filters.push_back(filter);
+    return Next();
+  }
+  std::optional<PrintJob> AskPrint() override {
+    ++printDialogs;
+    return print;
+  }
+  void Print(const Design&, int kind, int copies) override { printed.push_back({kind, copies}); }
+  void OpenHelp(const std::string& topic) override { help.push_back(topic); }
+
+  std::vector<std::string> messages, filters, help;
+  std::deque<std::optional<std::string>> answers;
+  std::optional<PrintJob> print;
+  std::vector<std::pair<int, int>> printed;
+  int beeps = 0;
+  int printDialogs = 0;
+
+private:
+  std::optional<std::string> Next() {
+    if (answers.empty()) return std::nullopt;
+    auto answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+};
+
+inline std::shared_ptr<const Library> TheLibrary() {
+  static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
+  return library;
+}
+
+/// A started session whose main window has the focus.
+struct Running {
+  explicit Running(bool comma = false, Folders folders = {})
+      : session(TheLibrary(), platform, comma, std::move(folders)) {
+    session.Start();
+    session.Focus("korvane");
+  }
+  ProjectState& st() { return session.st(); }
+  RememberingPlatform platform;
+  Session session;
+};
+
+}  // namespace korvane::testing

@@ -1,0 +1,575 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Every limit of every form: the last accepted and the first refused value on each side, with
+// the message, the state, the focus and whether a calculation ran.
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <cmath>
+
+#include "tests/front/front_support.h"
+
+namespace korvane {
+namespace {
+
+using testing::Running;
+
+/// What a field must do with a text.
+struct Case {
+  const char* form;
+  const char* control;
+  const char* typed;
+  const char* message;  ///< nullptr: accepted
+  double stored;        ///< what the state holds afterwards
+  int calculations;     ///< how many ran
+};
+
+/// Reads what a field is bound to.
+double StateOf(const Session& s, const std::string& form, const std::string& control) {
+  return FindControl(*FindForm(form), control)->field.read(s.st());
+}
+
+int TheFreeRow() {
+  return testing::TheLibrary()->materials.Last();
+}
+
+void Prepare(Running& r, const std::string& form, const std::string& control) {
+  ProjectState& st = r.st();
+  st.MaterialIndex = TheFreeRow();
+  if (control == "ispring") st.SupportType = 3;
+  if (form == "korvane") return;
+  if (form == "optroll") st.ResultView = 1;
+  st.check_slend = 1;
+  if (form == "endstiff") st.WebStiffener = 1;
+  if (form == "chpoints") {
+    st.cp_mode = 1;
+    st.cp_count = 3;
+  }
+  if (form == "vipping") {
+    st.LateralBucklingCase = 5;
+    st.CFactorManual = 1;
+    st.LoadLevel = 4;
+  }
+  if (form[0] == 'p') st.ProfileType = std::stoi(form.substr(1));
+  r.session.Show(form);
+}
+
+// clang-format off
+const Case kCases[] = {
+    {"korvane", "il", "0.05", nullptr, 0.05, 1},
+    {"korvane", "il", "100", nullptr, 100.0, 1},
+    {"korvane", "il", "0.049", " L >= 0.050 ", 0.049, 0},
+    {"korvane", "ie", "1000", nullptr, 1000.0, 1},
+    {"korvane", "ie", "300000", nullptr, 300000.0, 1},
+    {"korvane", "ie", "999", " 1000 <= E-modulus ", 999.0, 0},
+    {"korvane", "ifyk", "50", nullptr, 50.0, 1},
+    {"korvane", "ifyk", "2000", nullptr, 2000.0, 1},
+    {"korvane", "ifyk", "49", " 50 <= fyk <= 2000 ", 49.0, 0},
+    {"korvane", "ifyk", "2001", " 50 <= fyk <= 2000 ", 2001.0, 0},
+    {"korvane", "igammam1", "0.5", nullptr, 0.5, 1},
+    {"korvane", "igammam1", "1.5", nullptr, 1.5, 1},
+    {"korvane", "igammam1", "0.49", " 0.5 <= gammam1 <=1.5 ", 0.49, 0},
+    {"korvane", "igammam1", "1.51", " 0.5 <= gammam1 <=1.5 ", 1.51, 0},
+    {"korvane", "ibly", "0.2", nullptr, 0.2, 1},
+    {"korvane", "ibly", "3", nullptr, 3.0, 1},
+    {"korvane", "ibly", "0.19", " Buckling length factor Y-axis >= 0.2 ", 0.19, 0},
+    {"korvane", "iblz", "0.2", nullptr, 0.2, 1},
+    {"korvane", "iblz", "3", nullptr, 3.0, 1},
+    {"korvane", "iblz", "0.19", " Buckling length factor Z-axis >= 0.2 ", 0.19, 0},
+    {"korvane", "ispring", "0", nullptr, 0.0, 1},
+    {"korvane", "ispring", "100", nullptr, 100.0, 1},
+    {"korvane", "ispring", "-1", " 1 < Spring-restraint  > 99 ", -1.0, 0},
+    {"korvane", "ispring", "101", " 1 < Spring-restraint  > 99 ", 101.0, 0},
+    {"korvane", "idef_limit", "100", nullptr, 100.0, 0},
+    {"korvane", "idef_limit", "1500", nullptr, 1500.0, 0},
+    {"korvane", "idef_limit", "99", "100 <= Deflection <=1500 ", 99.0, 0},
+    {"korvane", "idef_limit", "1501", "100 <= Deflection <=1500 ", 1501.0, 0},
+    {"loading", "ilfp_uls", "0", nullptr, 0.0, 1},
+    {"loading", "ilfp_uls", "4", nullptr, 4.0, 1},
+    {"loading", "ilfp_uls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"loading", "ilfp_uls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"loading", "ilfv1_uls", "0", nullptr, 0.0, 1},
+    {"loading", "ilfv1_uls", "4", nullptr, 4.0, 1},
+    {"loading", "ilfv1_uls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"loading", "ilfv1_uls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"loading", "ilfv2_uls", "0", nullptr, 0.0, 1},
+    {"loading", "ilfv2_uls", "4", nullptr, 4.0, 1},
+    {"loading", "ilfv2_uls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"loading", "ilfv2_uls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"loading", "ilfp_sls", "0", nullptr, 0.0, 1},
+    {"loading", "ilfp_sls", "4", nullptr, 4.0, 1},
+    {"loading", "ilfp_sls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"loading", "ilfp_sls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"loading", "ilfv1_Sls", "0", nullptr, 0.0, 1},
+    {"loading", "ilfv1_Sls", "4", nullptr, 4.0, 1},
+    {"loading", "ilfv1_Sls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"loading", "ilfv1_Sls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"loading", "ilfv2_Sls", "0", nullptr, 0.0, 1},
+    {"loading", "ilfv2_Sls", "4", nullptr, 4.0, 1},
+    {"loading", "ilfv2_Sls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"loading", "ilfv2_Sls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"loading", "ilfsw_ULS", "-3", nullptr, -3.0, 1},
+    {"loading", "ilfsw_ULS", "9", nullptr, 9.0, 1},
+    {"setup", "ilfp_uls", "0", nullptr, 0.0, 1},
+    {"setup", "ilfp_uls", "4", nullptr, 4.0, 1},
+    {"setup", "ilfp_uls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"setup", "ilfp_uls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"setup", "ilfv1_uls", "0", nullptr, 0.0, 1},
+    {"setup", "ilfv1_uls", "4", nullptr, 4.0, 1},
+    {"setup", "ilfv1_uls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"setup", "ilfv1_uls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"setup", "ilfv2_uls", "0", nullptr, 0.0, 1},
+    {"setup", "ilfv2_uls", "4", nullptr, 4.0, 1},
+    {"setup", "ilfv2_uls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"setup", "ilfv2_uls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"setup", "ilfp_sls", "0", nullptr, 0.0, 1},
+    {"setup", "ilfp_sls", "4", nullptr, 4.0, 1},
+    {"setup", "ilfp_sls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"setup", "ilfp_sls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"setup", "ilfv1_Sls", "0", nullptr, 0.0, 1},
+    {"setup", "ilfv1_Sls", "4", nullptr, 4.0, 1},
+    {"setup", "ilfv1_Sls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"setup", "ilfv1_Sls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"setup", "ilfv2_Sls", "0", nullptr, 0.0, 1},
+    {"setup", "ilfv2_Sls", "4", nullptr, 4.0, 1},
+    {"setup", "ilfv2_Sls", "-0.1", " 0 < Loadfactor < 4.0 ", -0.1, 0},
+    {"setup", "ilfv2_Sls", "4.5", " 0 < Loadfactor < 4.0 ", 4.5, 0},
+    {"setup", "ilfsw_ULS", "-3", nullptr, -3.0, 1},
+    {"setup", "ilfsw_ULS", "9", nullptr, 9.0, 1},
+    {"loading", "inp", "-25.5", nullptr, -25.5, 1},
+    {"loading", "inp", "1000", nullptr, 1000.0, 1},
+    {"loading", "inv1", "-25.5", nullptr, -25.5, 1},
+    {"loading", "inv1", "1000", nullptr, 1000.0, 1},
+    {"loading", "inv2", "-25.5", nullptr, -25.5, 1},
+    {"loading", "inv2", "1000", nullptr, 1000.0, 1},
+    {"loading", "iq1", "-25.5", nullptr, -25.5, 1},
+    {"loading", "iq1", "1000", nullptr, 1000.0, 1},
+    {"loading", "iq2", "-25.5", nullptr, -25.5, 1},
+    {"loading", "iq2", "1000", nullptr, 1000.0, 1},
+    {"loading", "iq3", "-25.5", nullptr, -25.5, 1},
+    {"loading", "iq3", "1000", nullptr, 1000.0, 1},
+    {"loading", "iq4", "-25.5", nullptr, -25.5, 1},
+    {"loading", "iq4", "1000", nullptr, 1000.0, 1},
+    {"loading", "ipm(1)", "-25.5", nullptr, -25.5, 1},
+    {"loading", "ipm(1)", "1000", nullptr, 1000.0, 1},
+    {"loading", "ipm(8)", "-25.5", nullptr, -25.5, 1},
+    {"loading", "ipm(8)", "1000", nullptr, 1000.0, 1},
+    {"loading", "iqt11", "-25.5", nullptr, -25.5, 1},
+    {"loading", "iqt11", "1000", nullptr, 1000.0, 1},
+    {"loading", "iqt12", "-25.5", nullptr, -25.5, 1},
+    {"loading", "iqt12", "1000", nullptr, 1000.0, 1},
+    {"loading", "iqt21", "-25.5", nullptr, -25.5, 1},
+    {"loading", "iqt21", "1000", nullptr, 1000.0, 1},
+    {"loading", "iqt22", "-25.5", nullptr, -25.5, 1},
+    {"loading", "iqt22", "1000", nullptr, 1000.0, 1},
+    {"loading", "iqt31", "-25.5", nullptr, -25.5, 1},
+    {"loading", "iqt31", "1000", nullptr, 1000.0, 1},
+    {"loading", "iqt32", "-25.5", nullptr, -25.5, 1},
+    {"loading", "iqt32", "1000", nullptr, 1000.0, 1},
+    {"loading", "ipmx(1)", "0", nullptr, 0.0, 1},
+    {"loading", "ipmx(1)", "5", nullptr, 5.0, 1},
+    {"loading", "ipmx(1)", "-0.1", " 0 < x <= l ", 0.0, 0},
+    {"loading", "ipmx(1)", "5.001", " 0 < x <= l ", 0.0, 0},
+    {"loading", "ipmx(8)", "0", nullptr, 0.0, 1},
+    {"loading", "ipmx(8)", "5", nullptr, 5.0, 1},
+    {"loading", "ipmx(8)", "-0.1", " 0 < x <= l ", 0.0, 0},
+    {"loading", "ipmx(8)", "5.001", " 0 < x <= l ", 0.0, 0},
+    {"loading", "iqt1x1", "0", nullptr, 0.0, 1},
+    {"loading", "iqt1x1", "5", nullptr, 5.0, 1},
+    {"loading", "iqt1x1", "-0.1", " 0 < x1 <= l ", 0.0, 0},
+    {"loading", "iqt1x1", "5.001", " 0 < x1 <= l ", 0.0, 0},
+    {"loading", "iqt1x2", "0", nullptr, 0.0, 1},
+    {"loading", "iqt1x2", "5", nullptr, 5.0, 1},
+    {"loading", "iqt1x2", "-0.1", " 0 < x2 <= l ", 0.0, 0},
+    {"loading", "iqt1x2", "5.001", " 0 < x2 <= l ", 0.0, 0},
+    {"loading", "iqt2x1", "0", nullptr, 0.0, 1},
+    {"loading", "iqt2x1", "5", nullptr, 5.0, 1},
+    {"loading", "iqt2x1", "-0.1", " 0 < x1 <= l ", 0.0, 0},
+    {"loading", "iqt2x1", "5.001", " 0 < x1 <= l ", 0.0, 0},
+    {"loading", "iqt2x2", "0", nullptr, 0.0, 1},
+    {"loading", "iqt2x2", "5", nullptr, 5.0, 1},
+    {"loading", "iqt2x2", "-0.1", " 0 < x2 <= l ", 0.0, 0},
+    {"loading", "iqt2x2", "5.001", " 0 < x2 <= l ", 0.0, 0},
+    {"loading", "iqt3x1", "0", nullptr, 0.0, 1},
+    {"loading", "iqt3x1", "5", nullptr, 5.0, 1},
+    {"loading", "iqt3x1", "-0.1", " 0 < x1 <= l ", 0.0, 0},
+    {"loading", "iqt3x1", "5.001", " 0 < x1 <= l ", 0.0, 0},
+    {"loading", "iqt3x2", "0", nullptr, 0.0, 1},
+    {"loading", "iqt3x2", "5", nullptr, 5.0, 1},
+    {"loading", "iqt3x2", "-0.1", " 0 < x1 <= l ", 0.0, 0},
+    {"loading", "iqt3x2", "5.001", " 0 < x1 <= l ", 0.0, 0},
+    {"endforce", "ine", "-40", nullptr, -40.0, 1},
+    {"endforce", "ine", "40", nullptr, 40.0, 1},
+    {"endforce", "imy1", "-40", nullptr, -40.0, 1},
+    {"endforce", "imy1", "40", nullptr, 40.0, 1},
+    {"endforce", "imy2", "-40", nullptr, -40.0, 1},
+    {"endforce", "imy2", "40", nullptr, 40.0, 1},
+    {"endforce", "imz1", "-40", nullptr, -40.0, 1},
+    {"endforce", "imz1", "40", nullptr, 40.0, 1},
+    {"endforce", "imz2", "-40", nullptr, -40.0, 1},
+    {"endforce", "imz2", "40", nullptr, 40.0, 1},
+    {"endforce", "ivy1", "-40", nullptr, -40.0, 1},
+    {"endforce", "ivy1", "40", nullptr, 40.0, 1},
+    {"endforce", "ivy2", "-40", nullptr, -40.0, 1},
+    {"endforce", "ivy2", "40", nullptr, 40.0, 1},
+    {"endforce", "ivz1", "-40", nullptr, -40.0, 1},
+    {"endforce", "ivz1", "40", nullptr, 40.0, 1},
+    {"endforce", "ivz2", "-40", nullptr, -40.0, 1},
+    {"endforce", "ivz2", "40", nullptr, 40.0, 1},
+    {"endstiff", "iweba", "100", nullptr, 100.0, 1},
+    {"endstiff", "iweba", "4999", nullptr, 4999.0, 1},
+    {"endstiff", "iweba", "99", " 100 < a < l ", 99.0, 0},
+    {"endstiff", "iweba", "5000", " 100 < a < l ", 5000.0, 0},
+    {"chpoints", "icp(1)", "0", nullptr, 0.0, 1},
+    {"chpoints", "icp(1)", "5", nullptr, 5.0, 1},
+    {"chpoints", "icp(1)", "-0.1", " 0 < x <= l ", -0.1, 1},
+    {"chpoints", "icp(1)", "5.1", " 0 < x <= l ", 5.1, 1},
+    {"chpoints", "icp(2)", "0", nullptr, 0.0, 1},
+    {"chpoints", "icp(2)", "5", nullptr, 5.0, 1},
+    {"chpoints", "icp(2)", "-0.1", " 0 < x <= l ", -0.1, 1},
+    {"chpoints", "icp(2)", "5.1", " 0 < x <= l ", 5.1, 1},
+    {"chpoints", "icp(3)", "0", nullptr, 0.0, 1},
+    {"chpoints", "icp(3)", "5", nullptr, 5.0, 1},
+    {"chpoints", "icp(3)", "-0.1", " 0 < x <= l ", -0.1, 1},
+    {"chpoints", "icp(3)", "5.1", " 0 < x <= l ", 5.1, 1},
+    {"vipping", "ic1", "0.2", nullptr, 0.2, 1},
+    {"vipping", "ic1", "4", nullptr, 4.0, 1},
+    {"vipping", "ic1", "0.19", " 0.2 <= C1i <= 4 ", 0.19, 0},
+    {"vipping", "ic1", "4.01", " 0.2 <= C1i <= 4 ", 4.01, 0},
+    {"vipping", "ic2", "0", nullptr, 0.0, 1},
+    {"vipping", "ic2", "4", nullptr, 4.0, 1},
+    {"vipping", "ic2", "-0.01", " 0 <= C2i <= 4 ", -0.01, 0},
+    {"vipping", "ic2", "4.01", " 0 <= C2i <= 4 ", 4.01, 0},
+    {"vipping", "ic3", "0", nullptr, 0.0, 1},
+    {"vipping", "ic3", "4", nullptr, 4.0, 1},
+    {"vipping", "ic3", "-0.01", " 0 <= C3i <= 4 ", -0.01, 0},
+    {"vipping", "ic3", "4.01", " 0 <= C3i <= 4 ", 4.01, 0},
+    {"vipping", "iza", "-500", nullptr, -500.0, 1},
+    {"vipping", "iza", "500", nullptr, 500.0, 1},
+    {"vipping", "ik", "0.5", nullptr, 0.5, 1},
+    {"vipping", "ik", "1", nullptr, 1.0, 1},
+    {"vipping", "ik", "0.49", " 0.5<= k <= 1.0 ", 0.49, 0},
+    {"vipping", "ik", "1.01", " 0.5<= k <= 1.0 ", 1.01, 0},
+    {"setup", "iufa", "0.3", nullptr, 0.3, 1},
+    {"setup", "iufa", "2", nullptr, 2.0, 1},
+    {"setup", "iufa", "0.29", " 0.3 < IR < 2.0 ", 0.29, 0},
+    {"setup", "iufa", "2.01", " 0.3 < IR < 2.0 ", 2.01, 0},
+    {"setup", "islend_limit", "50", nullptr, 50.0, 0},
+    {"setup", "islend_limit", "1000", nullptr, 1000.0, 0},
+    {"setup", "islend_limit", "49", "50 <= Deflection <=1000 ", 49.0, 0},
+    {"setup", "islend_limit", "1001", "50 <= Deflection <=1000 ", 1001.0, 0},
+    {"setup", "idef_limit", "100", nullptr, 100.0, 0},
+    {"setup", "idef_limit", "1500", nullptr, 1500.0, 0},
+    {"setup", "idef_limit", "99", "100 <= Deflection <=1500 ", 99.0, 0},
+    {"setup", "idef_limit", "1501", "100 <= Deflection <=1500 ", 1501.0, 0},
+    {"setup", "ifyk", "50", nullptr, 50.0, 1},
+    {"setup", "ifyk", "2000", nullptr, 2000.0, 1},
+    {"setup", "ifyk", "49", " 50 <= fyk <= 2000 ", 49.0, 0},
+    {"setup", "ifyk", "2001", " 50 <= fyk <= 2000 ", 2001.0, 0},
+    {"setup", "igammam1", "0.5", nullptr, 0.5, 1},
+    {"setup", "igammam1", "1.5", nullptr, 1.5, 1},
+    {"setup", "igammam1", "0.49", " 0.5 <= gammam1 <=1.5 ", 0.49, 0},
+    {"setup", "igammam1", "1.51", " 0.5 <= gammam1 <=1.5 ", 1.51, 0},
+    {"optroll", "idef_limit", "100", nullptr, 100.0, 0},
+    {"optroll", "idef_limit", "1500", nullptr, 1500.0, 0},
+    {"optroll", "idef_limit", "99", "100 <= Deflection <=1500 ", 99.0, 0},
+    {"optroll", "idef_limit", "1501", "100 <= Deflection <=1500 ", 1501.0, 0},
+    {"p21", "isth", "200", nullptr, 200.0, 1},
+    {"p21", "isth", "300", nullptr, 300.0, 1},
+    {"p21", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p21", "istb1", "300", nullptr, 300.0, 1},
+    {"p21", "istb1", "4.9", " b >= 5 ", 4.9, 0},
+    {"p21", "isttf", "0.5", nullptr, 0.5, 1},
+    {"p21", "isttf", "30", nullptr, 30.0, 1},
+    {"p21", "isttf", "0.09", " tf >= 0.1 ", 0.09, 0},
+    {"p21", "isttw", "0.5", nullptr, 0.5, 1},
+    {"p21", "isttw", "30", nullptr, 30.0, 1},
+    {"p21", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p22", "isth", "200", nullptr, 200.0, 1},
+    {"p22", "isth", "300", nullptr, 300.0, 1},
+    {"p22", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p22", "istb1", "300", nullptr, 300.0, 1},
+    {"p22", "istb1", "4.9", " b >= 5 ", 4.9, 0},
+    {"p22", "istb2", "300", nullptr, 300.0, 1},
+    {"p22", "istb2", "4.9", " b2 >= 5 ", 4.9, 0},
+    {"p22", "isttf1", "0.5", nullptr, 0.5, 1},
+    {"p22", "isttf1", "30", nullptr, 30.0, 1},
+    {"p22", "isttf1", "0.09", " tf1 >= 0.1 ", 0.09, 0},
+    {"p22", "isttf2", "0.5", nullptr, 0.5, 1},
+    {"p22", "isttf2", "30", nullptr, 30.0, 1},
+    {"p22", "isttf2", "0.09", " tf2 >= 0.1 ", 0.09, 0},
+    {"p22", "isttw", "0.5", nullptr, 0.5, 1},
+    {"p22", "isttw", "30", nullptr, 30.0, 1},
+    {"p22", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p23", "isth", "200", nullptr, 200.0, 1},
+    {"p23", "isth", "300", nullptr, 300.0, 1},
+    {"p23", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p23", "istb1", "400", nullptr, 400.0, 1},
+    {"p23", "istb1", "4.9", " b >= 5 ", 4.9, 0},
+    {"p23", "ista", "0", nullptr, 0.0, 1},
+    {"p23", "ista", "289", nullptr, 289.0, 1},
+    {"p23", "ista", "-1", " a >= 0 ", -1.0, 0},
+    {"p23", "ista", "290", " a < b/2-tw ", 290.0, 0},
+    {"p23", "isttf", "0.5", nullptr, 0.5, 1},
+    {"p23", "isttf", "30", nullptr, 30.0, 1},
+    {"p23", "isttf", "0.09", " tf >= 0.1 ", 0.09, 0},
+    {"p23", "isttw", "0.5", nullptr, 0.5, 1},
+    {"p23", "isttw", "30", nullptr, 30.0, 1},
+    {"p23", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p24", "isth", "200", nullptr, 200.0, 1},
+    {"p24", "isth", "300", nullptr, 300.0, 1},
+    {"p24", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p24", "istb1", "400", nullptr, 400.0, 1},
+    {"p24", "istb1", "4.9", " b >= 5 ", 4.9, 0},
+    {"p24", "ista", "1", nullptr, 1.0, 1},
+    {"p24", "ista", "263", nullptr, 263.0, 1},
+    {"p24", "ista", "0", " a > 0 ", 0.0, 0},
+    {"p24", "ista", "264", " a < b/2-tw ", 264.0, 0},
+    {"p24", "istc", "0", nullptr, 0.0, 1},
+    {"p24", "istc", "6", nullptr, 6.0, 1},
+    {"p24", "istc", "-0.1", " 0 <= c <= tw ", -0.1, 0},
+    {"p24", "istc", "6.1", " 0 <= c <= tw ", 6.1, 0},
+    {"p24", "isttf1", "0.5", nullptr, 0.5, 1},
+    {"p24", "isttf1", "30", nullptr, 30.0, 1},
+    {"p24", "isttf1", "0.09", " tf1 >= 0.1 ", 0.09, 0},
+    {"p24", "isttf2", "12", nullptr, 12.0, 1},
+    {"p24", "isttf2", "30", nullptr, 30.0, 1},
+    {"p24", "isttf2", "0.09", " tf2 >= 0.1 ", 0.09, 0},
+    {"p24", "isttw", "5", nullptr, 5.0, 1},
+    {"p24", "isttw", "30", nullptr, 30.0, 1},
+    {"p24", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p24", "iload", "50", nullptr, 50.0, 1},
+    {"p24", "iload", "90", nullptr, 90.0, 1},
+    {"p24", "iload", "49", " 50% <= Load on one flange <= 90% ", 49.0, 0},
+    {"p24", "iload", "91", " 50% <= Load on one flange <= 90% ", 91.0, 0},
+    {"p25", "iload", "50", nullptr, 50.0, 1},
+    {"p25", "iload", "90", nullptr, 90.0, 1},
+    {"p25", "iload", "49", " 50% <= Load on one flange <= 90% ", 49.0, 0},
+    {"p25", "iload", "91", " 50% <= Load on one flange <= 90% ", 91.0, 0},
+    {"p25", "isth", "200", nullptr, 200.0, 1},
+    {"p25", "isth", "300", nullptr, 300.0, 1},
+    {"p25", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p25", "istb1", "100", nullptr, 100.0, 1},
+    {"p25", "istb1", "419", nullptr, 419.0, 1},
+    {"p25", "istb1", "5", " 5 < b1 < (b2-a) ", 5.0, 0},
+    {"p25", "istb1", "420", " 5 < b1 < (b2-a) ", 420.0, 0},
+    {"p25", "istb2", "500", nullptr, 500.0, 1},
+    {"p25", "istb2", "4.9", " b2 >= 5 ", 4.9, 0},
+    {"p25", "ista", "0", nullptr, 0.0, 1},
+    {"p25", "ista", "20", nullptr, 20.0, 1},
+    {"p25", "ista", "-0.1", " a >= 0 ", -0.1, 0},
+    {"p25", "istc", "0", nullptr, 0.0, 1},
+    {"p25", "istc", "6", nullptr, 6.0, 1},
+    {"p25", "istc", "-0.1", " 0 <= c <= tw ", -0.1, 0},
+    {"p25", "istc", "6.1", " 0 <= c <= tw ", 6.1, 0},
+    {"p25", "isttf1", "0.5", nullptr, 0.5, 1},
+    {"p25", "isttf1", "30", nullptr, 30.0, 1},
+    {"p25", "isttf1", "0.09", " tf1 >= 0.1 ", 0.09, 0},
+    {"p25", "isttf2", "12", nullptr, 12.0, 1},
+    {"p25", "isttf2", "30", nullptr, 30.0, 1},
+    {"p25", "isttf2", "0.09", " tf2 >= 0.1 ", 0.09, 0},
+    {"p25", "isttw", "5", nullptr, 5.0, 1},
+    {"p25", "isttw", "30", nullptr, 30.0, 1},
+    {"p25", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p26", "isth", "200", nullptr, 200.0, 1},
+    {"p26", "isth", "300", nullptr, 300.0, 1},
+    {"p26", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p26", "istb1", "300", nullptr, 300.0, 1},
+    {"p26", "istb1", "4.9", " b >= 5 ", 4.9, 0},
+    {"p26", "isttf1", "0.5", nullptr, 0.5, 1},
+    {"p26", "isttf1", "30", nullptr, 30.0, 1},
+    {"p26", "isttf1", "0.09", " tf1 >= 0.1 ", 0.09, 0},
+    {"p26", "isttw", "0.5", nullptr, 0.5, 1},
+    {"p26", "isttw", "30", nullptr, 30.0, 1},
+    {"p26", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p27", "isth", "200", nullptr, 200.0, 1},
+    {"p27", "isth", "300", nullptr, 300.0, 1},
+    {"p27", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p27", "istb1", "500", nullptr, 500.0, 1},
+    {"p27", "istb1", "499", " b1 >= (a+tw) ", 499.0, 0},
+    {"p27", "istb2", "500", nullptr, 500.0, 1},
+    {"p27", "istb2", "499", " b2 >= (a+tw) ", 499.0, 0},
+    {"p27", "ista", "20", nullptr, 20.0, 1},
+    {"p27", "ista", "400", nullptr, 400.0, 1},
+    {"p27", "ista", "19", " a >= 2*tw ", 19.0, 0},
+    {"p27", "isttf1", "0.5", nullptr, 0.5, 1},
+    {"p27", "isttf1", "30", nullptr, 30.0, 1},
+    {"p27", "isttf1", "0.09", " tf1 >= 0.1 ", 0.09, 0},
+    {"p27", "isttf2", "0.5", nullptr, 0.5, 1},
+    {"p27", "isttf2", "30", nullptr, 30.0, 1},
+    {"p27", "isttf2", "0.09", " tf2 >= 0.1 ", 0.09, 0},
+    {"p27", "isttw", "5", nullptr, 5.0, 1},
+    {"p27", "isttw", "30", nullptr, 30.0, 1},
+    {"p27", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p28", "isth", "5", nullptr, 5.0, 1},
+    {"p28", "isth", "500", nullptr, 500.0, 1},
+    {"p28", "isth", "4.9", " h >= 5 ", 4.9, 0},
+    {"p28", "isttw", "0.5", nullptr, 0.5, 1},
+    {"p28", "isttw", "30", nullptr, 30.0, 1},
+    {"p28", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p31", "istd", "50", nullptr, 50.0, 1},
+    {"p31", "istd", "500", nullptr, 500.0, 1},
+    {"p31", "istd", "49", " d >= 50 ", 49.0, 0},
+    {"p31", "isttw", "0.5", nullptr, 0.5, 1},
+    {"p31", "isttw", "30", nullptr, 30.0, 1},
+    {"p31", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p41", "istax", "50", nullptr, 50.0, 1},
+    {"p41", "istax", "9000", nullptr, 9000.0, 1},
+    {"p41", "istax", "49", " A >= 50 ", 49.0, 0},
+    {"p41", "istay", "50", nullptr, 50.0, 1},
+    {"p41", "istay", "9000", nullptr, 9000.0, 1},
+    {"p41", "istay", "49", " Ay >= 50 ", 49.0, 0},
+    {"p41", "istaz", "50", nullptr, 50.0, 1},
+    {"p41", "istaz", "9000", nullptr, 9000.0, 1},
+    {"p41", "istaz", "49", " Az >= 50 ", 49.0, 0},
+    {"p41", "istiy", "1000", nullptr, 1000.0, 1},
+    {"p41", "istiy", "1000000", nullptr, 1000000.0, 1},
+    {"p41", "istiy", "999", " Iy >= 1000 ", 999.0, 0},
+    {"p41", "istiz", "1000", nullptr, 1000.0, 1},
+    {"p41", "istiz", "1000000", nullptr, 1000000.0, 1},
+    {"p41", "istiz", "999", " Iz >= 1000 ", 999.0, 0},
+    {"p41", "istix", "1000", nullptr, 1000.0, 1},
+    {"p41", "istix", "1000000", nullptr, 1000000.0, 1},
+    {"p41", "istix", "999", " Ix >= 1000 ", 999.0, 0},
+    {"p41", "istiw", "1000", nullptr, 1000.0, 1},
+    {"p41", "istiw", "1000000", nullptr, 1000000.0, 1},
+    {"p41", "istiw", "999", " Iw >= 1000 ", 999.0, 0},
+    {"p41", "istwely", "1000", nullptr, 1000.0, 1},
+    {"p41", "istwely", "1000000", nullptr, 1000000.0, 1},
+    {"p41", "istwely", "999", " Wely >= 1000 ", 999.0, 0},
+    {"p41", "istwelz", "1000", nullptr, 1000.0, 1},
+    {"p41", "istwelz", "1000000", nullptr, 1000000.0, 1},
+    {"p41", "istwelz", "999", " Welz >= 1000 ", 999.0, 0},
+    {"p41", "istwply", "1001", nullptr, 1001.0, 1},
+    {"p41", "istwply", "1000000", nullptr, 1000000.0, 1},
+    {"p41", "istwply", "1000", " 1000 < Wply ", 1000.0, 0},
+    {"p41", "istwplz", "1001", nullptr, 1001.0, 1},
+    {"p41", "istwplz", "1000000", nullptr, 1000000.0, 1},
+    {"p41", "istwplz", "1000", " 1000 < Wplz ", 1000.0, 0},
+    {"p51", "istb1", "300", nullptr, 300.0, 1},
+    {"p51", "istb1", "4.9", " b >= 5 ", 4.9, 0},
+    {"p51", "isttf1", "0.5", nullptr, 0.5, 1},
+    {"p51", "isttf1", "30", nullptr, 30.0, 1},
+    {"p51", "isttf1", "0.09", " tf1 >= 0.1 ", 0.09, 0},
+    {"p51", "isth", "200", nullptr, 200.0, 1},
+    {"p51", "isth", "300", nullptr, 300.0, 1},
+    {"p51", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p51", "isttw", "0.5", nullptr, 0.5, 1},
+    {"p51", "isttw", "30", nullptr, 30.0, 1},
+    {"p51", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p52", "istb1", "300", nullptr, 300.0, 1},
+    {"p52", "istb1", "0", " b1 > 0 ", 0.0, 0},
+    {"p52", "istb1", "-1", " b1 > 0 ", -1.0, 0},
+    {"p52", "istt1", "0.5", nullptr, 0.5, 1},
+    {"p52", "istt1", "30", nullptr, 30.0, 1},
+    {"p52", "istt1", "0.09", " t1 >= 0.1 ", 0.09, 0},
+    {"p54", "istb1", "300", nullptr, 300.0, 1},
+    {"p54", "istb1", "0", " b1 > 0 ", 0.0, 0},
+    {"p54", "istb1", "-1", " b1 > 0 ", -1.0, 0},
+    {"p54", "istt1", "0.5", nullptr, 0.5, 1},
+    {"p54", "istt1", "30", nullptr, 30.0, 1},
+    {"p54", "istt1", "0.09", " t1 >= 0.1 ", 0.09, 0},
+    {"p53", "isth", "200", nullptr, 200.0, 1},
+    {"p53", "isth", "300", nullptr, 300.0, 1},
+    {"p53", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p53", "istb1", "300", nullptr, 300.0, 1},
+    {"p53", "istb1", "4.9", " b >= 5 ", 4.9, 0},
+    {"p53", "istb2", "100", nullptr, 100.0, 1},
+    {"p53", "istb2", "4.9", " b >= 5 ", 4.9, 0},
+    {"p53", "isttf1", "0.5", nullptr, 0.5, 1},
+    {"p53", "isttf1", "30", nullptr, 30.0, 1},
+    {"p53", "isttf1", "0.09", " tf1 >= 0.1 ", 0.09, 0},
+    {"p53", "isttf2", "0.5", nullptr, 0.5, 1},
+    {"p53", "isttf2", "30", nullptr, 30.0, 1},
+    {"p53", "isttf2", "0.09", " tf >= 0.1 ", 0.09, 0},
+    {"p53", "isttw", "0.5", nullptr, 0.5, 1},
+    {"p53", "isttw", "30", nullptr, 30.0, 1},
+    {"p53", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p55", "isth", "200", nullptr, 200.0, 1},
+    {"p55", "isth", "300", nullptr, 300.0, 1},
+    {"p55", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p55", "istb1", "500", nullptr, 500.0, 1},
+    {"p55", "istb1", "4.9", " b >= 5 ", 4.9, 0},
+    {"p55", "istb2", "150", nullptr, 150.0, 1},
+    {"p55", "istb2", "4.9", " b2 >= 5 ", 4.9, 0},
+    {"p55", "isttf1", "0.5", nullptr, 0.5, 1},
+    {"p55", "isttf1", "30", nullptr, 30.0, 1},
+    {"p55", "isttf1", "0.09", " tf1 >= 0.1 ", 0.09, 0},
+    {"p55", "ista", "0", nullptr, 0.0, 1},
+    {"p55", "ista", "60", nullptr, 60.0, 1},
+    {"p55", "ista", "-0.1", " a >= 0 ", -0.1, 0},
+    {"p55", "isttw", "0.5", nullptr, 0.5, 1},
+    {"p55", "isttw", "30", nullptr, 30.0, 1},
+    {"p55", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+    {"p56", "isth", "200", nullptr, 200.0, 1},
+    {"p56", "isth", "300", nullptr, 300.0, 1},
+    {"p56", "isth", "49", " h >= 50 ", 49.0, 0},
+    {"p56", "istb1", "300", nullptr, 300.0, 1},
+    {"p56", "istb1", "4.9", " b >= 5 ", 4.9, 0},
+    {"p56", "istb2", "300", nullptr, 300.0, 1},
+    {"p56", "istb2", "4.9", " b >= 5 ", 4.9, 0},
+    {"p56", "isttf1", "0.5", nullptr, 0.5, 1},
+    {"p56", "isttf1", "30", nullptr, 30.0, 1},
+    {"p56", "isttf1", "0.09", " tf1 >= 0.1 ", 0.09, 0},
+    {"p56", "isttf2", "0.5", nullptr, 0.5, 1},
+    {"p56", "isttf2", "30", nullptr, 30.0, 1},
+    {"p56", "isttf2", "0.09", " tf >= 0.1 ", 0.09, 0},
+    {"p56", "isttw", "0.5", nullptr, 0.5, 1},
+    {"p56", "isttw", "30", nullptr, 30.0, 1},
+    {"p56", "isttw", "0.09", " tw >= 0.1 ", 0.09, 0},
+};
+// clang-format on
+
+class InputRule : public ::testing::TestWithParam<Case> {};
+
+TEST_P(InputRule, HoldsItsLimit) {
+  const Case& c = GetParam();
+  Running r;
+  Prepare(r, c.form, c.control);
+  const std::string key = std::string(c.form) + "." + c.control;
+  const int before = r.session.Calculations();
+  const bool accepted = r.session.Enter(key, c.typed);
+  EXPECT_EQ(accepted, c.message == nullptr);
+  EXPECT_NEAR(StateOf(r.session, c.form, c.control), c.stored, 1e-6 * (1 + std::abs(c.stored)));
+  EXPECT_EQ(r.session.Calculations() - before, c.calculations);
+  EXPECT_EQ(r.session.Green(key), c.message != nullptr);
+  if (c.message == nullptr) {
+    EXPECT_TRUE(r.platform.messages.empty()) << r.platform.messages.front();
+  } else {
+    ASSERT_EQ(r.platform.messages.size(), 1U);
+    EXPECT_EQ(r.platform.messages.front(), c.message);
+    EXPECT_EQ(r.session.FocusedField(), key);
+  }
+}
+
+std::string CaseName(const ::testing::TestParamInfo<Case>& info) {
+  std::string name;
+  for (const std::string part : {info.param.form, info.param.control, info.param.typed}) {
+    for (const char ch : part + "_")
+      name += std::isalnum(static_cast<unsigned char>(ch)) ? ch : '_';
+  }
+  return name + std::to_string(info.index);
+}
+
+INSTANTIATE_TEST_SUITE_P(AllForms, InputRule, ::testing::ValuesIn(kCases), CaseName);
+
+/// Every field with a limit stands in the table above.
+TEST(InputRules, NoLimitIsLeftOut) {
+  for (const Form& form : AllForms()) {
+    for (const Control& control : form.controls) {
+      if (control.kind != Kind::Input || !control.field.limit.accepts) continue;
+      const bool array = control.name.find('(') != std::string::npos;
+      bool listed = false;
+      for (const Case& c : kCases) {
+        const std::string name = c.control;
+        listed |=
+            form.name == c.form &&
+            (name == control.name || (array && name.substr(0, name.find('(')) ==
+                                                   control.name.substr(0, control.name.find('('))));
+      }
+      EXPECT_TRUE(listed) << form.name << "." << control.name;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace korvane

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Both reports of every family, with all loads in use and with end forces: everything is on the
+// page, nothing lies over anything else, and every figure that the page should have is there.
+#include <gtest/gtest.h>
+
+#include "checks/results.h"
+#include "core/calculation.h"
+#include "presentation/aprint.h"
+#include "presentation/recording_target.h"
+#include "sections/profile_table.h"
+#include "sections/shown_values.h"
+
+namespace korvane {
+namespace {
+
+std::shared_ptr<const Library> TheLibrary() {
+  static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
+  return library;
+}
+
+void LoadFully(ProjectState& st) {
+  st.iproj = "Hall 12, axis B";
+  st.iident = "Column B7 \"west\"";
+  st.NV1 = 20.0;
+  st.NV2 = 5.0;
+  st.q2 = 3.0;
+  st.q2_pv = 1;
+  st.q3 = 1.5;
+  st.q3_yz = 0;
+  st.q4 = 2.0;
+  st.q4_pv = 2;
+  st.qt1_1 = 2.0;
+  st.qt1_2 = 4.0;
+  st.qt1_x2 = 3.0;
+  st.qt2_1 = 1.0;
+  st.qt2_2 = 1.0;
+  st.qt2_x1 = 1.0;
+  st.qt2_x2 = 4.0;
+  st.qt2_pv = 1;
+  st.qt3_1 = 1.0;
+  st.qt3_2 = 2.0;
+  st.qt3_x2 = 5.0;
+  st.qt3_yz = 0;
+  for (int i = 1; i <= 8; ++i) {
+    st.pm[i] = 2.0 + i;
+    st.pmx[i] = 0.5 * i + 0.1;
+    st.pm_pm[i] = i % 3 == 0 ? 1 : 0;
+    st.pm_pv[i] = i % 3;
+    st.pm_yz[i] = i % 4 == 0 ? 0 : 1;
+  }
+  st.SelfWeight = 1;
+  st.ModalAnalysis = 1;
+  st.check_slend = 1;
+}
+
+struct Page {
+  int family;
+  bool endForces;
+  Report report;
+};
+
+Design Designed(const Page& page) {
+  Design d(TheLibrary());
+  StartDesign(d);
+  d.st.ProfileType = page.family;
+  if (page.endForces) {
+    d.st.AnalysisMode = 0;
+    d.st.Ne = 50.0;
+    d.st.My_end[1] = 12.0;
+    d.st.My_end[2] = -7.0;
+    d.st.Mz_end[1] = 2.0;
+    d.st.Vz_end[1] = 9.0;
+  } else {
+    LoadFully(d.st);
+  }
+  Calculate(d);
+  Calculate(d);
+  return d;
+}
+
+class Reports : public ::testing::TestWithParam<Page> {
+protected:
+  Reports() : design(Designed(GetParam())) {
+    DrawReport(page, GetParam().report, design, {2026, 11, 21, 9, 5});
+  }
+  Design design;
+  RecordingTarget page;
+};
+
+TEST_P(Reports, StayOnThePageWithNothingOverlapping) {
+  const auto bounds = page.Bounds();
+  ASSERT_TRUE(bounds.has_value());
+  EXPECT_GE(bounds->left, 0.0);
+  EXPECT_GE(bounds->top, 0.0);
+  EXPECT_LE(bounds->right, kPageWidth);
+  EXPECT_LE(bounds->bottom, kPageHeight);
+  for (const auto& [first, second] : page.OverlappingTexts(1.5)) {
+    ADD_FAILURE() << "'" << first << "' over '" << second << "'";
+  }
+}
+
+TEST_P(Reports, HoldEveryFigureOfTheSection) {
+  for (const ShownValues& block :
+       {Dimensions(design.st, design.rec), Properties(design.st, design.rec),
+        Capacities(design.st, design.rec)}) {
+    for (const ShownValue& v : block) {
+      EXPECT_GT(page.Count(v.text), 0) << v.name;
+      EXPECT_GT(page.Count(v.unit), 0) << v.name;
+    }
+  }
+  EXPECT_EQ(page.Count("KORVANE NS3472"), 1);
+  EXPECT_EQ(page.Count("Column/Beam program based on NS3472, 3 rd ed"), 1);
+  EXPECT_EQ(page.Count("1/1"), 1);
+  EXPECT_EQ(page.Count("21.11.2026"), 1);
+  EXPECT_EQ(page.Count("9:05"), 1);
+  EXPECT_EQ(page.Count("New File"), 1);
+  EXPECT_EQ(page.Count(design.st.iproj), 1);
+}
+
+TEST_P(Reports, HoldEveryCheckLine) {
+  if (GetParam().report != Report::SectionAndStability) {
+    EXPECT_EQ(page.Count("SECTION CONTROL:"), 0);
+    return;
+  }
+  const bool buckling = ShowsBuckling(design.st, design.forces.N);
+  EXPECT_EQ(page.Count("SECTION CONTROL:"), 1);
+  EXPECT_EQ(page.Count("BUCKLING CONTROL:"), buckling ? 1 : 0);
+  const CheckResults& c = design.checks;
+  std::vector<const CheckLine*> lines{&c.lineSection, &c.lineVz, &c.lineVy, &c.lineLateral};
+  if (buckling) lines.insert(lines.end(), {&c.lineBucklingY, &c.lineBucklingZ});
+  for (const CheckLine* line : lines) {
+    if (line->formula.empty()) continue;
+    const bool whole = page.Count(line->formula + line->numbers) > 0;
+    const bool broken = page.Count(line->formula) > 0 && page.Count("    = " + line->numbers) > 0;
+    EXPECT_TRUE(whole || broken) << line->formula << line->numbers;
+    EXPECT_GT(page.Count(line->value), 0) << line->formula;
+    EXPECT_GT(page.Count(line->limit), 0) << line->formula;
+  }
+}
+
+std::vector<Page> AllPages() {
+  std::vector<Page> pages;
+  for (const Family& family : AllFamilies()) {
+    for (const bool endForces : {false, true}) {
+      for (const Report report : {Report::SectionProperty, Report::SectionAndStability}) {
+        pages.push_back({family.code, endForces, report});
+      }
+    }
+  }
+  return pages;
+}
+
+std::string PageName(const ::testing::TestParamInfo<Page>& info) {
+  return "f" + std::to_string(info.param.family) + (info.param.endForces ? "_ends" : "_loads") +
+         (info.param.report == Report::SectionProperty ? "_section" : "_control");
+}
+
+INSTANTIATE_TEST_SUITE_P(AllFamilies, Reports, ::testing::ValuesIn(AllPages()), PageName);
+
+TEST(Report, WeightIsPrintedUnderGAndSurfaceUnderS) {
+  const Design d = Designed({1, false, Report::SectionProperty});
+  RecordingTarget page;
+  DrawReport(page, Report::SectionProperty, d, {});
+  const RecordedShape* weight = page.FindText("42.3");  // kg/m
+  ASSERT_NE(weight, nullptr);
+  bool named = false;
+  for (const RecordedShape* s : page.OfKind(ShapeKind::Text)) {
+    named |= s->text == "g" && std::abs(s->box.top - weight->box.top) < 0.1;
+  }
+  EXPECT_TRUE(named);
+}
+
+}  // namespace
+}  // namespace korvane
