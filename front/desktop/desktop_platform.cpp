@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "front/desktop/desktop_platform.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSettings>
+
+#include "front/painter/painter_target.h"
+#include "presentation/aprint.h"
+
+namespace korvane {
+
+namespace {
+
+QSettings Store() {
+  return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Korvane_ns"),
+                   QStringLiteral("Korvane_ns"));
+}
+
+QString RecentKey(const std::string& key) {
+  return QStringLiteral("Recent Files/") + QString::fromStdString(key);
+}
+
+}  // namespace
+
+DesktopPlatform::DesktopPlatform() = default;
+
+std::string DesktopPlatform::Setting(const std::string& key) {
+  return Store().value(RecentKey(key)).toString().toStdString();
+}
+
+void DesktopPlatform::SetSetting(const std::string& key, const std::string& value) {
+  QSettings store = Store();
+  store.setValue(RecentKey(key), QString::fromStdString(value));
+}
+
+std::optional<std::string> DesktopPlatform::AskFile(bool save, const std::string& filter,
+                                                    const std::string& extension) {
+  QFileDialog dialog(window_);
+  dialog.setNameFilter(QString::fromStdString(filter));
+  dialog.setDefaultSuffix(QString::fromStdString(extension));
+  dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return dialog.selectedFiles().first().toStdString();
+}
+
+std::optional<std::string> DesktopPlatform::AskOpen(const std::string& filter,
+                                                    const std::string& extension) {
+  return AskFile(false, filter, extension);
+}
+
+std::optional<std::string> DesktopPlatform::AskSave(const std::string& filter,
+                                                    const std::string& extension) {
+  return AskFile(true, filter, extension);
+}
+
+void DesktopPlatform::Message(const std::string& text) {
+  waiting_ << QString::fromStdString(text);
+  if (waiting_.size() == 1) {
+    QMetaObject::invokeMethod(this, &DesktopPlatform::ShowMessages, Qt::QueuedConnection);
+  }
+}
+
+void DesktopPlatform::ShowMessages() {
+  while (!waiting_.isEmpty()) {
+    QMessageBox box(QMessageBox::Warning, QApplication::applicationDisplayName(), waiting_.first(),
+                    QMessageBox::Ok, window_);
+    box.exec();
+    waiting_.removeFirst();
+  }
+}
+
+void DesktopPlatform::Beep() {
+  QApplication::beep();
+}
+
+std::optional<PrintJob> DesktopPlatform::AskPrint() {
+  printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  printer_->setPageSize(QPageSize(QPageSize::A4));
+  QPrintDialog dialog(printer_.get(), window_);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return PrintJob{printer_->copyCount()};
+}
+
+void DesktopPlatform::Print(const Design& design, int kind, int copies) {
+  if (printer_ == nullptr) return;
+  // The page brings its own frame and margins, counted from the edge of the paper.
+  printer_->setFullPage(true);
+  printer_->setPageMargins(QMarginsF(0, 0, 0, 0));
+  printer_->setCopyCount(copies);
+  const Report report = kind == 0 ? Report::SectionProperty : Report::SectionAndStability;
+  printer_->setDocName(QString::fromUtf8(ReportTitle(report)));
+  QPainter painter;
+  if (!painter.begin(printer_.get())) return;
+  PainterTarget page(painter, kPageWidth, kPageHeight,
+                     QRectF(0, 0, printer_->width(), printer_->height()), Palette::Light());
+  const DateTime now = Now();
+  DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute});
+}
+
+void DesktopPlatform::OpenHelp(const std::string& file) {
+  emit HelpWanted(QString::fromStdString(file));
+}
+
+DateTime DesktopPlatform::Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  return {now.date().year(), now.date().month(), now.date().day(), now.time().hour(),
+          now.time().minute()};
+}
+
+void DesktopPlatform::WaitCursor(bool on) {
+  if (on == waitCursor_) return;
+  waitCursor_ = on;
+  if (on) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+    emit Progressed(0, 0);
+  }
+}
+
+void DesktopPlatform::Progress(int done, int all) {
+  emit Progressed(done, all);
+}
+
+}  // namespace korvane

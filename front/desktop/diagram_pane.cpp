@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "front/desktop/diagram_pane.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "front/desktop/theme.h"
+#include "front/painter/painter_target.h"
+#include "front/pane_text.h"
+
+namespace korvane {
+
+namespace {
+
+/// Letters of the diagrams in ems of the window's font.
+constexpr double kLetters = 0.92;
+/// Least height of a grid unit, pixels.
+constexpr double kLeastUnit = 1.1;
+
+DiagramData DataOf(const Session& s) {
+  const Design& d = s.design();
+  return {d.st, d.beam, d.deflections, d.forces.N};
+}
+
+}  // namespace
+
+DiagramBox::DiagramBox(const Session& session, DiagramKind kind, QWidget* parent)
+    : Pane(session, parent), kind_(kind) {
+  setMouseTracking(true);
+  setObjectName(QString::fromUtf8(InfoOf(kind).control));
+}
+
+void DiagramBox::SetScale(double unit) {
+  unit_ = unit;
+  update();
+}
+
+void DiagramBox::SetHairline(double relative) {
+  if (hairline_ == relative) return;
+  hairline_ = relative;
+  update();
+}
+
+void DiagramBox::Draw(QPainter& painter) {
+  PainterTarget target(painter, width(), height(), rect(), DrawingColours(palette()));
+  const DiagramStyle style{Ems(this, kLetters) / unit_};
+  {
+    const ScopedFrame frame(target, {0, 0, double(width()), double(height())},
+                            {0, 0, kPictureWidth, height() / unit_});
+    DrawDiagram(target, kind_, {0, 0, Destination::Page}, DataOf(session_), style);
+  }
+  if (hairline_ < 0) return;
+  const double x = (kMemberLeft + hairline_ * kMemberWidth) * width() / kPictureWidth;
+  painter.setPen(QPen(ColourFor(Role::Accent, palette()), 1, Qt::DashLine));
+  painter.drawLine(QPointF(x, 0), QPointF(x, height()));
+}
+
+DiagramPane::DiagramPane(const Session& session, std::vector<std::string> controls, QWidget* parent)
+    : QWidget(parent), session_(session), controls_(std::move(controls)) {
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::Base);
+  setMinimumWidth(Ems(this, 22));
+}
+
+std::vector<DiagramKind> DiagramPane::Wanted() const {
+  std::vector<DiagramKind> kinds;
+  for (const DiagramKind kind : DiagramsOfMode(session_.st())) {
+    const std::string control = InfoOf(kind).control;
+    if (std::find(controls_.begin(), controls_.end(), control) != controls_.end()) {
+      kinds.push_back(kind);
+    }
+  }
+  return kinds;
+}
+
+void DiagramPane::Rebuild(const std::vector<DiagramKind>& kinds) {
+  for (DiagramBox* box : boxes_) {
+    box->hide();
+    box->deleteLater();
+    box->setObjectName(QString());
+  }
+  boxes_.clear();
+  for (const DiagramKind kind : kinds) {
+    auto* box = new DiagramBox(session_, kind, this);
+    box->installEventFilter(this);
+    box->show();
+    boxes_.push_back(box);
+  }
+}
+
+void DiagramPane::Refresh() {
+  const std::vector<DiagramKind> kinds = Wanted();
+  const bool same = std::equal(kinds.begin(), kinds.end(), boxes_.begin(), boxes_.end(),
+                               [](DiagramKind k, const DiagramBox* b) { return b->kind() == k; });
+  if (!same) Rebuild(kinds);
+  for (DiagramBox* box : boxes_) {
+    const std::string control = box->objectName().toStdString();
+    box->setAccessibleName(QString::fromStdString(PaneText(session_.design(), control)));
+    box->Refresh();
+  }
+  Arrange();
+}
+
+DiagramBox* DiagramPane::Box(const std::string& control) const {
+  for (DiagramBox* box : boxes_) {
+    if (box->objectName().toStdString() == control) return box;
+  }
+  return nullptr;
+}
+
+void DiagramPane::resizeEvent(QResizeEvent*) {
+  Arrange();
+}
+
+void DiagramPane::Arrange() {
+  // Each height is a part of plot, in grid units, and a part of letters, in pixels.
+  const DiagramData diagrams = DataOf(session_);
+  const double letters = Ems(this, kLetters);
+  std::vector<double> plot, text;
+  double plots = 0, texts = 0;
+  for (const DiagramBox* box : boxes_) {
+    const double h1 = DiagramHeight(box->kind(), diagrams, {2});
+    const double h2 = DiagramHeight(box->kind(), diagrams, {4});
+    text.push_back((h2 - h1) / 2);
+    plot.push_back(h1 - 2 * text.back());
+    plots += plot.back();
+    texts += text.back();
+  }
+  if (boxes_.empty()) return;
+  const double unit = std::max(kLeastUnit, (height() - texts * letters) / std::max(plots, 1.0));
+  setMinimumHeight(static_cast<int>(std::ceil(plots * kLeastUnit + texts * letters)));
+  double y = 0;
+  for (std::size_t k = 0; k < boxes_.size(); ++k) {
+    const double h = plot[k] * unit + text[k] * letters;
+    const int top = qRound(y);
+    boxes_[k]->SetScale(unit);
+    boxes_[k]->setGeometry(0, top, width(), qRound(y + h) - top);
+    y += h;
+  }
+}
+
+bool DiagramPane::eventFilter(QObject* watched, QEvent* event) {
+  auto* box = qobject_cast<DiagramBox*>(watched);
+  if (box != nullptr && event->type() == QEvent::MouseMove) {
+    Point(box, static_cast<QMouseEvent*>(event)->position().x());
+  }
+  if (box != nullptr && event->type() == QEvent::Leave) {
+    for (DiagramBox* b : boxes_) b->SetHairline(-1);
+    emit Pointed(QString());
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void DiagramPane::Point(const DiagramBox* box, double x) {
+  const double grid = x / std::max(1, box->width()) * kPictureWidth;
+  const double relative = std::clamp((grid - kMemberLeft) / kMemberWidth, 0.0, 1.0);
+  for (DiagramBox* b : boxes_) b->SetHairline(relative);
+  std::string text =
+      ValueUnderPointer(session_.design(), box->objectName().toStdString(), relative);
+  // A box without values tells those of the plane's other diagrams.
+  for (std::size_t k = 0; text.empty() && k < boxes_.size(); ++k) {
+    text = ValueUnderPointer(session_.design(), boxes_[k]->objectName().toStdString(), relative);
+  }
+  emit Pointed(QString::fromStdString(text));
+}
+
+}  // namespace korvane

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "front/desktop/form_window.h"
+
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+#include "front/desktop/desktop.h"
+#include "front/desktop/diagram_pane.h"
+#include "front/desktop/form_binder.h"
+#include "front/desktop/widget_maker.h"
+#include "sections/profile_table.h"
+
+namespace korvane {
+
+namespace {
+
+using LayOut = void (*)(WidgetMaker&, QWidget*);
+
+LayOut LayOutOf(const std::string& form) {
+  static const std::map<std::string, LayOut> own{
+      {"loading", LayOutLoading},   {"endforce", LayOutEndForces},   {"optroll", LayOutOptimiser},
+      {"database", LayOutDatabase}, {"bucklingcurve", LayOutCurves}, {"Pictures", LayOutPictures},
+      {"setup", LayOutSetup},       {"vipping", LayOutLateral}};
+  if (const auto it = own.find(form); it != own.end()) return it->second;
+  for (const Family& family : AllFamilies()) {
+    if (form == family.form) return LayOutFamily;
+  }
+  return LayOutStacked;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Desktop& desktop, const Form& form, QWidget* parent)
+    : QDialog(parent), desktop_(desktop), form_(form) {
+  setObjectName(QString::fromStdString(form.name));
+  setModal(false);
+  WidgetMaker maker(form, desktop.session());
+  LayOutOf(form.name)(maker, this);
+  binder_ = new FormBinder(desktop, form, this);
+  // Drawings that are no control of the form follow the session too.
+  connect(&desktop, &Desktop::Refreshed, this, [this] {
+    if (!isVisible()) return;
+    for (DiagramPane* pane : findChildren<DiagramPane*>()) pane->Refresh();
+    for (Pane* pane : findChildren<Pane*>()) pane->update();
+  });
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  desktop_.CloseForm(form_.name);
+  if (desktop_.session().IsOpen(form_.name)) {
+    event->ignore();
+  } else {
+    event->accept();
+  }
+}
+
+bool FormWindow::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) desktop_.Activated(form_.name);
+  return QDialog::event(event);
+}
+
+void LayOutStacked(WidgetMaker& maker, QWidget* window) {
+  auto* column = new QVBoxLayout(window);
+  maker.Stack(column, maker.Rest());
+  column->addStretch(0);
+  column->addLayout(maker.ButtonRow());
+}
+
+}  // namespace korvane

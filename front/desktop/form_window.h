@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window of a form beside the main window, laid out from the form's table.
+#pragma once
+
+#include <QDialog>
+
+#include "front/form_table.h"
+
+namespace korvane {
+
+class Desktop;
+class FormBinder;
+class WidgetMaker;
+
+class FormWindow : public QDialog {
+  Q_OBJECT
+
+public:
+  FormWindow(Desktop& desktop, const Form& form, QWidget* parent);
+  FormBinder& binder() { return *binder_; }
+  /// Escape closes as the frame's button does.
+  void reject() override { close(); }
+
+protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool event(QEvent* event) override;
+
+private:
+  Desktop& desktop_;
+  const Form& form_;
+  FormBinder* binder_;
+};
+
+// Layouts of forms that have one of their own; all others are stacked.
+void LayOutLoading(WidgetMaker& maker, QWidget* window);
+void LayOutEndForces(WidgetMaker& maker, QWidget* window);
+void LayOutOptimiser(WidgetMaker& maker, QWidget* window);
+void LayOutFamily(WidgetMaker& maker, QWidget* window);
+void LayOutStacked(WidgetMaker& maker, QWidget* window);
+void LayOutDatabase(WidgetMaker& maker, QWidget* window);
+void LayOutCurves(WidgetMaker& maker, QWidget* window);
+void LayOutPictures(WidgetMaker& maker, QWidget* window);
+void LayOutSetup(WidgetMaker& maker, QWidget* window);
+void LayOutLateral(WidgetMaker& maker, QWidget* window);
+
+}  // namespace korvane

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The desktop program.
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QMessageBox>
+#include <QStandardPaths>
+#include <QTimer>
+#include <cstdio>
+
+#include "front/console/data_folder.h"
+#include "front/console/script.h"
+#include "front/desktop/desktop.h"
+#include "front/desktop/desktop_platform.h"
+#include "front/desktop/main_window.h"
+#include "front/desktop/screenshots.h"
+#include "front/desktop/theme.h"
+
+namespace {
+
+using namespace korvane;
+
+/// The user's own folder where the program's cannot be written.
+Folders FoldersOf(const std::string& data) {
+  Folders folders{data, {}};
+  if (QFileInfo(QString::fromStdString(data)).isWritable()) return folders;
+  const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+  QDir().mkpath(own);
+  folders.own = own.toStdString();
+  return folders;
+}
+
+Theme ThemeOf(const QString& name) {
+  if (name == QLatin1String("light")) return Theme::Light;
+  return name == QLatin1String("dark") ? Theme::Dark : Theme::System;
+}
+
+int Run(QApplication& app, const QCommandLineParser& parser, const QString& screenshots) {
+  const auto library =
+      ReadLibrary(FindDataFolder(parser.value(QStringLiteral("data")).toStdString()));
+  DesktopPlatform platform;
+  Session session(library, platform, LocaleWritesComma(), FoldersOf(library->folder));
+  session.Start();
+  Desktop desktop(session);
+  platform.SetWindow(&desktop.window());
+  QObject::connect(&platform, &DesktopPlatform::Progressed, &desktop.window(),
+                   &MainWindow::ShowProgress);
+  QObject::connect(&desktop, &Desktop::Ended, &app, [&app] {
+    app.closeAllWindows();
+    app.quit();
+  });
+  if (!screenshots.isEmpty()) return WriteScreenshots(desktop, screenshots) ? 0 : 1;
+  desktop.window().show();
+  if (const QStringList files = parser.positionalArguments(); !files.isEmpty()) {
+    desktop.OpenFile(QFileInfo(files.first()).absoluteFilePath());
+  }
+  // A window system that activates nothing must not leave the first calculation out.
+  QTimer::singleShot(0, &desktop, [&desktop] {
+    if (desktop.session().Calculations() == 0) desktop.Activated("korvane");
+  });
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication app(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Korvane_ns"));
+  QApplication::setApplicationDisplayName(QStringLiteral("KORVANE-NS3472"));
+  QApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
+  QApplication::setDesktopFileName(QStringLiteral("korvane"));
+  QCommandLineParser parser;
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addPositionalArgument(QStringLiteral("FILE.kvn"), QApplication::tr("Project to open"));
+  QCommandLineOption shots(QStringLiteral("screenshots"), QString(), QStringLiteral("OUT"));
+  shots.setFlags(QCommandLineOption::HiddenFromHelp);
+  parser.addOptions(
+      {{QStringLiteral("data"), QApplication::tr("Data folder"), QStringLiteral("FOLDER")},
+       {QStringLiteral("theme"), QApplication::tr("light, dark or system"),
+        QStringLiteral("THEME")},
+       shots});
+  parser.process(app);
+  korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
+  try {
+    return Run(app, parser, parser.value(shots));
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "korvane: %s\n", error.what());
+    QMessageBox::critical(nullptr, QString(), QString::fromUtf8(error.what()));
+    return 1;
+  }
+}

@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Layout of the main window: inputs on the left, results and diagrams on the right.
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "front/desktop/desktop.h"
+#include "front/desktop/diagram_pane.h"
+#include "front/desktop/form_binder.h"
+#include "front/desktop/main_window.h"
+#include "front/desktop/theme.h"
+#include "front/desktop/widget_maker.h"
+
+namespace korvane {
+
+namespace {
+
+QVBoxLayout* Inside(QGroupBox* group) {
+  auto* column = new QVBoxLayout(group);
+  const int gap = Ems(group, 0.45);
+  column->setContentsMargins(gap, gap, gap, gap);
+  column->setSpacing(gap);
+  return column;
+}
+
+QGridLayout* FieldGrid() {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(6);
+  grid->setVerticalSpacing(4);
+  return grid;
+}
+
+QLabel* Pair(WidgetMaker& maker, const char* name) {
+  auto* label = static_cast<QLabel*>(maker.Make(name));
+  label->setWordWrap(false);
+  return label;
+}
+
+QGroupBox* ProjectFrame(WidgetMaker& maker) {
+  auto* group = new QGroupBox(QObject::tr("Project"));
+  QGridLayout* grid = FieldGrid();
+  maker.FieldRow(grid, 0, "iproj");
+  maker.FieldRow(grid, 1, "iident");
+  Inside(group)->addLayout(grid);
+  return group;
+}
+
+QGroupBox* MemberFrame(WidgetMaker& maker) {
+  auto* group = new QGroupBox(QObject::tr("Member"));
+  QVBoxLayout* column = Inside(group);
+  auto* fields = new QHBoxLayout;
+  for (const char* name : {"il", "ispring"}) {
+    if (name[1] != 'l') fields->addStretch(1);
+    fields->addWidget(maker.Caption(name));
+    auto* edit = maker.Make(name);
+    if (name[1] != 'l') edit->setFixedWidth(Ems(edit, 3.2));
+    fields->addWidget(edit);
+    fields->addWidget(maker.Unit(name));
+  }
+  column->addLayout(fields);
+  auto* supports = new QHBoxLayout;
+  supports->setSpacing(3);
+  for (int k = 0; k < 6; ++k) supports->addWidget(maker.Make("cbutt" + std::to_string(k)));
+  supports->addStretch(1);
+  column->addLayout(supports);
+  auto* web = new QHBoxLayout;
+  web->addWidget(maker.Make("cbuttsupport"));
+  web->addWidget(Pair(maker, "oweba"));
+  web->addStretch(1);
+  web->addWidget(maker.Make("cp"));
+  column->addLayout(web);
+  return group;
+}
+
+QGroupBox* MaterialFrame(WidgetMaker& maker) {
+  auto* group = new QGroupBox(QObject::tr("Material"));
+  QGridLayout* grid = FieldGrid();
+  maker.FieldRow(grid, 0, "cbofyk");
+  maker.FieldRow(grid, 1, "ifyk");
+  maker.FieldRow(grid, 2, "ie");
+  maker.FieldRow(grid, 1, "igammam1", 4);
+  grid->addWidget(Pair(maker, "ofyd"), 0, 4, 1, 3);
+  grid->setColumnStretch(3, 1);
+  Inside(group)->addLayout(grid);
+  return group;
+}
+
+QGroupBox* ColumnFrame(WidgetMaker& maker, std::function<int()> caseY, std::function<int()> caseZ) {
+  QGroupBox* group = maker.Frame("columnframe");
+  QGridLayout* grid = FieldGrid();
+  int row = 0;
+  grid->addWidget(Pair(maker, "oblfactor"), row, 0, 1, 3);
+  auto* curve = Pair(maker, "obuckltext");
+  curve->setToolTip(QString::fromStdString(FindControl(maker.form(), "obcauto")->caption));
+  grid->addWidget(curve, row++, 4, 1, 2);
+  struct Axis {
+    const char* field;
+    const char* picture;
+    const char* letter;
+    QString name;
+    std::function<int()> code;
+  };
+  for (const Axis& axis :
+       {Axis{"ibly", "cbuttbucklingy", "obcy", QStringLiteral("Y"), std::move(caseY)},
+        Axis{"iblz", "cbuttbucklingz", "obcz", QStringLiteral("Z"), std::move(caseZ)}}) {
+    auto* name = new QLabel(axis.name);
+    name->setProperty(kBelongsTo, QString::fromUtf8(axis.field));
+    name->setToolTip(QString::fromStdString(FindControl(maker.form(), axis.field)->caption));
+    grid->addWidget(name, row, 0, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(maker.Make(axis.field), row, 1);
+    grid->addWidget(maker.MakePicture(axis.picture, axis.code), row, 2);
+    auto* letter = Pair(maker, axis.letter);
+    letter->setAlignment(Qt::AlignCenter);
+    grid->addWidget(letter, row++, 4);
+  }
+  grid->addWidget(maker.Make("Command1"), 1, 5, 2, 1, Qt::AlignVCenter);
+  grid->setColumnStretch(3, 1);
+  QVBoxLayout* column = Inside(group);
+  column->addLayout(grid);
+  auto* note = Pair(maker, "obcauto");
+  note->setWordWrap(true);
+  note->setForegroundRole(QPalette::PlaceholderText);
+  column->addWidget(note);
+  return group;
+}
+
+QGroupBox* Options(WidgetMaker& maker, const char* frame, const std::vector<const char*>& options) {
+  QGroupBox* group = maker.Frame(frame);
+  QVBoxLayout* column = Inside(group);
+  for (const char* name : options) column->addWidget(maker.Make(name));
+  return group;
+}
+
+QLayout* Lateral(WidgetMaker& maker) {
+  auto* row = new QHBoxLayout;
+  row->addWidget(maker.Make("ch_vipp"));
+  row->addStretch(1);
+  row->addWidget(Pair(maker, "oza"));
+  row->addWidget(maker.Make("cbuttlateral"));
+  return row;
+}
+
+}  // namespace
+
+QWidget* MainWindow::InputColumn(WidgetMaker& maker) {
+  auto* inputs = new QWidget;
+  auto* column = new QVBoxLayout(inputs);
+  const int gap = Ems(this, 0.5);
+  column->setContentsMargins(gap, gap, gap, gap);
+  column->setSpacing(gap);
+  const ProjectState* st = &desktop_.session().st();
+  column->addWidget(ProjectFrame(maker));
+  column->addWidget(MemberFrame(maker));
+  column->addWidget(MaterialFrame(maker));
+  column->addWidget(ColumnFrame(
+      maker, [st] { return int(st->BucklingCaseY); }, [st] { return int(st->BucklingCaseZ); }));
+  column->addLayout(Lateral(maker));
+  column->addWidget(Options(maker, "frbuckling", {"obuckling0", "obuckling1"}));
+  column->addWidget(Options(maker, "fr15", {"ch_webbuck", "ch_flangebuck"}));
+  column->addWidget(Options(maker, "frsectionc", {"osectionc0", "osectionc1"}));
+  column->addWidget(maker.Make("ch_modal"));
+  auto* buttons = new QGridLayout;
+  buttons->addWidget(maker.Make("cmd_modresult"), 0, 0);
+  buttons->addWidget(maker.Make("Picture"), 0, 1);
+  column->addLayout(buttons);
+  column->addStretch(1);
+  auto* scroll = new QScrollArea;
+  scroll->setWidget(inputs);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll->setMinimumWidth(inputs->minimumSizeHint().width() +
+                          scroll->verticalScrollBar()->sizeHint().width());
+  return scroll;
+}
+
+QWidget* MainWindow::Plane(WidgetMaker& maker, const char* frame, std::vector<std::string> boxes) {
+  QGroupBox* group = maker.Frame(frame);
+  auto* column = new QVBoxLayout(group);
+  column->setContentsMargins(1, 1, 1, 1);
+  auto* plane = new DiagramPane(desktop_.session(), std::move(boxes), group);
+  planes_.push_back(plane);
+  auto* scroll = new QScrollArea;
+  scroll->setWidget(plane);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll->setMinimumWidth(Ems(this, 22));
+  column->addWidget(scroll);
+  return group;
+}
+
+QWidget* MainWindow::OptimiserPanel(WidgetMaker& maker) {
+  auto* panel = new QWidget;
+  auto* row = new QHBoxLayout(panel);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(maker.Make("optimize"));
+  row->addSpacing(Ems(this, 1));
+  for (const char* name : {"ULS", "SLS", "ULSSLS"}) row->addWidget(maker.Make(name));
+  row->addSpacing(Ems(this, 0.5));
+  row->addWidget(maker.Caption("idef_limit"));
+  auto* limit = maker.Make("idef_limit");
+  limit->setFixedWidth(Ems(this, 4));
+  row->addWidget(limit);
+  row->addStretch(1);
+  // The row keeps its height when the options come and go.
+  panel->setMinimumHeight(limit->sizeHint().height());
+  return panel;
+}
+
+QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
+  auto* side = new QWidget;
+  auto* column = new QVBoxLayout(side);
+  const int gap = Ems(this, 0.5);
+  column->setContentsMargins(0, gap, gap, gap);
+  column->setSpacing(gap);
+  auto* head = new QHBoxLayout;
+  auto* title = static_cast<QLabel*>(maker.Make("obeam"));
+  QFont large = title->font();
+  large.setPixelSize(Ems(this, 1.7));
+  large.setBold(true);
+  title->setFont(large);
+  head->addWidget(title);
+  head->addStretch(1);
+  verdict_ = new VerdictPane(desktop_.session());
+  head->addWidget(verdict_);
+  column->addLayout(head);
+
+  auto* top = new QSplitter(Qt::Horizontal);
+  top->setObjectName(QStringLiteral("figure_results"));
+  top->addWidget(maker.Make("pic1"));
+  QGroupBox* results = maker.Frame("fr31");
+  auto* inside = new QVBoxLayout(results);
+  inside->setContentsMargins(1, 1, 1, 1);
+  auto* scroll = new QScrollArea;
+  scroll->setWidget(maker.Make("pic31"));
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  inside->addWidget(scroll);
+  auto* more = new QHBoxLayout;
+  more->setContentsMargins(gap, 0, gap, gap / 2);
+  more->addStretch(1);
+  more->addWidget(maker.Make("cmdpic"));
+  more->addWidget(maker.Make("de"));
+  inside->addLayout(more);
+  top->addWidget(results);
+  top->setStretchFactor(0, 1);
+  top->setStretchFactor(1, 3);
+
+  auto* planes = new QSplitter(Qt::Horizontal);
+  planes->setObjectName(QStringLiteral("planes"));
+  planes->addWidget(
+      Plane(maker, "fr21", {"picloadpn", "picloadzp", "picloadzv", "picmy", "picdz"}));
+  planes->addWidget(
+      Plane(maker, "fr22", {"picloadvn", "picloadyp", "picloadyv", "picmz", "picdy"}));
+
+  auto* rows = new QSplitter(Qt::Vertical);
+  rows->setObjectName(QStringLiteral("results_diagrams"));
+  rows->addWidget(top);
+  rows->addWidget(planes);
+  rows->setStretchFactor(0, 2);
+  rows->setStretchFactor(1, 3);
+  for (QSplitter* s : {top, planes, rows}) {
+    s->setChildrenCollapsible(false);
+    splitters_.push_back(s);
+  }
+  column->addWidget(rows, 1);
+  column->addWidget(OptimiserPanel(maker));
+  return side;
+}
+
+}  // namespace korvane

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "front/desktop/panes.h"
+
+#include <QContextMenuEvent>
+#include <QFileDialog>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgGenerator>
+
+#include "front/desktop/theme.h"
+#include "front/painter/painter_target.h"
+#include "presentation/figures.h"
+
+namespace korvane {
+
+Pane::Pane(const Session& session, QWidget* parent) : QWidget(parent), session_(session) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void Pane::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().color(QPalette::Base));
+  try {
+    Draw(painter);
+  } catch (const ArithmeticFault&) {
+    // What can't be drawn stays away; the calculation tells what is wrong.
+  }
+}
+
+void Pane::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+    emit Clicked();
+  }
+}
+
+void Pane::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu menu;
+  menu.addAction(tr("Save as SVG..."), this, [this] { Export(true); });
+  menu.addAction(tr("Save as PNG..."), this, [this] { Export(false); });
+  menu.exec(event->globalPos());
+}
+
+void Pane::Export(bool vector) {
+  const QString ending = vector ? QStringLiteral("svg") : QStringLiteral("png");
+  const QString path = QFileDialog::getSaveFileName(
+      this, QString(), ExportName() + QStringLiteral(".") + ending, QStringLiteral("*.") + ending);
+  if (path.isEmpty()) return;
+  if (!vector) {
+    QPixmap picture(size() * 2);
+    picture.setDevicePixelRatio(2);
+    render(&picture);
+    picture.save(path);
+    return;
+  }
+  QSvgGenerator generator;
+  generator.setFileName(path);
+  generator.setSize(size());
+  generator.setViewBox(rect());
+  render(&generator);
+}
+
+// --- Values -------------------------------------------------------------------------------------
+
+ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent), unit_(new QLabel(parent)) {
+  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  setTextInteractionFlags(Qt::TextSelectableByMouse);
+  unit_->setForegroundRole(QPalette::PlaceholderText);
+}
+
+void ValueLabel::ShowValue(const QString& text) {
+  const auto blank = text.indexOf(QLatin1Char(' '));
+  const QString value = blank < 0 ? text : text.left(blank);
+  const QString rest = blank < 0 ? QString() : text.mid(blank + 1);
+  if (this->text() != value) setText(value);
+  if (unit_->text() != rest) unit_->setText(rest);
+}
+
+// --- Figure -------------------------------------------------------------------------------------
+
+FigurePane::FigurePane(const Session& session, std::string form, QWidget* parent)
+    : Pane(session, parent), form_(std::move(form)) {
+  setCursor(Qt::PointingHandCursor);
+  setMinimumSize(Ems(this, 12), Ems(this, 11));
+}
+
+QSize FigurePane::sizeHint() const {
+  return {Ems(this, 20), Ems(this, 18)};
+}
+
+void FigurePane::Draw(QPainter& painter) {
+  PainterTarget target(painter, width(), height(), rect(), DrawingColours(palette()));
+  target.FontSize = Ems(this, 0.85);
+  FigureOptions options;
+  const std::string& field = session_.FocusedField();
+  if (field.rfind(form_ + ".", 0) == 0) {
+    const Control* c = FindControl(*FindForm(form_), field.substr(form_.size() + 1));
+    if (c != nullptr) options.highlight = c->caption.substr(0, c->caption.find(' '));
+  }
+  DrawSectionFigure(target, {0, 0, double(width()), double(height())}, Destination::Page,
+                    session_.st(), session_.design().rec, options);
+}
+
+// --- Verdict ------------------------------------------------------------------------------------
+
+VerdictPane::VerdictPane(const Session& session, QWidget* parent) : Pane(session, parent) {
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  setObjectName(QStringLiteral("verdict"));
+  Refresh();
+}
+
+QSize VerdictPane::sizeHint() const {
+  return {Ems(this, 17), Ems(this, 3.6)};
+}
+
+void VerdictPane::Refresh() {
+  const Design& d = session_.design();
+  const bool checked = !d.checks.lineSection.formula.empty() || d.checks.bucklingRan;
+  const double ir = MaxIR(d.checks);
+  const Role role = RoleOfIndex(CheckColour(ir, d.st.iufa));
+  role_ = checked ? role : Role::Quiet;
+  figure_ = checked ? QString::fromStdString(session_.Shown(ir, "#0.00")) : QStringLiteral("-");
+  word_ = !checked ? QString() : role == Role::Pass ? tr("OK") : tr("FAILS");
+  setAccessibleName(tr("Greatest IR %1 %2").arg(figure_, word_));
+  setToolTip(tr("Greatest utilisation ratio of all checks; the limit is %1")
+                 .arg(QString::fromStdString(session_.Shown(d.st.iufa, "#0.00"))));
+  update();
+}
+
+void VerdictPane::Draw(QPainter& painter) {
+  painter.fillRect(rect(), palette().color(QPalette::Window));
+  const QColor colour = ColourFor(role_, palette());
+  QFont big = font();
+  big.setPixelSize(Ems(this, 2.9));
+  big.setBold(true);
+  QFont word = font();
+  word.setPixelSize(Ems(this, 1.35));
+  word.setBold(true);
+  const int wordWidth = QFontMetrics(word).horizontalAdvance(word_);
+  const int right = width() - Ems(this, 0.6);
+  const QRect wordBox(right - wordWidth, 0, wordWidth + 2, height());
+  painter.setFont(word);
+  painter.setPen(colour);
+  painter.drawText(wordBox, Qt::AlignVCenter | Qt::AlignRight, word_);
+  const QRect figureBox(0, 0, right - wordWidth - Ems(this, 0.6), height());
+  painter.setFont(big);
+  painter.drawText(figureBox, Qt::AlignVCenter | Qt::AlignRight, figure_);
+  const int figureWidth = QFontMetrics(big).horizontalAdvance(figure_);
+  painter.setFont(font());
+  painter.setPen(palette().color(QPalette::PlaceholderText));
+  painter.drawText(figureBox.adjusted(0, 0, -figureWidth - Ems(this, 0.8), 0),
+                   Qt::AlignVCenter | Qt::AlignRight, tr("max IR"));
+}
+
+}  // namespace korvane

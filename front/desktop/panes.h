@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The painted panes of the windows: section figure, result lines, verdict, mode shapes.
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+
+#include "checks/results.h"
+#include "front/session.h"
+#include "presentation/drawing_target.h"
+
+namespace korvane {
+
+/// A painted pane that shows the session; a click on it is passed on.
+class Pane : public QWidget {
+  Q_OBJECT
+
+public:
+  explicit Pane(const Session& session, QWidget* parent = nullptr);
+  /// Takes over what the session shows now.
+  virtual void Refresh() { update(); }
+
+signals:
+  void Clicked();
+
+protected:
+  void paintEvent(QPaintEvent*) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  /// Draws the pane; an arithmetic failure leaves it empty from there on.
+  virtual void Draw(QPainter& painter) = 0;
+  /// Name of the file that an export proposes.
+  virtual QString ExportName() const { return objectName(); }
+
+  const Session& session_;
+
+private:
+  void Export(bool vector);
+};
+
+/// The value of a label with its unit in a quieter label of its own.
+class ValueLabel : public QLabel {
+  Q_OBJECT
+
+public:
+  explicit ValueLabel(QWidget* parent = nullptr);
+  /// Value and unit as the session gives them, a blank between them.
+  void ShowValue(const QString& text);
+  QLabel* unit() { return unit_; }
+
+private:
+  QLabel* unit_;
+};
+
+/// The section with its axes and dimensions; the dimension of the field in use lights up.
+class FigurePane : public Pane {
+  Q_OBJECT
+
+public:
+  /// form: the form whose fields light up their letters.
+  FigurePane(const Session& session, std::string form, QWidget* parent = nullptr);
+  QSize sizeHint() const override;
+
+protected:
+  void Draw(QPainter& painter) override;
+
+private:
+  std::string form_;
+};
+
+/// The result lines as the views compose them, each ratio with a bar to its limit.
+class ResultPane : public Pane {
+  Q_OBJECT
+
+public:
+  enum class Form { Short, Long };
+  ResultPane(const Session& session, Form form, QWidget* parent = nullptr);
+  void Refresh() override;
+  /// The lines as text, as the context menu copies them.
+  QStringList Lines() const;
+  QSize sizeHint() const override;
+
+protected:
+  void Draw(QPainter& painter) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+private:
+  View Composed() const;
+  void DrawLine(QPainter& painter, const ViewLine& line, double y);
+  double RowHeight() const;
+  Form form_;
+  View view_;
+};
+
+/// The greatest ratio in big figures, with the word beside it.
+class VerdictPane : public Pane {
+  Q_OBJECT
+
+public:
+  explicit VerdictPane(const Session& session, QWidget* parent = nullptr);
+  void Refresh() override;
+  QString Figure() const { return figure_; }
+  QString Word() const { return word_; }
+  QSize sizeHint() const override;
+
+protected:
+  void Draw(QPainter& painter) override;
+
+private:
+  QString figure_, word_;
+  Role role_ = Role::Ink;
+};
+
+}  // namespace korvane

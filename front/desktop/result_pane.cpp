@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The result lines: runs of text in their styles, a bar beside each ratio.
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QPainter>
+#include <algorithm>
+
+#include "core/text.h"
+#include "front/desktop/panes.h"
+#include "front/desktop/theme.h"
+
+namespace korvane {
+
+namespace {
+
+/// The coloured run of a line is its value.
+const TextRun* ValueOf(const ViewLine& line) {
+  const auto it = std::find_if(line.runs.begin(), line.runs.end(),
+                               [](const TextRun& run) { return run.colour != 0; });
+  return it == line.runs.end() ? nullptr : &*it;
+}
+
+bool Fails(const ViewLine& line) {
+  return std::any_of(line.runs.begin(), line.runs.end(),
+                     [](const TextRun& run) { return RoleOfIndex(run.colour) == Role::Fail; });
+}
+
+bool HasRatio(const ViewLine& line) {
+  return std::any_of(line.runs.begin(), line.runs.end(),
+                     [](const TextRun& run) { return run.text == kIRPrefix; });
+}
+
+QString TextOf(const ViewLine& line) {
+  QString text;
+  for (const TextRun& run : line.runs) {
+    if (run.atTab) text += QLatin1Char('\t');
+    text += QString::fromStdString(run.text);
+  }
+  return text;
+}
+
+constexpr double kTabEms = 6.6;
+constexpr double kBarEms = 6.5;
+
+}  // namespace
+
+ResultPane::ResultPane(const Session& session, Form form, QWidget* parent)
+    : Pane(session, parent), form_(form) {
+  Refresh();
+}
+
+QSize ResultPane::sizeHint() const {
+  return {Ems(this, form_ == Form::Short ? 36 : 60), Ems(this, form_ == Form::Short ? 15 : 22)};
+}
+
+double ResultPane::RowHeight() const {
+  return QFontMetricsF(font()).height() * 1.35;
+}
+
+View ResultPane::Composed() const {
+  const Design& d = session_.design();
+  const bool buckling = ShowsBuckling(d.st, d.forces.N);
+  View view;
+  const auto append = [&view](const View& more) {
+    view.insert(view.end(), more.begin(), more.end());
+  };
+  if (form_ == Form::Short) {
+    append(SectionControlShort(d.st, d.checks));
+    if (buckling) append(BucklingShort(d.st, d.checks, d.buckling));
+    return view;
+  }
+  const QFontMetricsF metrics(font());
+  const double room = width() - 2 * Ems(this, 1);
+  const auto breaks = [&](const std::string& text) {
+    return metrics.horizontalAdvance(QString::fromStdString(text)) * 1.04 > room;
+  };
+  append(SectionControlLong(d.st, d.checks, breaks));
+  if (buckling) append(BucklingLong(d.st, d.checks, d.buckling, breaks));
+  return view;
+}
+
+void ResultPane::Refresh() {
+  view_ = Composed();
+  double rows = 1;
+  for (const ViewLine& line : view_) rows += line.advance;
+  setMinimumHeight(qRound(rows * RowHeight()));
+  QStringList tips;
+  for (const ViewLine& line : view_) {
+    if (Fails(line)) tips << tr("FAILS: %1").arg(TextOf(line).simplified());
+  }
+  setToolTip(tips.join(QLatin1Char('\n')));
+  update();
+}
+
+void ResultPane::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  view_ = Composed();
+}
+
+QStringList ResultPane::Lines() const {
+  QStringList lines;
+  for (const ViewLine& line : view_) lines << TextOf(line);
+  return lines;
+}
+
+void ResultPane::Draw(QPainter& painter) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  double y = RowHeight() * 0.35;
+  bool first = true;
+  for (const ViewLine& line : view_) {
+    const bool heading = !line.runs.empty() && line.runs.front().underline;
+    if (heading && !first) y += RowHeight() * 0.3;
+    DrawLine(painter, line, y);
+    y += RowHeight() * line.advance;
+    first = false;
+  }
+}
+
+void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
+  const double left = Ems(this, 0.9);
+  const bool fails = Fails(line);
+  double x = left;
+  for (const TextRun& run : line.runs) {
+    QFont style = font();
+    style.setBold(run.bold || fails);
+    style.setUnderline(run.underline);
+    const QFontMetricsF metrics(style);
+    if (run.atTab) x = std::max(x + metrics.averageCharWidth(), left + Ems(this, kTabEms));
+    painter.setFont(style);
+    painter.setPen(run.colour == 0 ? palette().color(QPalette::Text)
+                                   : ColourFor(RoleOfIndex(run.colour), palette()));
+    const QString text = QString::fromStdString(run.text);
+    painter.drawText(QPointF(x, y + metrics.ascent()), text);
+    x += metrics.horizontalAdvance(text);
+  }
+  const TextRun* value = ValueOf(line);
+  if (value == nullptr || !HasRatio(line)) return;
+  const double bar = Ems(this, kBarEms);
+  const double start = width() - bar - Ems(this, 0.9);
+  if (form_ == Form::Long || start < x + Ems(this, 0.8)) return;
+  const auto ratio = ParseNumber(value->text, false);
+  const double share = std::clamp(ratio ? double(*ratio) / session_.st().iufa : 0.0, 0.0, 1.0);
+  const QFontMetricsF metrics(font());
+  const double thick = std::max(4.0, metrics.height() * 0.32);
+  const QRectF track(start, y + metrics.height() * 0.5 - thick / 2, bar, thick);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(palette().color(QPalette::Mid));
+  painter.setOpacity(0.55);
+  painter.drawRoundedRect(track, thick / 2, thick / 2);
+  painter.setOpacity(1);
+  painter.setBrush(ColourFor(RoleOfIndex(value->colour), palette()));
+  painter.drawRoundedRect(QRectF(track.topLeft(), QSizeF(std::max(thick, bar * share), thick)),
+                          thick / 2, thick / 2);
+}
+
+void ResultPane::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu menu;
+  menu.addAction(tr("Copy result lines"), this,
+                 [this] { QApplication::clipboard()->setText(Lines().join(QLatin1Char('\n'))); });
+  menu.exec(event->globalPos());
+}
+
+}  // namespace korvane

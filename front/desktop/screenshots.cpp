@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "front/desktop/screenshots.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+
+#include "front/desktop/desktop.h"
+#include "front/desktop/form_window.h"
+#include "front/desktop/main_window.h"
+#include "front/desktop/theme.h"
+#include "sections/profile_table.h"
+
+namespace korvane {
+
+namespace {
+
+void Settle() {
+  for (int k = 0; k < 5; ++k) QCoreApplication::processEvents();
+}
+
+bool Shoot(QWidget& window, const QString& path, qreal ratio = 1) {
+  Settle();
+  QPixmap picture(window.size() * ratio);
+  picture.setDevicePixelRatio(ratio);
+  window.render(&picture);
+  return picture.save(path);
+}
+
+/// A member with something in every pane.
+void Furnish(Desktop& desktop) {
+  desktop.Act([&] {
+    Session& s = desktop.session();
+    s.Focus("korvane");
+    s.Enter("korvane.iproj", "Warehouse, axis B");
+    s.Enter("korvane.iident", "Column 12");
+    s.Menu("mnuload1");
+    s.Enter("loading.inp", "120");
+    s.Enter("loading.iq1", "6.5");
+    s.Enter("loading.iq2", "3.2");
+    s.Click("loading.iq2_pv");
+    s.Enter("loading.ipm(1)", "18");
+    s.Enter("loading.ipmx(1)", "3.2");
+    s.Enter("loading.iqt11", "1");
+    s.Enter("loading.iqt12", "4");
+    s.Enter("loading.iqt1x1", "1");
+    s.Enter("loading.iqt1x2", "3");
+    s.Click("loading.iqt1_yz");
+    s.Close("loading");
+    s.Focus("korvane");
+  });
+}
+
+bool ShootMain(Desktop& desktop, const QDir& folder, const QString& theme) {
+  MainWindow& window = desktop.window();
+  bool ok = true;
+  for (const QSize size : {QSize(1280, 720), QSize(1920, 1080), QSize(3840, 2160)}) {
+    window.resize(size);
+    ok = Shoot(window, folder.filePath(QStringLiteral("main-%1x%2-%3.png")
+                                           .arg(size.width())
+                                           .arg(size.height())
+                                           .arg(theme))) &&
+         ok;
+  }
+  window.resize(1280, 720);
+  return Shoot(window, folder.filePath(QStringLiteral("main-1280x720-200-%1.png").arg(theme)), 2) &&
+         ok;
+}
+
+bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
+  bool ok = true;
+  for (const Form& form : AllForms()) {
+    FormWindow* window = desktop.WindowOf(form.name);
+    if (window == nullptr) continue;
+    desktop.Act([&] {
+      Session& s = desktop.session();
+      for (const Family& family : AllFamilies()) {
+        if (form.name == family.form) {
+          s.Menu(family.menuControl);
+          s.Focus("korvane");
+        }
+      }
+      s.Show(form.name);
+      if (form.name == "optroll") {
+        for (const char* row : {"cbp01", "cbp02", "cbp04", "cbp06"}) {
+          if (!s.Checked(std::string("optroll.") + row)) s.Click(std::string("optroll.") + row);
+        }
+      }
+    });
+    window->adjustSize();
+    ok = Shoot(
+             *window,
+             folder.filePath(
+                 QStringLiteral("form-%1-%2.png").arg(QString::fromStdString(form.name), theme))) &&
+         ok;
+    desktop.Act([&] {
+      Session& s = desktop.session();
+      s.Unload(form.name);
+      s.st().ProfileType = 1;
+      s.Focus("korvane");
+    });
+  }
+  return ok;
+}
+
+}  // namespace
+
+bool WriteScreenshots(Desktop& desktop, const QString& path) {
+  QDir folder(path);
+  if (!folder.mkpath(QStringLiteral("."))) return false;
+  desktop.window().show();
+  Settle();
+  Furnish(desktop);
+  bool ok = true;
+  for (const auto& [theme, name] : {std::pair{Theme::Light, QStringLiteral("light")},
+                                    std::pair{Theme::Dark, QStringLiteral("dark")}}) {
+    ApplyTheme(theme);
+    desktop.Refresh();
+    ok = ShootMain(desktop, folder, name) && ok;
+    ok = ShootForms(desktop, folder, name) && ok;
+  }
+  return ok;
+}
+
+}  // namespace korvane
