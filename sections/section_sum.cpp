@@ -2,6 +2,7 @@
 #include "sections/section_sum.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/numeric.h"
 
@@ -35,10 +36,22 @@ SumResult SectionSum(const RectList& list) {
   return s;
 }
 
+namespace {
+
+/// Height of the part of a rectangle that lies below y. The input limits allow flanges that
+/// overlap; the web between them has a negative height then and takes area away where it lies.
+double HeightBelow(const Rect& r, double y) {
+  const double lowest = std::min(r.y0, r.Top());
+  const double part = std::clamp(y - lowest, 0.0, std::fabs(r.t));
+  return r.t < 0 ? -part : part;
+}
+
+}  // namespace
+
 double WalkPlasticAxis(const RectList& list, double A, double H) {
   for (double y = 2.0; y <= H; y += 0.1) {
     double below = 0;
-    for (const Rect& r : list) below += r.w * std::clamp(y - r.y0, 0.0, r.t);
+    for (const Rect& r : list) below += r.w * HeightBelow(r, y);
     if (below >= A / 2) return y;
   }
   throw ArithmeticFault("no plastic axis inside the section");
