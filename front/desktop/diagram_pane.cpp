@@ -17,7 +17,11 @@ namespace {
 /// Letters of the diagrams in ems of the window's font.
 constexpr double kLetters = 0.92;
 /// Least height of a grid unit, pixels.
-constexpr double kLeastUnit = 1.1;
+constexpr double kLeastUnit = 1.8;
+/// Greatest height of a grid unit as a multiple of its width.
+constexpr double kMostStretch = 1.25;
+/// The grid unit, in ems of the font, at which lines have their own width.
+constexpr double kPenUnit = 0.5;
 
 DiagramData DataOf(const Session& s) {
   const Design& d = s.design();
@@ -45,7 +49,7 @@ void DiagramBox::SetHairline(double relative) {
 
 void DiagramBox::Draw(QPainter& painter) {
   PainterTarget target(painter, width(), height(), rect(), DrawingColours(palette()));
-  const DiagramStyle style{Ems(this, kLetters) / unit_};
+  const DiagramStyle style{Ems(this, kLetters) / unit_, Ems(this, kPenUnit) / unit_};
   {
     const ScopedFrame frame(target, {0, 0, double(width()), double(height())},
                             {0, 0, kPictureWidth, height() / unit_});
@@ -121,15 +125,16 @@ void DiagramPane::Arrange() {
   std::vector<double> plot, text;
   double plots = 0, texts = 0;
   for (const DiagramBox* box : boxes_) {
-    const double h1 = DiagramHeight(box->kind(), diagrams, {2});
-    const double h2 = DiagramHeight(box->kind(), diagrams, {4});
+    const double h1 = DiagramHeight(box->kind(), diagrams, {2, 1});
+    const double h2 = DiagramHeight(box->kind(), diagrams, {4, 1});
     text.push_back((h2 - h1) / 2);
     plot.push_back(h1 - 2 * text.back());
     plots += plot.back();
     texts += text.back();
   }
   if (boxes_.empty()) return;
-  const double unit = std::max(kLeastUnit, (height() - texts * letters) / std::max(plots, 1.0));
+  const double unit = std::clamp((height() - texts * letters) / std::max(plots, 1.0), kLeastUnit,
+                                 std::max(kLeastUnit, kMostStretch * width() / kPictureWidth));
   setMinimumHeight(static_cast<int>(std::ceil(plots * kLeastUnit + texts * letters)));
   double y = 0;
   for (std::size_t k = 0; k < boxes_.size(); ++k) {

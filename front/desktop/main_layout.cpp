@@ -64,13 +64,9 @@ QGroupBox* MemberFrame(WidgetMaker& maker) {
   supports->setSpacing(3);
   for (int k = 0; k < 6; ++k) supports->addWidget(maker.Make("cbutt" + std::to_string(k)));
   supports->addStretch(1);
+  supports->addWidget(Pair(maker, "oweba"));
+  supports->addWidget(maker.Make("cbuttsupport"));
   column->addLayout(supports);
-  auto* web = new QHBoxLayout;
-  web->addWidget(maker.Make("cbuttsupport"));
-  web->addWidget(Pair(maker, "oweba"));
-  web->addStretch(1);
-  web->addWidget(maker.Make("cp"));
-  column->addLayout(web);
   return group;
 }
 
@@ -162,8 +158,10 @@ QWidget* MainWindow::InputColumn(WidgetMaker& maker) {
   column->addWidget(Options(maker, "frsectionc", {"osectionc0", "osectionc1"}));
   column->addWidget(maker.Make("ch_modal"));
   auto* buttons = new QGridLayout;
-  buttons->addWidget(maker.Make("cmd_modresult"), 0, 0);
-  buttons->addWidget(maker.Make("Picture"), 0, 1);
+  int at = 0;
+  for (const char* name : {"cp", "cmd_modresult", "Picture"}) {
+    buttons->addWidget(maker.Make(name), 0, at++);
+  }
   column->addLayout(buttons);
   column->addStretch(1);
   auto* scroll = new QScrollArea;
@@ -262,6 +260,8 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   rows->addWidget(planes);
   rows->setStretchFactor(0, 2);
   rows->setStretchFactor(1, 3);
+  top->setSizes({Ems(this, 26), Ems(this, 52)});
+  rows->setSizes({Ems(this, 22), Ems(this, 36)});
   for (QSplitter* s : {top, planes, rows}) {
     s->setChildrenCollapsible(false);
     splitters_.push_back(s);

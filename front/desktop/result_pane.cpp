@@ -41,8 +41,9 @@ QString TextOf(const ViewLine& line) {
   return text;
 }
 
-constexpr double kTabEms = 6.6;
-constexpr double kBarEms = 6.5;
+constexpr double kTabEms = 7.2;
+constexpr double kBarEms = 3;
+constexpr double kMostBarEms = 16;
 
 }  // namespace
 
@@ -84,7 +85,12 @@ View ResultPane::Composed() const {
 void ResultPane::Refresh() {
   view_ = Composed();
   double rows = 1;
-  for (const ViewLine& line : view_) rows += line.advance;
+  bars_ = 0;
+  for (const ViewLine& line : view_) {
+    rows += line.advance;
+    if (HasRatio(line)) bars_ = std::max(bars_, WidthOf(line));
+  }
+  bars_ += Ems(this, 1.2);
   setMinimumHeight(qRound(rows * RowHeight()));
   QStringList tips;
   for (const ViewLine& line : view_) {
@@ -118,16 +124,34 @@ void ResultPane::Draw(QPainter& painter) {
   }
 }
 
+QFont ResultPane::FontOf(const TextRun& run, bool fails) const {
+  QFont style = font();
+  style.setBold(run.bold || fails);
+  style.setUnderline(run.underline);
+  return style;
+}
+
+double ResultPane::TabAfter(double x) const {
+  return std::max(x + Ems(this, 0.6), double(Ems(this, 0.9 + kTabEms)));
+}
+
+double ResultPane::WidthOf(const ViewLine& line) const {
+  double x = Ems(this, 0.9);
+  for (const TextRun& run : line.runs) {
+    if (run.atTab) x = TabAfter(x);
+    x += QFontMetricsF(FontOf(run, true)).horizontalAdvance(QString::fromStdString(run.text));
+  }
+  return x;
+}
+
 void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
   const double left = Ems(this, 0.9);
   const bool fails = Fails(line);
   double x = left;
   for (const TextRun& run : line.runs) {
-    QFont style = font();
-    style.setBold(run.bold || fails);
-    style.setUnderline(run.underline);
+    const QFont style = FontOf(run, fails);
     const QFontMetricsF metrics(style);
-    if (run.atTab) x = std::max(x + metrics.averageCharWidth(), left + Ems(this, kTabEms));
+    if (run.atTab) x = TabAfter(x);
     painter.setFont(style);
     painter.setPen(run.colour == 0 ? palette().color(QPalette::Text)
                                    : ColourFor(RoleOfIndex(run.colour), palette()));
@@ -137,9 +161,9 @@ void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
   }
   const TextRun* value = ValueOf(line);
   if (value == nullptr || !HasRatio(line)) return;
-  const double bar = Ems(this, kBarEms);
-  const double start = width() - bar - Ems(this, 0.9);
-  if (form_ == Form::Long || start < x + Ems(this, 0.8)) return;
+  const double start = bars_;
+  const double bar = std::min(width() - start - Ems(this, 0.9), Ems(this, kMostBarEms) * 1.0);
+  if (form_ == Form::Long || bar < Ems(this, kBarEms) || start < x) return;
   const auto ratio = ParseNumber(value->text, false);
   const double share = std::clamp(ratio ? double(*ratio) / session_.st().iufa : 0.0, 0.0, 1.0);
   const QFontMetricsF metrics(font());

@@ -31,6 +31,8 @@ bool Shoot(QWidget& window, const QString& path, qreal ratio = 1) {
 void Furnish(Desktop& desktop) {
   desktop.Act([&] {
     Session& s = desktop.session();
+    s.Menu("mnunew");
+    s.FillMainWindow();
     s.Focus("korvane");
     s.Enter("korvane.iproj", "Warehouse, axis B");
     s.Enter("korvane.iident", "Column 12");
@@ -96,9 +98,8 @@ bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
     desktop.Act([&] {
       Session& s = desktop.session();
       s.Unload(form.name);
-      s.st().ProfileType = 1;
-      s.Focus("korvane");
     });
+    Furnish(desktop);
   }
   return ok;
 }
@@ -110,12 +111,11 @@ bool WriteScreenshots(Desktop& desktop, const QString& path) {
   if (!folder.mkpath(QStringLiteral("."))) return false;
   desktop.window().show();
   Settle();
-  Furnish(desktop);
   bool ok = true;
   for (const auto& [theme, name] : {std::pair{Theme::Light, QStringLiteral("light")},
                                     std::pair{Theme::Dark, QStringLiteral("dark")}}) {
     ApplyTheme(theme);
-    desktop.Refresh();
+    Furnish(desktop);
     ok = ShootMain(desktop, folder, name) && ok;
     ok = ShootForms(desktop, folder, name) && ok;
   }

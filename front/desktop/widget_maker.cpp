@@ -111,6 +111,11 @@ QWidget* WidgetMaker::MakeOpenList(const std::string& name) {
   auto* list = new QListWidget;
   list->setObjectName(Q(name));
   list->setUniformItemSizes(true);
+  int widest = 0;
+  for (const std::string& item : session_.Items(form_.name + "." + name)) {
+    widest = std::max(widest, list->fontMetrics().horizontalAdvance(Q(item)));
+  }
+  list->setMinimumWidth(widest + Ems(list, 4));
   made_.insert(name);
   return list;
 }
