@@ -221,6 +221,9 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   large.setBold(true);
   title->setFont(large);
   head->addWidget(title);
+  head->addSpacing(Ems(this, 1));
+  head->addWidget(maker.Make("cmdpic"));
+  head->addWidget(maker.Make("de"));
   head->addStretch(1);
   verdict_ = new VerdictPane(desktop_.session());
   head->addWidget(verdict_);
@@ -237,12 +240,6 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
   inside->addWidget(scroll);
-  auto* more = new QHBoxLayout;
-  more->setContentsMargins(gap, 0, gap, gap / 2);
-  more->addStretch(1);
-  more->addWidget(maker.Make("cmdpic"));
-  more->addWidget(maker.Make("de"));
-  inside->addLayout(more);
   top->addWidget(results);
   top->setStretchFactor(0, 1);
   top->setStretchFactor(1, 3);

@@ -72,10 +72,10 @@ View ResultPane::Composed() const {
     if (buckling) append(BucklingShort(d.st, d.checks, d.buckling));
     return view;
   }
-  const QFontMetricsF metrics(font());
+  const QFontMetricsF metrics(FontOf({}, true));
   const double room = width() - 2 * Ems(this, 1);
   const auto breaks = [&](const std::string& text) {
-    return metrics.horizontalAdvance(QString::fromStdString(text)) * 1.04 > room;
+    return metrics.horizontalAdvance(QString::fromStdString(text)) > room;
   };
   append(SectionControlLong(d.st, d.checks, breaks));
   if (buckling) append(BucklingLong(d.st, d.checks, d.buckling, breaks));
@@ -84,7 +84,7 @@ View ResultPane::Composed() const {
 
 void ResultPane::Refresh() {
   view_ = Composed();
-  double rows = 1;
+  double rows = 0.7;
   bars_ = 0;
   for (const ViewLine& line : view_) {
     rows += line.advance;

@@ -83,6 +83,15 @@ bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
         }
       }
       s.Show(form.name);
+      if (form.name == "database") {
+        s.Click("p01.addtodb");
+        s.Select("p01.Cbo", 8);
+        s.Click("p01.addtodb");
+      }
+      if (form.name == "Modal_ns") {
+        s.Click("korvane.ch_modal");
+        s.Click("korvane.cmd_modresult");
+      }
       if (form.name == "optroll") {
         for (const char* row : {"cbp01", "cbp02", "cbp04", "cbp06"}) {
           if (!s.Checked(std::string("optroll.") + row)) s.Click(std::string("optroll.") + row);

@@ -61,7 +61,8 @@ QWidget* WidgetMaker::NewWidget(const Control& c) {
       auto* edit = new QLineEdit;
       if (c.field.store) {
         edit->setAlignment(Qt::AlignRight);
-        edit->setFixedWidth(Ems(edit, 5.6));
+        const bool exponent = std::string_view(c.field.format).find('E') != std::string_view::npos;
+        edit->setFixedWidth(Ems(edit, exponent ? 7.6 : 5.6));
       }
       return edit;
     }
