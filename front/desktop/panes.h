@@ -87,6 +87,8 @@ protected:
 
 private:
   View Composed() const;
+  /// Composes the lines anew and takes their sizes.
+  void Measure();
   void DrawLine(QPainter& painter, const ViewLine& line, double y);
   double RowHeight() const;
   QFont FontOf(const TextRun& run, bool fails) const;

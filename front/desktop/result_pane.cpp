@@ -44,6 +44,9 @@ QString TextOf(const ViewLine& line) {
 constexpr double kTabEms = 7.2;
 constexpr double kBarEms = 3;
 constexpr double kMostBarEms = 16;
+/// From this width on, in ems, the letters grow, up to so many times their size.
+constexpr double kWidePane = 70;
+constexpr double kMostLetters = 1.5;
 
 }  // namespace
 
@@ -82,7 +85,7 @@ View ResultPane::Composed() const {
   return view;
 }
 
-void ResultPane::Refresh() {
+void ResultPane::Measure() {
   view_ = Composed();
   double rows = 0.7;
   bars_ = 0;
@@ -91,7 +94,16 @@ void ResultPane::Refresh() {
     if (HasRatio(line)) bars_ = std::max(bars_, WidthOf(line));
   }
   bars_ += Ems(this, 1.2);
+  if (form_ == Form::Long) {
+    double widest = 0;
+    for (const ViewLine& line : view_) widest = std::max(widest, WidthOf(line));
+    setMinimumWidth(qRound(widest) + Ems(this, 1));
+  }
   setMinimumHeight(qRound(rows * RowHeight()));
+}
+
+void ResultPane::Refresh() {
+  Measure();
   QStringList tips;
   for (const ViewLine& line : view_) {
     if (Fails(line)) tips << tr("FAILS: %1").arg(TextOf(line).simplified());
@@ -102,7 +114,14 @@ void ResultPane::Refresh() {
 
 void ResultPane::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  view_ = Composed();
+  if (form_ == Form::Short && parentWidget() != nullptr) {
+    QFont large = parentWidget()->font();
+    const double ems = QFontMetricsF(large).height() * 0.75;
+    large.setPointSizeF(large.pointSizeF() *
+                        std::clamp(width() / (ems * kWidePane), 1.0, kMostLetters));
+    setFont(large);
+  }
+  Measure();
 }
 
 QStringList ResultPane::Lines() const {

@@ -102,8 +102,8 @@ TEST_F(DesktopTest, LoadFormRefusesToCloseOnMixedSigns) {
   EXPECT_EQ(platform_.messages,
             std::vector<std::string>{" Trapezoidal load: One positive and one negative value "});
   EXPECT_TRUE(window.isVisible());
-  EXPECT_EQ(session_.FocusedField(), "loading.iqt11");
-  EXPECT_TRUE(On<QLineEdit>(window, "iqt11").hasFocus());
+  EXPECT_EQ(session_.FocusedField(), "loading.iqt12");
+  EXPECT_TRUE(On<QLineEdit>(window, "iqt12").hasFocus());
 }
 
 TEST_F(DesktopTest, LoadFormClosesByItsFrame) {

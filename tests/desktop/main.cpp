@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include "front/desktop/theme.h"
 
@@ -10,6 +13,9 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&argc, argv);
   QApplication app(argc, argv);
+  const QTemporaryDir settings;
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+  QStandardPaths::setTestModeEnabled(true);
   // Sizes and settings of the person who runs the tests stay as they are.
   QCoreApplication::setApplicationName(QStringLiteral("korvane-test"));
   korvane::ApplyTheme(korvane::Theme::Light);

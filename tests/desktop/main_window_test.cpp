@@ -112,7 +112,10 @@ TEST_F(DesktopTest, ResultLinesAreThoseOfTheSession) {
 
 TEST_F(DesktopTest, PointerTellsTheMoment) {
   Load("10");
-  DiagramPane* plane = Main().centralWidget()->findChild<DiagramPane*>();
+  DiagramPane* plane = nullptr;
+  for (DiagramPane* one : Main().centralWidget()->findChildren<DiagramPane*>()) {
+    if (one->Box("picmy") != nullptr) plane = one;
+  }
   ASSERT_NE(plane, nullptr);
   QSignalSpy pointed(plane, &DiagramPane::Pointed);
   DiagramBox* box = plane->Box("picmy");
