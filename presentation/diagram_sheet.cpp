@@ -99,7 +99,8 @@ DiagramSheet::DiagramSheet(DrawingTarget& target, const DiagramOrigin& origin,
     : target_(target),
       before_(target),
       bounds_(Box::At(origin.x, origin.y, kPictureWidth, height)),
-      labels_(target, bounds_) {
+      labels_(target, bounds_),
+      pen_(style.pen) {
   if (origin.destination == Destination::Picture) target_.Clear();
   target_.FontName = "Arial";
   target_.FontBold = target_.FontUnderline = false;
@@ -126,7 +127,7 @@ void DiagramSheet::Axis(double y) {
 
 void DiagramSheet::Pen(Role colour, double width) {
   target_.ForeColor = colour;
-  target_.SetLineUnits(width);
+  target_.SetLineUnits(width * pen_);
 }
 
 double Ordinate(double value, double greatest, double scale) {

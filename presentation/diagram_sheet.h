@@ -35,6 +35,7 @@ private:
   DrawingState before_;
   Box bounds_;
   LabelPlacer labels_;
+  double pen_;
 };
 
 /// Height of a line of text with its air, grid units.

@@ -32,6 +32,7 @@ struct DiagramOrigin {
 /// Sizes that the owner of the picture chooses.
 struct DiagramStyle {
   double text = 2.4;  ///< em height of the letters in grid units
+  double pen = 1;     ///< factor on the widths of all lines
 };
 
 enum class DiagramKind {

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QMessageBox>
 #include <QStandardPaths>
 #include <QWindow>
 
@@ -176,9 +175,7 @@ void Desktop::Report(const std::string& step, const char* what) {
                       .arg(path)
                 : tr("The project could not be written to\n%1").arg(path);
   session_.End();
-  QMessageBox(QMessageBox::Critical, QApplication::applicationDisplayName(), text, QMessageBox::Ok,
-              main_.get())
-      .exec();
+  emit Failed(text);
 }
 
 }  // namespace korvane

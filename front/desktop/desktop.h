@@ -54,6 +54,8 @@ signals:
   /// The session was shown anew.
   void Refreshed();
   void Ended();
+  /// An arithmetic failure outside a text field: what a person has to know before the end.
+  void Failed(const QString& report);
 
 private:
   bool Leave(const std::string& key);

@@ -16,8 +16,15 @@ namespace {
 
 /// Letters of the diagrams in ems of the window's font.
 constexpr double kLetters = 0.92;
+/// From this width on, in ems, the letters grow, up to so many times their size.
+constexpr double kWidePane = 60;
+constexpr double kMostLetters = 1.6;
 /// Least height of a grid unit, pixels.
-constexpr double kLeastUnit = 1.1;
+constexpr double kLeastUnit = 1.8;
+/// Greatest height of a grid unit as a multiple of its width.
+constexpr double kMostStretch = 1.25;
+/// The grid unit, in ems of the letters, at which lines have their own width.
+constexpr double kPenUnit = 0.5;
 
 DiagramData DataOf(const Session& s) {
   const Design& d = s.design();
@@ -32,8 +39,9 @@ DiagramBox::DiagramBox(const Session& session, DiagramKind kind, QWidget* parent
   setObjectName(QString::fromUtf8(InfoOf(kind).control));
 }
 
-void DiagramBox::SetScale(double unit) {
+void DiagramBox::SetScale(double unit, double letters) {
   unit_ = unit;
+  letters_ = letters;
   update();
 }
 
@@ -45,7 +53,7 @@ void DiagramBox::SetHairline(double relative) {
 
 void DiagramBox::Draw(QPainter& painter) {
   PainterTarget target(painter, width(), height(), rect(), DrawingColours(palette()));
-  const DiagramStyle style{Ems(this, kLetters) / unit_};
+  const DiagramStyle style{letters_ / unit_, letters_ * kPenUnit / unit_};
   {
     const ScopedFrame frame(target, {0, 0, double(width()), double(height())},
                             {0, 0, kPictureWidth, height() / unit_});
@@ -114,28 +122,35 @@ void DiagramPane::resizeEvent(QResizeEvent*) {
   Arrange();
 }
 
+double DiagramPane::Letters() const {
+  // Letters grow with a pane that is far wider than its text needs.
+  return Ems(this, kLetters) *
+         std::clamp(double(width()) / Ems(this, kWidePane), 1.0, kMostLetters);
+}
+
 void DiagramPane::Arrange() {
   // Each height is a part of plot, in grid units, and a part of letters, in pixels.
   const DiagramData diagrams = DataOf(session_);
-  const double letters = Ems(this, kLetters);
+  const double letters = Letters();
   std::vector<double> plot, text;
   double plots = 0, texts = 0;
   for (const DiagramBox* box : boxes_) {
-    const double h1 = DiagramHeight(box->kind(), diagrams, {2});
-    const double h2 = DiagramHeight(box->kind(), diagrams, {4});
+    const double h1 = DiagramHeight(box->kind(), diagrams, {2, 1});
+    const double h2 = DiagramHeight(box->kind(), diagrams, {4, 1});
     text.push_back((h2 - h1) / 2);
     plot.push_back(h1 - 2 * text.back());
     plots += plot.back();
     texts += text.back();
   }
   if (boxes_.empty()) return;
-  const double unit = std::max(kLeastUnit, (height() - texts * letters) / std::max(plots, 1.0));
+  const double unit = std::clamp((height() - texts * letters) / std::max(plots, 1.0), kLeastUnit,
+                                 std::max(kLeastUnit, kMostStretch * width() / kPictureWidth));
   setMinimumHeight(static_cast<int>(std::ceil(plots * kLeastUnit + texts * letters)));
   double y = 0;
   for (std::size_t k = 0; k < boxes_.size(); ++k) {
     const double h = plot[k] * unit + text[k] * letters;
     const int top = qRound(y);
-    boxes_[k]->SetScale(unit);
+    boxes_[k]->SetScale(unit, letters);
     boxes_[k]->setGeometry(0, top, width(), qRound(y + h) - top);
     y += h;
   }

@@ -17,7 +17,7 @@ public:
   DiagramBox(const Session& session, DiagramKind kind, QWidget* parent);
   DiagramKind kind() const { return kind_; }
   /// Grid units per pixel of height decide; the letters keep their size on the screen.
-  void SetScale(double unit);
+  void SetScale(double unit, double letters);
   /// Relative position of the hairline; below 0: none.
   void SetHairline(double relative);
 
@@ -27,6 +27,7 @@ protected:
 private:
   DiagramKind kind_;
   double unit_ = 1;
+  double letters_ = 10;
   double hairline_ = -1;
 };
 
@@ -53,6 +54,7 @@ private:
   std::vector<DiagramKind> Wanted() const;
   void Rebuild(const std::vector<DiagramKind>& kinds);
   void Arrange();
+  double Letters() const;
   void Point(const DiagramBox* box, double x);
   const Session& session_;
   std::vector<std::string> controls_;

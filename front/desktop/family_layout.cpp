@@ -72,8 +72,7 @@ void LayOutFamily(WidgetMaker& maker, QWidget* window) {
   auto* left = new QVBoxLayout;
   if (!list.empty()) {
     QWidget* sizes = maker.MakeOpenList(list);
-    sizes->setMinimumWidth(Ems(window, 11));
-    sizes->setMaximumWidth(Ems(window, 15));
+    sizes->setFixedWidth(std::max(sizes->minimumWidth(), Ems(window, 9)));
     left->addWidget(sizes, 1);
   }
   maker.Stack(left, others);

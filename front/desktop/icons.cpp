@@ -55,8 +55,8 @@ public:
   void Spring(double x, double y) {
     Accent();
     QPainterPath path;
-    for (double t = 0; t < 4.2 * M_PI; t += 0.2) {
-      const double r = 0.8 + 0.36 * t;
+    for (double t = 0; t < 3.2 * M_PI; t += 0.2) {
+      const double r = 0.6 + 0.48 * t;
       const QPointF at(x + r * std::cos(t), y + r * std::sin(t));
       if (t == 0) {
         path.moveTo(at);
@@ -131,7 +131,7 @@ double Buckled(int bucklingCase, double t) {
       return std::sin(M_PI * t);
     case 3:
       // Fixed at 0, pinned at 1: tan(u) = u.
-      return (std::sin(4.4934 * t) - 4.4934 * (t + (std::cos(4.4934 * t) - 1))) / -6.3;
+      return (std::sin(4.4934 * t) - 4.4934 * (t + (std::cos(4.4934 * t) - 1))) / 6.3;
     case 4:
       return (1 - std::cos(2 * M_PI * t)) / 2;
     default:

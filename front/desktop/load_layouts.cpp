@@ -36,6 +36,7 @@ void Table(WidgetMaker& maker, QGroupBox* group, const QStringList& headings,
     }
     ++row;
   }
+  grid->setColumnStretch(grid->columnCount(), 1);
   auto* box = static_cast<QVBoxLayout*>(group->layout());
   box->addLayout(grid);
 }
@@ -121,13 +122,14 @@ void LayOutLoading(WidgetMaker& maker, QWidget* window) {
   auto* drawings = new QHBoxLayout;
   drawings->addWidget(Drawn(maker, {"picloadpn", "picloadzp", "picloadzv"}, window));
   drawings->addWidget(Drawn(maker, {"picloadvn", "picloadyp", "picloadyv"}, window));
+  drawings->itemAt(0)->widget()->setMinimumHeight(Ems(window, 15));
   all->addLayout(drawings, 1);
   auto* columns = new QHBoxLayout;
   auto* left = new QVBoxLayout;
   left->addWidget(Factors(maker));
-  left->addWidget(Lines(maker));
   left->addStretch(1);
   auto* middle = new QVBoxLayout;
+  middle->addWidget(Lines(maker));
   middle->addWidget(Trapezoids(maker));
   middle->addStretch(1);
   auto* right = new QVBoxLayout;

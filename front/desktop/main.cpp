@@ -49,6 +49,9 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
     app.closeAllWindows();
     app.quit();
   });
+  QObject::connect(&desktop, &Desktop::Failed, &desktop.window(), [&desktop](const QString& text) {
+    QMessageBox::critical(&desktop.window(), QString(), text);
+  });
   if (!screenshots.isEmpty()) return WriteScreenshots(desktop, screenshots) ? 0 : 1;
   desktop.window().show();
   if (const QStringList files = parser.positionalArguments(); !files.isEmpty()) {

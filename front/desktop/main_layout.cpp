@@ -64,13 +64,9 @@ QGroupBox* MemberFrame(WidgetMaker& maker) {
   supports->setSpacing(3);
   for (int k = 0; k < 6; ++k) supports->addWidget(maker.Make("cbutt" + std::to_string(k)));
   supports->addStretch(1);
+  supports->addWidget(Pair(maker, "oweba"));
+  supports->addWidget(maker.Make("cbuttsupport"));
   column->addLayout(supports);
-  auto* web = new QHBoxLayout;
-  web->addWidget(maker.Make("cbuttsupport"));
-  web->addWidget(Pair(maker, "oweba"));
-  web->addStretch(1);
-  web->addWidget(maker.Make("cp"));
-  column->addLayout(web);
   return group;
 }
 
@@ -162,8 +158,10 @@ QWidget* MainWindow::InputColumn(WidgetMaker& maker) {
   column->addWidget(Options(maker, "frsectionc", {"osectionc0", "osectionc1"}));
   column->addWidget(maker.Make("ch_modal"));
   auto* buttons = new QGridLayout;
-  buttons->addWidget(maker.Make("cmd_modresult"), 0, 0);
-  buttons->addWidget(maker.Make("Picture"), 0, 1);
+  int at = 0;
+  for (const char* name : {"cp", "cmd_modresult", "Picture"}) {
+    buttons->addWidget(maker.Make(name), 0, at++);
+  }
   column->addLayout(buttons);
   column->addStretch(1);
   auto* scroll = new QScrollArea;
@@ -223,6 +221,9 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   large.setBold(true);
   title->setFont(large);
   head->addWidget(title);
+  head->addSpacing(Ems(this, 1));
+  head->addWidget(maker.Make("cmdpic"));
+  head->addWidget(maker.Make("de"));
   head->addStretch(1);
   verdict_ = new VerdictPane(desktop_.session());
   head->addWidget(verdict_);
@@ -239,12 +240,6 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
   inside->addWidget(scroll);
-  auto* more = new QHBoxLayout;
-  more->setContentsMargins(gap, 0, gap, gap / 2);
-  more->addStretch(1);
-  more->addWidget(maker.Make("cmdpic"));
-  more->addWidget(maker.Make("de"));
-  inside->addLayout(more);
   top->addWidget(results);
   top->setStretchFactor(0, 1);
   top->setStretchFactor(1, 3);
@@ -262,6 +257,8 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   rows->addWidget(planes);
   rows->setStretchFactor(0, 2);
   rows->setStretchFactor(1, 3);
+  top->setSizes({Ems(this, 26), Ems(this, 52)});
+  rows->setSizes({Ems(this, 22), Ems(this, 36)});
   for (QSplitter* s : {top, planes, rows}) {
     s->setChildrenCollapsible(false);
     splitters_.push_back(s);

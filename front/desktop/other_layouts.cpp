@@ -132,11 +132,13 @@ void LayOutPictures(WidgetMaker& maker, QWidget* window) {
       const std::string name = c.name;
       const bool counted = name.rfind(prefix, 0) == 0 && isdigit(name.back()) != 0;
       if (!counted) continue;
-      auto* picture = new QLabel;
+      auto* picture = new QToolButton;
+      picture->setAutoRaise(true);
+      picture->setFocusPolicy(Qt::NoFocus);
+      picture->setAttribute(Qt::WA_TransparentForMouseEvents);
       const int height = Ems(picture, 3);
-      picture->setPixmap(
-          PictureOf(form, name)
-              .pixmap(QSize(qRound(height * kPictureRatio), height), window->devicePixelRatioF()));
+      picture->setIcon(PictureOf(form, name));
+      picture->setIconSize(QSize(qRound(height * kPictureRatio), height));
       grid->addWidget(picture, row, column, Qt::AlignCenter);
       auto* text = new QLabel(QString::fromStdString(c.tip));
       text->setWordWrap(true);

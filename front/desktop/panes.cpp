@@ -82,7 +82,7 @@ void ValueLabel::ShowValue(const QString& text) {
 FigurePane::FigurePane(const Session& session, std::string form, QWidget* parent)
     : Pane(session, parent), form_(std::move(form)) {
   setCursor(Qt::PointingHandCursor);
-  setMinimumSize(Ems(this, 12), Ems(this, 11));
+  setMinimumSize(Ems(this, 14), Ems(this, 13));
 }
 
 QSize FigurePane::sizeHint() const {

@@ -87,10 +87,16 @@ protected:
 
 private:
   View Composed() const;
+  /// Composes the lines anew and takes their sizes.
+  void Measure();
   void DrawLine(QPainter& painter, const ViewLine& line, double y);
   double RowHeight() const;
+  QFont FontOf(const TextRun& run, bool fails) const;
+  double TabAfter(double x) const;
+  double WidthOf(const ViewLine& line) const;
   Form form_;
   View view_;
+  double bars_ = 0;  ///< left end of the bars
 };
 
 /// The greatest ratio in big figures, with the word beside it.

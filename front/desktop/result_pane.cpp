@@ -41,8 +41,12 @@ QString TextOf(const ViewLine& line) {
   return text;
 }
 
-constexpr double kTabEms = 6.6;
-constexpr double kBarEms = 6.5;
+constexpr double kTabEms = 7.2;
+constexpr double kBarEms = 3;
+constexpr double kMostBarEms = 16;
+/// From this width on, in ems, the letters grow, up to so many times their size.
+constexpr double kWidePane = 70;
+constexpr double kMostLetters = 1.5;
 
 }  // namespace
 
@@ -71,21 +75,35 @@ View ResultPane::Composed() const {
     if (buckling) append(BucklingShort(d.st, d.checks, d.buckling));
     return view;
   }
-  const QFontMetricsF metrics(font());
+  const QFontMetricsF metrics(FontOf({}, true));
   const double room = width() - 2 * Ems(this, 1);
   const auto breaks = [&](const std::string& text) {
-    return metrics.horizontalAdvance(QString::fromStdString(text)) * 1.04 > room;
+    return metrics.horizontalAdvance(QString::fromStdString(text)) > room;
   };
   append(SectionControlLong(d.st, d.checks, breaks));
   if (buckling) append(BucklingLong(d.st, d.checks, d.buckling, breaks));
   return view;
 }
 
-void ResultPane::Refresh() {
+void ResultPane::Measure() {
   view_ = Composed();
-  double rows = 1;
-  for (const ViewLine& line : view_) rows += line.advance;
+  double rows = 0.7;
+  bars_ = 0;
+  for (const ViewLine& line : view_) {
+    rows += line.advance;
+    if (HasRatio(line)) bars_ = std::max(bars_, WidthOf(line));
+  }
+  bars_ += Ems(this, 1.2);
+  if (form_ == Form::Long) {
+    double widest = 0;
+    for (const ViewLine& line : view_) widest = std::max(widest, WidthOf(line));
+    setMinimumWidth(qRound(widest) + Ems(this, 1));
+  }
   setMinimumHeight(qRound(rows * RowHeight()));
+}
+
+void ResultPane::Refresh() {
+  Measure();
   QStringList tips;
   for (const ViewLine& line : view_) {
     if (Fails(line)) tips << tr("FAILS: %1").arg(TextOf(line).simplified());
@@ -96,7 +114,14 @@ void ResultPane::Refresh() {
 
 void ResultPane::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  view_ = Composed();
+  if (form_ == Form::Short && parentWidget() != nullptr) {
+    QFont large = parentWidget()->font();
+    const double ems = QFontMetricsF(large).height() * 0.75;
+    large.setPointSizeF(large.pointSizeF() *
+                        std::clamp(width() / (ems * kWidePane), 1.0, kMostLetters));
+    setFont(large);
+  }
+  Measure();
 }
 
 QStringList ResultPane::Lines() const {
@@ -118,16 +143,34 @@ void ResultPane::Draw(QPainter& painter) {
   }
 }
 
+QFont ResultPane::FontOf(const TextRun& run, bool fails) const {
+  QFont style = font();
+  style.setBold(run.bold || fails);
+  style.setUnderline(run.underline);
+  return style;
+}
+
+double ResultPane::TabAfter(double x) const {
+  return std::max(x + Ems(this, 0.6), double(Ems(this, 0.9 + kTabEms)));
+}
+
+double ResultPane::WidthOf(const ViewLine& line) const {
+  double x = Ems(this, 0.9);
+  for (const TextRun& run : line.runs) {
+    if (run.atTab) x = TabAfter(x);
+    x += QFontMetricsF(FontOf(run, true)).horizontalAdvance(QString::fromStdString(run.text));
+  }
+  return x;
+}
+
 void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
   const double left = Ems(this, 0.9);
   const bool fails = Fails(line);
   double x = left;
   for (const TextRun& run : line.runs) {
-    QFont style = font();
-    style.setBold(run.bold || fails);
-    style.setUnderline(run.underline);
+    const QFont style = FontOf(run, fails);
     const QFontMetricsF metrics(style);
-    if (run.atTab) x = std::max(x + metrics.averageCharWidth(), left + Ems(this, kTabEms));
+    if (run.atTab) x = TabAfter(x);
     painter.setFont(style);
     painter.setPen(run.colour == 0 ? palette().color(QPalette::Text)
                                    : ColourFor(RoleOfIndex(run.colour), palette()));
@@ -137,9 +180,9 @@ void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
   }
   const TextRun* value = ValueOf(line);
   if (value == nullptr || !HasRatio(line)) return;
-  const double bar = Ems(this, kBarEms);
-  const double start = width() - bar - Ems(this, 0.9);
-  if (form_ == Form::Long || start < x + Ems(this, 0.8)) return;
+  const double start = bars_;
+  const double bar = std::min(width() - start - Ems(this, 0.9), Ems(this, kMostBarEms) * 1.0);
+  if (form_ == Form::Long || bar < Ems(this, kBarEms) || start < x) return;
   const auto ratio = ParseNumber(value->text, false);
   const double share = std::clamp(ratio ? double(*ratio) / session_.st().iufa : 0.0, 0.0, 1.0);
   const QFontMetricsF metrics(font());

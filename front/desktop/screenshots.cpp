@@ -31,6 +31,8 @@ bool Shoot(QWidget& window, const QString& path, qreal ratio = 1) {
 void Furnish(Desktop& desktop) {
   desktop.Act([&] {
     Session& s = desktop.session();
+    s.Menu("mnunew");
+    s.FillMainWindow();
     s.Focus("korvane");
     s.Enter("korvane.iproj", "Warehouse, axis B");
     s.Enter("korvane.iident", "Column 12");
@@ -81,6 +83,15 @@ bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
         }
       }
       s.Show(form.name);
+      if (form.name == "database") {
+        s.Click("p01.addtodb");
+        s.Select("p01.Cbo", 8);
+        s.Click("p01.addtodb");
+      }
+      if (form.name == "Modal_ns") {
+        s.Click("korvane.ch_modal");
+        s.Click("korvane.cmd_modresult");
+      }
       if (form.name == "optroll") {
         for (const char* row : {"cbp01", "cbp02", "cbp04", "cbp06"}) {
           if (!s.Checked(std::string("optroll.") + row)) s.Click(std::string("optroll.") + row);
@@ -96,9 +107,8 @@ bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
     desktop.Act([&] {
       Session& s = desktop.session();
       s.Unload(form.name);
-      s.st().ProfileType = 1;
-      s.Focus("korvane");
     });
+    Furnish(desktop);
   }
   return ok;
 }
@@ -110,12 +120,11 @@ bool WriteScreenshots(Desktop& desktop, const QString& path) {
   if (!folder.mkpath(QStringLiteral("."))) return false;
   desktop.window().show();
   Settle();
-  Furnish(desktop);
   bool ok = true;
   for (const auto& [theme, name] : {std::pair{Theme::Light, QStringLiteral("light")},
                                     std::pair{Theme::Dark, QStringLiteral("dark")}}) {
     ApplyTheme(theme);
-    desktop.Refresh();
+    Furnish(desktop);
     ok = ShootMain(desktop, folder, name) && ok;
     ok = ShootForms(desktop, folder, name) && ok;
   }

@@ -11,12 +11,12 @@ namespace korvane {
 namespace {
 
 struct Shades {
-  QRgb window, base, alternate, text, quiet, button, accent, onAccent, light, mid, dark;
+  QRgb window, base, alternate, text, quiet, unit, button, accent, onAccent, light, mid, dark;
 };
-constexpr Shades kLight{0xffeff1f4, 0xffffffff, 0xfff6f8fa, 0xff1c2128, 0xff8b949e, 0xfff7f8fa,
-                        0xff165c9e, 0xffffffff, 0xffffffff, 0xffc8ced6, 0xff9aa3ad};
-constexpr Shades kDark{0xff25282d, 0xff1e2126, 0xff23262b, 0xffe8eaed, 0xff767d88, 0xff33373e,
-                       0xff6eb0f0, 0xff10151c, 0xff454a52, 0xff3a3f47, 0xff15171a};
+constexpr Shades kLight{0xffeff1f4, 0xffffffff, 0xfff6f8fa, 0xff1c2128, 0xff8b949e, 0xff66707c,
+                        0xfff7f8fa, 0xff165c9e, 0xffffffff, 0xffffffff, 0xffc8ced6, 0xff9aa3ad};
+constexpr Shades kDark{0xff2d3036, 0xff191b1f, 0xff1f2226, 0xffe8eaed, 0xff767d88, 0xffa3abb6,
+                       0xff3b4048, 0xff6eb0f0, 0xff10151c, 0xff50565f, 0xff464c55, 0xff15171a};
 
 QPalette Made(const Shades& s) {
   QPalette p;
@@ -29,7 +29,7 @@ QPalette Made(const Shades& s) {
     p.setColor(QPalette::Disabled, role, s.quiet);
   }
   p.setColor(QPalette::ToolTipBase, s.base);
-  p.setColor(QPalette::PlaceholderText, s.quiet);
+  p.setColor(QPalette::PlaceholderText, s.unit);
   p.setColor(QPalette::Button, s.button);
   p.setColor(QPalette::Highlight, s.accent);
   p.setColor(QPalette::HighlightedText, s.onAccent);

@@ -61,7 +61,8 @@ QWidget* WidgetMaker::NewWidget(const Control& c) {
       auto* edit = new QLineEdit;
       if (c.field.store) {
         edit->setAlignment(Qt::AlignRight);
-        edit->setFixedWidth(Ems(edit, 5.6));
+        const bool exponent = std::string_view(c.field.format).find('E') != std::string_view::npos;
+        edit->setFixedWidth(Ems(edit, exponent ? 7.6 : 5.6));
       }
       return edit;
     }
@@ -111,6 +112,11 @@ QWidget* WidgetMaker::MakeOpenList(const std::string& name) {
   auto* list = new QListWidget;
   list->setObjectName(Q(name));
   list->setUniformItemSizes(true);
+  int widest = 0;
+  for (const std::string& item : session_.Items(form_.name + "." + name)) {
+    widest = std::max(widest, list->fontMetrics().horizontalAdvance(Q(item)));
+  }
+  list->setMinimumWidth(widest + Ems(list, 4));
   made_.insert(name);
   return list;
 }

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QSettings>
+#include <QSplitter>
+#include <QStandardPaths>
+
+#include "core/project_file.h"
+#include "front/desktop/desktop_platform.h"
+#include "tests/desktop/desktop_fixture.h"
+
+namespace korvane {
+namespace {
+
+TEST(DesktopPlatformTest, SettingsStandInTheSectionRecentFiles) {
+  DesktopPlatform platform;
+  EXPECT_EQ(platform.Setting("RecentFile9"), "");
+  platform.SetSetting("RecentFile9", "/a/b.kvn");
+  EXPECT_EQ(platform.Setting("RecentFile9"), "/a/b.kvn");
+  const QSettings store(QSettings::IniFormat, QSettings::UserScope, "Korvane_ns", "Korvane_ns");
+  EXPECT_EQ(store.value("Recent Files/RecentFile9").toString(), "/a/b.kvn");
+}
+
+TEST(DesktopPlatformTest, ClockTellsADate) {
+  DesktopPlatform platform;
+  const DateTime now = platform.Now();
+  EXPECT_EQ(QDate::currentDate(), QDate(now.year, now.month, now.day));
+}
+
+/// A refusal with the real message box: it comes up after the event, tells the text, and the
+/// field has the focus again without a calculation.
+TEST(DesktopPlatformTest, MessageBoxDoesNotDisturbTheField) {
+  const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
+  const QTemporaryDir folder;
+  DesktopPlatform platform;
+  Session session(library, platform, false, Folders{library->folder, folder.path().toStdString()});
+  session.Start();
+  Desktop desktop(session);
+  platform.SetWindow(&desktop.window());
+  desktop.window().show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.window()));
+  auto* length = desktop.window().findChild<QLineEdit*>("il");
+  length->setFocus();
+  length->selectAll();
+  QString told;
+  QTimer::singleShot(300, [&] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      told = box->text();
+      EXPECT_EQ(box->icon(), QMessageBox::Warning);
+      box->accept();
+    }
+  });
+  const int calculations = session.Calculations();
+  QTest::keyClicks(length, "0.01");
+  QTest::keyClick(length, Qt::Key_Tab);
+  EXPECT_TRUE(platform.HasMessages());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !platform.HasMessages(); }, 3000));
+  desktop.window().activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop.window()));
+  EXPECT_EQ(told, " L >= 0.050 ");
+  EXPECT_TRUE(length->hasFocus());
+  EXPECT_EQ(session.Calculations(), calculations);
+}
+
+TEST_F(DesktopTest, FailureOutsideAFieldWritesARecoveryProject) {
+  QString report;
+  QObject::connect(desktop_.get(), &Desktop::Failed, [&](const QString& text) { report = text; });
+  QSignalSpy ended(desktop_.get(), &Desktop::Ended);
+  session_.st().L = 6.25f;
+  session_.st().gammam1 = 0;
+  Menu("mnuload1");
+  EXPECT_EQ(ended.count(), 1);
+  const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+  QString path;
+  for (const QString& line : report.split(QLatin1Char('\n'))) {
+    if (line.startsWith(folder.path())) path = line;
+  }
+  ASSERT_FALSE(path.isEmpty()) << report.toStdString();
+  ProjectState recovered;
+  EXPECT_EQ(OpenProject(path.toStdString(), recovered), FileResult::Ok);
+  EXPECT_EQ(recovered.L, 6.25f);
+  EXPECT_TRUE(QFile::remove(path));
+}
+
+TEST_F(DesktopTest, FailureInAFieldSaysMismatch) {
+  session_.st().gammam1 = 0;
+  TypeInto(Field("il"), "6");
+  EXPECT_EQ(platform_.messages, std::vector<std::string>{"Input string mismatch "});
+  EXPECT_TRUE(Field("il").hasFocus());
+}
+
+TEST_F(DesktopTest, SplittersRememberTheirSizes) {
+  auto* split = Main().findChild<QSplitter*>("planes");
+  const int all = split->sizes().at(0) + split->sizes().at(1);
+  split->setSizes({all * 6 / 10, all * 4 / 10});
+  const QList<int> sizes = split->sizes();
+  Main().close();
+  desktop_.reset();
+  Session next(library_, platform_, false, Folders{library_->folder, folder_.path().toStdString()});
+  next.Start();
+  Desktop again(next);
+  again.window().show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&again.window()));
+  EXPECT_EQ(again.window().findChild<QSplitter*>("planes")->sizes(), sizes);
+}
+
+}  // namespace
+}  // namespace korvane
