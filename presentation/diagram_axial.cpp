@@ -45,8 +45,8 @@ std::vector<AxialLoad> LoadsOf(const ProjectState& st, bool variable) {
   return loads;
 }
 
-std::vector<TextRun> Runs(const AxialLoad& load) {
-  std::vector<TextRun> runs = {{Format(load.value, "#0.0")}, {" kN", Role::Quiet}};
+std::vector<LabelRun> Runs(const AxialLoad& load) {
+  std::vector<LabelRun> runs = {{Format(load.value, "#0.0")}, {" kN", Role::Quiet}};
   if (*load.tag) runs.push_back({std::string("  ") + load.tag, Role::Quiet});
   return runs;
 }

@@ -87,8 +87,8 @@ struct Picture {
   double axis;
 };
 
-std::vector<TextRun> Runs(double value, const char* tag) {
-  std::vector<TextRun> runs = {{Format(value, "#0.0")}};
+std::vector<LabelRun> Runs(double value, const char* tag) {
+  std::vector<LabelRun> runs = {{Format(value, "#0.0")}};
   if (*tag) runs.push_back({std::string(" ") + tag, Role::Quiet});
   return runs;
 }

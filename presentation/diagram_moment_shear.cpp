@@ -48,7 +48,7 @@ void PrintZeros(DiagramSheet& sheet, const char* head, const std::vector<double>
   const double room = sheet.Bounds().right - title.right - t.Across(sheet.Labels().LineHeight());
   const double width = t.TextWidth(text);
   if (width > room) t.FontSize = size * room / width;
-  const std::vector<TextRun> runs = {{text, Role::Quiet}};
+  const std::vector<LabelRun> runs = {{text, Role::Quiet}};
   sheet.Labels().Fix(runs, {sheet.Bounds().right - sheet.Labels().WidthOf(runs),
                             title.bottom - sheet.Labels().LineHeight()});
   t.FontSize = size;

@@ -53,9 +53,9 @@ double LabelPlacer::LineHeight() const {
   return (kArialAscent + kArialDescent) * target_.FontSize / target_.UnitY();
 }
 
-double LabelPlacer::WidthOf(const std::vector<TextRun>& runs) const {
+double LabelPlacer::WidthOf(const std::vector<LabelRun>& runs) const {
   double width = 0;
-  for (const TextRun& run : runs) {
+  for (const LabelRun& run : runs) {
     width += ArialWidth(run.text, run.bold) * target_.FontSize / target_.UnitX();
   }
   return width;
@@ -127,18 +127,18 @@ Box LabelPlacer::Place(const Label& label) {
   return box;
 }
 
-Box LabelPlacer::Fix(const std::vector<TextRun>& runs, Point topLeft) {
+Box LabelPlacer::Fix(const std::vector<LabelRun>& runs, Point topLeft) {
   const Box box = Box::At(topLeft.x, topLeft.y, WidthOf(runs), LineHeight());
   Draw(runs, topLeft);
   Keep(box);
   return box;
 }
 
-void LabelPlacer::Draw(const std::vector<TextRun>& runs, Point topLeft) {
+void LabelPlacer::Draw(const std::vector<LabelRun>& runs, Point topLeft) {
   target_.CurrentX = topLeft.x;
   target_.CurrentY = topLeft.y;
   const DrawingState before = target_;
-  for (const TextRun& run : runs) {
+  for (const LabelRun& run : runs) {
     target_.ForeColor = run.colour;
     target_.FontBold = run.bold;
     target_.Print(run.text);

@@ -10,7 +10,7 @@
 namespace korvane {
 
 /// A piece of a label in one style.
-struct TextRun {
+struct LabelRun {
   std::string text;
   Role colour = Role::Ink;
   bool bold = false;
@@ -20,7 +20,7 @@ enum class Side { Above, Below, Left, Right, Centre };
 
 /// A label and the point that it belongs to.
 struct Label {
-  std::vector<TextRun> runs;
+  std::vector<LabelRun> runs;
   Point anchor;
   Side side = Side::Above;
   double gap = 0;       ///< distance from the anchor, vertical user units
@@ -43,9 +43,9 @@ public:
   /// Finds the place, draws the label and keeps the place. Returns the label's rectangle.
   Box Place(const Label& label);
   /// Draws text with its top left corner at a point and keeps the place.
-  Box Fix(const std::vector<TextRun>& runs, Point topLeft);
+  Box Fix(const std::vector<LabelRun>& runs, Point topLeft);
 
-  double WidthOf(const std::vector<TextRun>& runs) const;
+  double WidthOf(const std::vector<LabelRun>& runs) const;
   double LineHeight() const;
 
 private:
@@ -55,7 +55,7 @@ private:
   Box Preferred(const Label& label, double width) const;
   double Cost(const Box& r, double least) const;
   Box BestPlace(const Box& preferred) const;
-  void Draw(const std::vector<TextRun>& runs, Point topLeft);
+  void Draw(const std::vector<LabelRun>& runs, Point topLeft);
   void DrawLeader(const Label& label, const Box& box);
 
   DrawingTarget& target_;

@@ -57,9 +57,9 @@ void DrawMarks(DiagramSheet& sheet, const std::vector<Number>& numbers, double y
   sheet.Pen(Role::Quiet, 0.12);
   t.Line({sheet.X(0), y}, {sheet.X(1), y});
   const double height = sheet.Labels().LineHeight();
-  const std::vector<TextRun> x = {{"x", Role::Quiet}};
+  const std::vector<LabelRun> x = {{"x", Role::Quiet}};
   sheet.Labels().Fix(x, {sheet.X(0) - sheet.Labels().WidthOf(x) - t.Across(1.2), y - height / 2});
-  const std::vector<TextRun> mark = {{"I"}};
+  const std::vector<LabelRun> mark = {{"I"}};
   const double width = sheet.Labels().WidthOf(mark);
   double end = sheet.X(0) - width;
   for (const Number& n : numbers) {
