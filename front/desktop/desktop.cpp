@@ -88,7 +88,8 @@ void Desktop::Select(const std::string& key, int index) {
 }
 
 void Desktop::Command(const std::string& menu) {
-  if (Busy() || !Commit()) return;
+  // Nothing that stands in a field may keep the program from ending.
+  if (Busy() || (menu != "mnuexit" && !Commit())) return;
   Act([&] { session_.Menu(menu); });
 }
 

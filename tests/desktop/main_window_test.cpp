@@ -211,6 +211,22 @@ TEST_F(DesktopTest, PrintTakesTheCopies) {
   EXPECT_EQ(platform_.prints, (std::vector<std::string>{"0 x 2", "1 x 2"}));
 }
 
+TEST_F(DesktopTest, MnemonicOpensTheLoads) {
+  QTest::keyClick(&Main(), Qt::Key_L, Qt::AltModifier);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(session_.IsOpen("loading"));
+  EXPECT_TRUE(Window("loading").isVisible());
+}
+
+TEST_F(DesktopTest, ExitEndsWhateverStandsInAField) {
+  QSignalSpy ended(desktop_.get(), &Desktop::Ended);
+  Field("il").setFocus();
+  Field("il").selectAll();
+  QTest::keyClicks(&Field("il"), "0");
+  Menu("mnuexit");
+  EXPECT_EQ(ended.count(), 1);
+}
+
 TEST_F(DesktopTest, ExitEnds) {
   QSignalSpy ended(desktop_.get(), &Desktop::Ended);
   Menu("mnuexit");
