@@ -122,7 +122,7 @@ void LayOutLoading(WidgetMaker& maker, QWidget* window) {
   auto* drawings = new QHBoxLayout;
   drawings->addWidget(Drawn(maker, {"picloadpn", "picloadzp", "picloadzv"}, window));
   drawings->addWidget(Drawn(maker, {"picloadvn", "picloadyp", "picloadyv"}, window));
-  drawings->itemAt(0)->widget()->setMinimumHeight(Ems(window, 15));
+  drawings->itemAt(0)->widget()->setMinimumHeight(Ems(window, 20));
   all->addLayout(drawings, 1);
   auto* columns = new QHBoxLayout;
   auto* left = new QVBoxLayout;
