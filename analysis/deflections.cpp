@@ -17,6 +17,14 @@ void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,
   defl = {};
   max = 0;
   min = 0;
+  const auto set = [&](int i, double value) {
+    defl[i] = value;
+    if (defl[i] > max) max = defl[i];
+    if (defl[i] < min) min = defl[i];
+  };
+  double start = 0;
+  for (const DeflectionPart& p : parts) start += p.start;
+  set(0, start);
   for (int i = 1; i <= last; ++i) {
     const double x = (i / 50.0) * L;
     double sum = 0;
@@ -25,9 +33,7 @@ void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,
       const double t = b.mirrored ? L - x : x;
       sum += b.c[0] + (b.c[1] + (b.c[2] + (b.c[3] + b.c[4] * t) * t) * t) * t;
     }
-    defl[i] = sum;
-    if (defl[i] > max) max = defl[i];
-    if (defl[i] < min) min = defl[i];
+    set(i, sum);
   }
 }
 

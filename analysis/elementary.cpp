@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "analysis/elementary.h"
 
+#include <algorithm>
+
 namespace korvane {
 
 namespace {
@@ -28,6 +30,7 @@ ForcePart LineForces(Case support, double L, double q) {
       b = {-q * L * L / 2, q * L, -q / 2, -q * L, q};
       break;
   }
+  p.left = b;  // a point before the first support sees the load too
   p.V0 = b.v0;
   p.VL = b.v0 + b.v1 * L;
   p.M0 = b.m0;
@@ -79,6 +82,12 @@ ForcePart PointForces(Case support, double L, double P, double a, bool inclusive
 ForcePart MomentForces(Case support, double L, double Mo, double a) {
   ForcePart p;
   p.a = a;
+  if (support == kCantilever) {
+    p.inclusive = true;
+    p.left = {-Mo, 0, 0, 0, 0};
+    p.M0 = -Mo;
+    return p;
+  }
   const double al = a / L;
   double V = 0;
   double M0 = 0;
@@ -103,10 +112,7 @@ ForcePart MomentForces(Case support, double L, double Mo, double a) {
       break;
     }
     case kCantilever:
-      p.inclusive = true;
-      p.left = {-Mo, 0, 0, 0, 0};
-      p.M0 = -Mo;
-      return p;
+      break;
   }
   p.left = {M0, V, 0, V, 0};
   p.right = {M0 + Mo, V, 0, V, 0};
@@ -157,6 +163,13 @@ DeflectionPart PointDeflection(Case support, double L, double KP, double a) {
   DeflectionPart p;
   p.a = a;
   const double b = L - a;
+  if (support == kCantilever) {
+    const double tip = KP / 6 * (2 * L * L * L - 3 * L * L * b + b * b * b);
+    p.a = std::min(a, L);  // the free end takes the tip value wherever the load stands
+    p.left = {{0, 0, KP * a / 2, -KP / 6}};
+    p.right = {{tip, -KP * a * a / 2}, true};
+    return p;
+  }
   const double al = a / L;
   const double be = b / L;
   switch (support) {
@@ -175,12 +188,8 @@ DeflectionPart PointDeflection(Case support, double L, double KP, double a) {
                   -KP / 6 * (2 * be * be * be + 1 - 3 * be * be)},
                  true};
       break;
-    case kCantilever: {
-      const double tip = KP / 6 * (2 * L * L * L - 3 * L * L * b + b * b * b);
-      p.left = {{0, 0, KP * a / 2, -KP / 6}};
-      p.right = {{tip, -KP * a * a / 2}, true};
+    case kCantilever:
       break;
-    }
   }
   return p;
 }
@@ -205,6 +214,7 @@ DeflectionPart MomentDeflection(Case support, double L, double KM, double a) {
     case kCantilever:
       c[2] = KM / 2;
       p.right = {{-KM * a * a / 2, KM * a}};
+      p.start = a < 0 ? p.right.c[0] : 0;
       return p;
   }
   p.right = p.left;
@@ -217,6 +227,7 @@ DeflectionPart MomentDeflection(Case support, double L, double KM, double a) {
 DeflectionPart Scaled(DeflectionPart p, double w) {
   for (double& c : p.left.c) c *= w;
   for (double& c : p.right.c) c *= w;
+  p.start *= w;
   return p;
 }
 

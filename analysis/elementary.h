@@ -38,6 +38,7 @@ struct DeflectionBranch {
 struct DeflectionPart {
   double a = 0;
   DeflectionBranch left, right;
+  double start = 0;  ///< at x = 0, which stands still but under a moment before a clamped end
 };
 
 /// Fixed-capacity list: a plane has at most a line load, 60 slices and 16 load entries, each in

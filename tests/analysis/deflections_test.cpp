@@ -241,5 +241,25 @@ TEST(Deflections, ASectionWithoutStiffnessIsAnArithmeticFault) {
   EXPECT_THROW(Deflected(LineLoaded(0), 0), ArithmeticFault);
 }
 
+// A file can hold positions that no form accepts: the formulas of the clamped member then go on.
+TEST(Deflections, CantileverLoadsOutsideTheMember) {
+  const double L = 6;
+  for (const double a : {-1.5, 7.0}) {
+    SCOPED_TRACE(a);
+    ProjectState st = BareMember(4, L);
+    PutPoint(st, 1, 10, a);
+    const double b = L - a;
+    const double tip = kK * 10 / 6 * (2 * L * L * L - 3 * L * L * b + b * b * b);
+    const Deflections d = Deflected(st);
+    EXPECT_EQ(d.DeflZ[0], 0);
+    EXPECT_NEAR(d.DeflZ[50], tip, std::fabs(tip) * 1e-6);
+  }
+  ProjectState st = BareMember(4, L);
+  PutMoment(st, 1, 10, -1.5);
+  const Deflections d = Deflected(st);
+  EXPECT_NEAR(d.DeflZ[0], -kK * 10 * 1.5 * 1.5 / 2, 1e-6);
+  EXPECT_NEAR(d.DeflZ[50], kK * 10 * (1.5 * 1.5 / 2 - 1.5 * 7.5), 1e-5);
+}
+
 }  // namespace
 }  // namespace korvane

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <tuple>
 
 #include "members.h"
 
@@ -330,6 +331,22 @@ TEST(AxialForce, ComesOutOfTheAnalysis) {
   AnalyseBeam(st, 100, loads, r, N);
   EXPECT_EQ(N, 42.5);
   EXPECT_NEAR(r.z.M[25], 1 * 36 / 8.0, 1e-5);  // 100 kg/m are 1 kN/m
+}
+
+// A file can put a load before the first support: its two points see the line load all the same.
+TEST(LoadPoints, BeforeTheMemberTheLineLoadGoesOn) {
+  const double L = 6;
+  for (const auto& [support, m1, m0] :
+       {std::tuple{0, 30.0, 0.0}, {1, 22.5, 0.0}, {2, 30.0, -30.0}, {4, 60.0, -180.0}}) {
+    SCOPED_TRACE(support);
+    ProjectState st = BareMember(support, L);
+    st.q1 = 10;
+    st.pmx[1] = -1;  // a position alone, without a load, makes the points
+    const BeamResults r = Analysed(st);
+    const double x = L * r.pt_x[11];
+    ASSERT_NEAR(x, -0.999, 1e-6);
+    EXPECT_NEAR(r.z.M_pt[11], m0 + m1 * x - 5 * x * x, 1e-4);
+  }
 }
 
 }  // namespace
