@@ -1,44 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any bytes as a project database, defaults and material list: nothing crashes, every row that
-// was read can be listed and loaded.
-#include <unistd.h>
-
-#include <cstdint>
-#include <fstream>
-#include <string>
-
-#include "core/calculation.h"
+// Any bytes as a project database: every row that was read can be listed, loaded, designed,
+// moved and removed, and what is written reads back as the same rows.
+#include "fuzz/fuzz_support.h"
 #include "sections/databasebas.h"
 
 using namespace korvane;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const auto library = ReadLibrary(KORVANE_DATA_FOLDER);
-  static const std::string folder = [] {
-    char name[] = "/tmp/korvane_fuzz_XXXXXX";
-    return std::string(mkdtemp(name));
-  }();
-  for (const char* name : {"/korvane.db", "/default_ns.dat", "/NSmat.dat", "/hea.dat"}) {
-    std::ofstream(folder + name, std::ios::binary)
-        .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-  }
+  static const std::string folder = fuzz::OwnDataFolder();
+  const std::string path = folder + "/korvane.db";
+  fuzz::Write(path, fuzz::Bytes(data, size));
   Database db;
-  ReadDatabase(folder + "/korvane.db", db);
-  FillDatabaseList(db, library->catalogues);
-  ProjectState st;
-  try {
-    for (int row = 0; row <= db.DbLast; ++row) {
-      db.DbRow = row;
-      st.ProfileType = DatabaseRowType(db);
-      LoadDatabaseRow(db, st);
-    }
-  } catch (const ArithmeticFault&) {
-  }
-  Design design(ReadLibrary(folder));
+  ReadDatabase(path, db);
+  const auto list = FillDatabaseList(db, library->catalogues);
+  Design design(library);
   StartDesign(design);
-  try {
-    Calculate(design);
-  } catch (const ArithmeticFault&) {
+  for (int row = 0; row <= db.DbLast; ++row) {
+    db.DbRow = row;
+    try {
+      design.st.ProfileType = DatabaseRowType(db);
+      LoadDatabaseRow(db, design.st);
+    } catch (const ArithmeticFault&) {
+      continue;
+    }
+    if (row < 4) fuzz::CalculateOrFail(design);
+  }
+  if (!WriteDatabase(path, db)) std::abort();
+  Database again;
+  ReadDatabase(path, again);
+  if (FillDatabaseList(again, library->catalogues) != list) std::abort();
+  MoveRowUp(db, db.DbLast);
+  MoveRowDown(db, 0);
+  while (RemoveRow(db, 0)) {
   }
   return 0;
 }

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any text as a session script: every end is one of the exit statuses.
-#include <cstdint>
-#include <cstdlib>
 #include <sstream>
 
 #include "front/console/script.h"
+#include "fuzz/fuzz_support.h"
 
 using namespace korvane;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const auto library = ReadLibrary(KORVANE_DATA_FOLDER);
-  std::string script(reinterpret_cast<const char*>(data), size);
+  static const auto library = ReadLibrary(fuzz::OwnDataFolder());
+  const std::string script(fuzz::Bytes(data, size));
   // Paths of a script could write anywhere; commands on files have tests of their own.
   for (const char* word : {"save", "answer", "open"}) {
     if (script.find(word) != std::string::npos) return 0;
