@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/diagram_sheet.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/text.h"
@@ -114,7 +115,13 @@ DiagramSheet::~DiagramSheet() {
 }
 
 Box DiagramSheet::Title(const std::string& text, double y) {
-  return labels_.Fix({{text, Role::Ink, true}}, {bounds_.left, y});
+  const double size = target_.FontSize;
+  target_.FontBold = true;
+  target_.FontSize *= std::min(1.0, bounds_.Width() / target_.TextWidth(text));
+  target_.FontBold = false;
+  const Box title = labels_.Fix({{text, Role::Ink, true}}, {bounds_.left, y});
+  target_.FontSize = size;
+  return title;
 }
 
 void DiagramSheet::Axis(double y) {

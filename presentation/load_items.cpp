@@ -22,22 +22,6 @@ double Relative(double x, double L) {
   return L > 0 ? std::clamp(x / L, 0., 1.) : 0;
 }
 
-struct Trapezoid {
-  double x1, x2;
-  int group;
-};
-
-Trapezoid TrapezoidOf(const ProjectState& st, int t) {
-  switch (t) {
-    case 1:
-      return {st.qt1_x1, st.qt1_x2, GroupOf(st.qt1_pv)};
-    case 2:
-      return {st.qt2_x1, st.qt2_x2, GroupOf(st.qt2_pv)};
-    default:
-      return {st.qt3_x1, st.qt3_x2, GroupOf(st.qt3_pv)};
-  }
-}
-
 void AddDistributed(const ProjectState& st, const PlaneLoads& loads,
                     const Indexed<float32, 0, 2>& sums, bool variable, LoadItems& items) {
   for (int group = 0; group <= 2; ++group) {
@@ -45,12 +29,15 @@ void AddDistributed(const ProjectState& st, const PlaneLoads& loads,
     items.distributed.push_back({0, 1, sums[group], sums[group], 0, st.L, true, kTags[group], 0});
   }
   for (int t = 1; t <= 3; ++t) {
-    const Trapezoid z = TrapezoidOf(st, t);
+    const Trapezoid& slot = TrapezoidOf(t);
+    const int group = GroupOf(st.*slot.pv);
+    const double x1 = st.*slot.x1;
+    const double x2 = st.*slot.x2;
     const double q1 = loads.qt1[t];
     const double q2 = loads.qt2[t];
-    if (!Wanted(z.group, variable) || (q1 == 0 && q2 == 0) || z.x2 <= z.x1) continue;
+    if (!Wanted(group, variable) || (q1 == 0 && q2 == 0) || x2 <= x1) continue;
     items.distributed.push_back(
-        {Relative(z.x1, st.L), Relative(z.x2, st.L), q1, q2, z.x1, z.x2, false, kTags[z.group], 0});
+        {Relative(x1, st.L), Relative(x2, st.L), q1, q2, x1, x2, false, kTags[group], 0});
   }
 }
 

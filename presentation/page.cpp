@@ -30,8 +30,8 @@ void PutValue(DrawingTarget& t, double column, double line, std::string_view nam
               std::string_view value, std::string_view unit) {
   PutText(t, column, line, name);
   PutText(t, column + 9.8, line, "=");
-  PutRight(t, column + 20, line, value);
-  PutText(t, column + 21, line, unit);
+  PutRight(t, column + 20.8, line, value);
+  PutText(t, column + 21.6, line, unit);
 }
 
 namespace {
@@ -41,8 +41,7 @@ std::string Two(int v) {
 }
 
 /// Shortens a text with dots until it fits the width.
-std::string Fitted(const DrawingTarget& t, std::string text, double width) {
-  if (t.TextWidth(text) <= width) return text;
+std::string Shortened(const DrawingTarget& t, std::string text, double width) {
   while (!text.empty() && t.TextWidth(text + "...") > width) {
     do {
       text.pop_back();
@@ -53,12 +52,25 @@ std::string Fitted(const DrawingTarget& t, std::string text, double width) {
   return text + "...";
 }
 
+/// Text in a field of the frame: a long one takes smaller letters, and only then loses its end.
+void PutFitted(DrawingTarget& t, double column, double line, const std::string& text,
+               double width) {
+  constexpr double leastLetters = 0.68;
+  const double size = t.FontSize;
+  const double share = std::clamp(width / std::max(t.TextWidth(text), width), leastLetters, 1.0);
+  const double foot = line + t.TextHeight();
+  t.FontSize = size * share;
+  const bool fits = t.TextWidth(text) <= width * 1.0001;
+  const double top = foot - t.TextHeight() - (1 - share) * 0.2 * t.TextHeight();
+  PutText(t, column, top, fits ? text : Shortened(t, text, width));
+  t.FontSize = size;
+}
+
 /// The end of a path matters more than its beginning.
-std::string FittedPath(const DrawingTarget& t, std::string path, double width) {
+std::string FileOf(const DrawingTarget& t, const std::string& path, double width) {
   if (t.TextWidth(path) <= width) return path;
   const auto slash = path.find_last_of("/\\");
-  if (slash != std::string::npos) path = path.substr(slash + 1);
-  return Fitted(t, path, width);
+  return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
 }  // namespace
@@ -81,25 +93,21 @@ double DrawPageFrame(DrawingTarget& t, const Design& d, const ReportTime& time) 
   PutText(t, kMargin + 1, top + 3.3, "Column/Beam program based on NS3472, 3 rd ed");
   PutText(t, kMargin + 1, top + 4.9, "KORVANE");
 
-  const auto field = [&](double column, double line, const char* label, std::string value,
-                         double right, bool path) {
-    PutText(t, column, line, label);
-    const double start = column + 14;
-    const double width = right - start - 1;
-    PutText(t, start, line, path ? FittedPath(t, value, width) : Fitted(t, value, width));
+  const auto field = [&](double column, double line, const char* label, const std::string& value) {
+    PutText(t, first + 1, line, label);
+    PutFitted(t, column, line, value, second - column - 1);
   };
-  field(first + 1, top + 0.8, "Project: ", d.st.iproj, second, false);
-  field(first + 1, top + 2.6, "Identification: ", d.st.iident, second, false);
-  field(first + 1, top + 4.4, "Page:", "1/1", second, false);
-  const auto right = [&](double line, const char* label, const std::string& value, bool path) {
+  field(first + 15, top + 0.8, "Project: ", d.st.iproj);
+  field(first + 15, top + 2.6, "Identification: ", d.st.iident);
+  field(first + 15, top + 4.4, "Page:", "1/1");
+  const auto right = [&](double line, const char* label, const std::string& value) {
     PutText(t, second + 1, line, label);
-    const double width = kRightEdge - second - 9;
-    PutText(t, second + 8, line, path ? FittedPath(t, value, width) : value);
+    PutFitted(t, second + 8, line, value, kRightEdge - second - 9);
   };
   right(top + 0.8,
-        "Date: ", Two(time.day) + "." + Two(time.month) + "." + std::to_string(time.year), false);
-  right(top + 2.6, "Time: ", std::to_string(time.hour) + ":" + Two(time.minute), false);
-  right(top + 4.4, "File: ", d.st.CurrentFileName, true);
+        "Date: ", Two(time.day) + "." + Two(time.month) + "." + std::to_string(time.year));
+  right(top + 2.6, "Time: ", std::to_string(time.hour) + ":" + Two(time.minute));
+  right(top + 4.4, "File: ", FileOf(t, d.st.CurrentFileName, kRightEdge - second - 9));
   return bottom;
 }
 
@@ -126,23 +134,27 @@ void DrawMaterial(DrawingTarget& t, double line, std::string_view heading, const
 
 namespace {
 
-/// The reports print the weight under "g" and the surface under "S".
+/// The reports have names of their own: the weight under "g", the surface under "S".
 std::string_view ReportName(std::string_view name) {
   if (name == "S") return "g";
   if (name == "g") return "S";
   if (name == "e") return "et";
+  if (name == "Ncd") return "Ncrd";
   return name;
 }
 
-double DrawBlock(DrawingTarget& t, double column, double line, const char* heading,
-                 const ShownValues& values) {
-  PutHeading(t, column, line, heading);
-  line += 1.2 * kLineStep;
+double DrawValues(DrawingTarget& t, double column, double line, const ShownValues& values) {
   for (const ShownValue& v : values) {
     PutValue(t, column, line, ReportName(v.name), v.text, v.unit);
     line += kLineStep;
   }
   return line;
+}
+
+double DrawBlock(DrawingTarget& t, double column, double line, const char* heading,
+                 const ShownValues& values) {
+  PutHeading(t, column, line, heading);
+  return DrawValues(t, column, line + 1.2 * kLineStep, values);
 }
 
 const char* DimensionHeading(int type) {
@@ -159,14 +171,14 @@ double DrawSectionValues(DrawingTarget& t, double line, const Design& d) {
   end = std::max(end,
                  DrawBlock(t, kC5, line, hsq ? "Weight and Section property:" : "Section property:",
                            Properties(d.st, d.rec)));
-  double capacity = DrawBlock(t, kC8, line, "Capacity:", Capacities(d.st, d.rec));
-  const std::string sectionClass = ClassText(d.st, d.rec);
-  if (!sectionClass.empty()) {
-    PutText(t, kC8, capacity, "Sectionclass:");
-    PutText(t, kC8 + 12, capacity, sectionClass);
-    capacity += kLineStep;
+  PutHeading(t, kC8, line, "Capacity:");
+  line += 1.2 * kLineStep;
+  if (const std::string sectionClass = ClassText(d.st, d.rec); !sectionClass.empty()) {
+    PutText(t, kC8, line, "Sectionclass:");
+    PutText(t, kC8 + 12, line, sectionClass);
+    line += kLineStep;
   }
-  return std::max(end, capacity);
+  return std::max(end, DrawValues(t, kC8, line, Capacities(d.st, d.rec)));
 }
 
 std::string ProfileLine(const Design& d) {

@@ -8,7 +8,7 @@ namespace {
 
 constexpr double kSmaller = 0.85;  // size of the numbers against that of the labels
 constexpr std::size_t kInOneRow = 8;
-constexpr double kMark = 1.6;  // from the line to the first row
+constexpr double kMark = 0.65;  // from the line to the first row, of the labels' size
 constexpr double kGap = 0.9;   // between two numbers, and the way of a thin line
 
 double RowHeight(double text) {
@@ -78,7 +78,7 @@ void DrawMarks(DiagramSheet& sheet, const std::vector<Number>& numbers, double y
 
 double PositionRowHeight(std::size_t count, double text) {
   if (count == 0) return 0;
-  return text * 0.9 + kMark + RowsFor(count) * RowHeight(text);
+  return text * (0.9 + kMark) + RowsFor(count) * RowHeight(text);
 }
 
 void DrawPositionRow(DiagramSheet& sheet, const std::vector<double>& positions, double L, double y,
@@ -96,13 +96,13 @@ void DrawPositionRow(DiagramSheet& sheet, const std::vector<double>& positions, 
     numbers.push_back(n);
   }
   const double line = y + text * 0.9;
-  const double first = line + kMark;
+  const double first = line + text * kMark;
   DrawMarks(sheet, numbers, line);
   const std::size_t rows = static_cast<std::size_t>(RowsFor(numbers.size()));
   for (std::size_t row = 0; row < rows; ++row) Spread(numbers, row, rows, sheet.Bounds());
   for (std::size_t i = 0; i < numbers.size(); ++i) {
     const Number& n = numbers[i];
-    const Point mark{n.x, line + 0.8};
+    const Point mark{n.x, line + text * kMark / 2};
     sheet.Pen(Role::Quiet, 0.08);
     if (i % rows == 0) {
       t.Line(mark, {n.centre, first});

@@ -3,7 +3,6 @@
 // so that a member with all loads in use stays on one sheet.
 #include <algorithm>
 #include <array>
-#include <tuple>
 #include <vector>
 
 #include "analysis/loads.h"
@@ -13,6 +12,7 @@
 #include "presentation/figures.h"
 #include "presentation/grafik.h"
 #include "presentation/page.h"
+#include "presentation/report_diagrams.h"
 #include "sections/p23bas.h"
 #include "sections/profile_table.h"
 
@@ -23,7 +23,7 @@ namespace {
 // The blocks stand one below the other; what loads and checks leave is the diagrams'.
 constexpr double kSection = 15.0;
 constexpr double kBottom = 86.0;
-constexpr double kLeastDiagrams = 17.0;  ///< lines that the diagrams need
+constexpr double kLeastDiagrams = 21.0;  ///< lines that the diagrams need
 constexpr double kFigureLeft = 103;
 constexpr double kParameters = 90;  ///< left column of the buckling block
 
@@ -79,13 +79,6 @@ std::vector<LoadRow> LoadRows(const ProjectState& st, bool z) {
                     position(st.*tr.x1) + "/" + position(st.*tr.x2), Category(st.*tr.pv)});
   }
   return rows;
-}
-
-/// Whether a direction carries loads of the permanent or of the variable groups.
-bool HasLoads(const ProjectState& st, bool z, bool variable) {
-  const auto rows = LoadRows(st, z);
-  return std::any_of(rows.begin(), rows.end(),
-                     [variable](const LoadRow& r) { return (r.category != "P") == variable; });
 }
 
 void DrawLoadTable(DrawingTarget& t, double column, double line, double step, const char* heading,
@@ -216,50 +209,6 @@ void DrawGeometry(DrawingTarget& t, double line, const Design& d) {
   PutText(t, kParameters, below, options);
 }
 
-// --- Diagrams -----------------------------------------------------------------------------------
-
-void DrawDiagrams(DrawingTarget& t, const Layout& at, const Design& d) {
-  const bool loads = d.st.AnalysisMode == 1;
-  const DiagramData data{d.st, d.beam, d.deflections, d.forces.N};
-  DiagramStyle style;
-  style.text = 3.0;
-  PutHeading(t, kC1, at.diagrams, loads ? "Loading/Moment: (kN/kNm/m)" : "Endforces: (kN/kNm/m)");
-  constexpr double middle = (kC1 + kRightEdge) / 2;
-  const auto draw = [&](DiagramKind kind, double left, double right, double top, double bottom) {
-    DrawDiagramIn(t, kind, Box{left, top, right, bottom}, Destination::Page, data, style);
-  };
-  const double top = at.diagrams + 1.1;
-  const double end = at.checks - 0.4;
-  using K = DiagramKind;
-  if (!loads) {
-    draw(K::AxialForce, kC1, middle - 1, top, top + 4);
-    draw(K::EndMomentZ, kC1, middle - 1, top + 4, end);
-    draw(K::EndMomentY, middle + 1, kRightEdge, top + 4, end);
-    return;
-  }
-  // The load pictures that show something side by side.
-  const double height = end - top;
-  const double loadsEnd = top + 0.25 * height;
-  std::vector<K> pictures;
-  for (const auto& [kind, z, variable] :
-       {std::tuple{K::LoadPermZ, true, false}, std::tuple{K::LoadVarZ, true, true},
-        std::tuple{K::LoadPermY, false, false}, std::tuple{K::LoadVarY, false, true}}) {
-    if (HasLoads(d.st, z, variable)) pictures.push_back(kind);
-  }
-  if (pictures.empty()) pictures.push_back(K::LoadPermZ);
-  const double width =
-      (kRightEdge - kC1) / static_cast<double>(std::max<std::size_t>(pictures.size(), 2));
-  for (std::size_t k = 0; k < pictures.size(); ++k) {
-    const double left = kC1 + static_cast<double>(k) * width;
-    draw(pictures[k], left, left + width - 0.8, top, loadsEnd);
-  }
-  const double shearEnd = loadsEnd + 0.52 * height;
-  draw(K::MomentShearZ, kC1, middle - 1, loadsEnd + 0.2, shearEnd);
-  draw(K::MomentShearY, middle + 1, kRightEdge, loadsEnd + 0.2, shearEnd);
-  draw(K::DeflectionZ, kC1, middle - 1, shearEnd + 0.2, end);
-  draw(K::DeflectionY, middle + 1, kRightEdge, shearEnd + 0.2, end);
-}
-
 // --- Checks -------------------------------------------------------------------------------------
 
 double DrawView(DrawingTarget& t, const View& view, double line, double step) {
@@ -361,7 +310,9 @@ void DrawControlReport(DrawingTarget& t, double line, const Design& d) {
   DrawGeometry(t, at.loads, d);
   const double next = DrawBucklingTable(t, at.loads + 8.0, d);
   DrawLateralParameters(t, next, d);
-  DrawDiagrams(t, at, d);
+  PutHeading(t, kC1, at.diagrams,
+             d.st.AnalysisMode == 1 ? "Loading/Moment: (kN/kNm/m)" : "Endforces: (kN/kNm/m)");
+  DrawReportDiagrams(t, at.diagrams + 1.3, at.checks - 0.4, d);
   DrawChecks(t, checks, at.checks, d);
 }
 
