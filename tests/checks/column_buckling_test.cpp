@@ -279,6 +279,22 @@ TEST(ColumnBuckling, SinglySymmetricTakesTheSmallerModulusAndAStandingLateralFac
   EXPECT_NEAR(bench.out.IRcombinedZ, 1.2982055 + 0.25 * 50 / 125, 1e-6);
 }
 
+// These sections write a class for each side and none for the whole: the plastic reserve goes by
+// the class that another section left.
+TEST(ColumnBuckling, SinglySymmetricReadsTheClassThatStands) {
+  CheckBench bench = Column(22, Kind::SingleSymmetric, BucklingKind::SingleSymmetric);
+  bench.rec.Wely1 = bench.rec.Wely2 = 1E6;
+  bench.rec.classTop = bench.rec.classBottom = 4;
+  bench.beam.MyAbsMax = 50;
+  bench.f.N = 100;
+  bench.rec.class_ = 2;
+  bench.ControlBuckling();
+  EXPECT_NEAR(bench.buckling.ky, 1 + 0.7961207 * 100 / 0.8088371 / 880, 1e-6);
+  bench.rec.class_ = 3;
+  bench.ControlBuckling();
+  EXPECT_NEAR(bench.buckling.ky, 1 + 0.9161207 * 100 / 0.8088371 / 880, 1e-6);
+}
+
 TEST(ColumnBuckling, SinglySymmetricWithoutMyIsPureCompression) {
   CheckBench bench = Column(22, Kind::SingleSymmetric, BucklingKind::SingleSymmetric);
   bench.rec.Wely1 = bench.rec.Wely2 = 1E6;

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <numbers>
 
 #include "tests/data/row_check.h"
 #include "tests/support/exact_shape.h"
@@ -86,17 +85,6 @@ TEST(AngleRows, StiffenerAnglesHaveAThickShortLegAndHalfTheRadiusAtTheToes) {
     EXPECT_DOUBLE_EQ(t(row, 6), t(row, 5) / 2);               // r2, r1
     EXPECT_LT(t(row, 3) + t(row, 5) + t(row, 6), t(row, 2));  // room on the leg
   }
-}
-
-// A bulb flat: the flat, a nose rounded with r above and below, and an under face that rises 30
-// degrees towards the nose, filleted with r at the flat.
-Shape MakeBulbFlat(double h, double t, double bulb, double r) {
-  const double slope = std::tan(std::numbers::pi / 6);
-  const double under = r / std::cos(std::numbers::pi / 6);
-  const double nose = h - r - under + r * slope;
-  const double root = h - r - under - (bulb - r) * slope;
-  return Shape({Rounded(
-      {{0, 0, 0}, {t, 0, 0}, {t, root, r}, {t + bulb, nose, r}, {t + bulb, h, r}, {0, h, 0}})});
 }
 
 TEST(BulbFlatRows, AreasAgreeWithTheOutline) {

@@ -2,6 +2,9 @@
 // A section of one family through all its steps on the real data.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <cmath>
 #include <memory>
 #include <string>
 
@@ -13,6 +16,14 @@ namespace korvane::testing {
 inline std::shared_ptr<const Library> TheLibrary() {
   static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
   return library;
+}
+
+/// Design strength of the sections below, MPa.
+constexpr double kFd = 355 / 1.1;
+
+/// Within what single precision holds of a figure that was worked out in six digits or more.
+inline void ExpectClose(double value, double expected, const char* what) {
+  EXPECT_NEAR(value, expected, std::fabs(expected) * 1e-5) << what;
 }
 
 /// The steps of ComputeSection for a state, without a member around it.

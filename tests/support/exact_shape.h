@@ -109,6 +109,7 @@ class Shape {
 public:
   explicit Shape(std::vector<Loop> loops) : loops_(std::move(loops)), whole_(Sum(loops_)) {}
 
+  const std::vector<Loop>& Loops() const { return loops_; }
   double A() const { return whole_.A; }
   double Cx() const { return whole_.Sy / whole_.A; }
   double Cy() const { return whole_.Sx / whole_.A; }
@@ -155,9 +156,11 @@ private:
   static double PlasticModulus(const std::vector<Loop>& loops) {
     double low = loops[0][0].y;
     double high = low;
-    for (const Point& p : loops[0]) {
-      low = std::min(low, p.y);
-      high = std::max(high, p.y);
+    for (const Loop& loop : loops) {
+      for (const Point& p : loop) {
+        low = std::min(low, p.y);
+        high = std::max(high, p.y);
+      }
     }
     const Moments all = Sum(loops);
     for (int i = 0; i < 60; ++i) {
@@ -229,6 +232,22 @@ inline Shape MakeHollow(double h, double b, double t, double ro, double ri) {
 /// An angle with its heel at the origin, the leg h upwards and the leg b to the right.
 inline Shape MakeAngle(double h, double b, double t, double r, double toe) {
   return Shape({Rounded({{0, 0, 0}, {b, 0, 0}, {b, t, toe}, {t, t, r}, {t, h, toe}, {0, h, 0}})});
+}
+
+/// A bulb flat standing on its bulb at the origin: the flat, a nose rounded with r below and above,
+/// and an upper face that falls 30 degrees towards the nose, filleted with r at the flat.
+inline Shape MakeBulbFlat(double h, double t, double bulb, double r) {
+  const double pi = std::acos(-1.0);
+  const double under = r / std::cos(pi / 6);
+  const double nose = r + under - r * std::tan(pi / 6);
+  const double root = r + under + (bulb - r) * std::tan(pi / 6);
+  return Shape({Rounded(
+      {{0, 0, 0}, {t + bulb, 0, r}, {t + bulb, nose, r}, {t, root, r}, {t, h, 0}, {0, h, 0}})});
+}
+
+/// A rectangle with its lower left corner at (x, y).
+inline Loop Rectangle(double width, double height, double x, double y) {
+  return {{x, y}, {x + width, y}, {x + width, y + height}, {x, y + height}};
 }
 
 }  // namespace korvane::testing
