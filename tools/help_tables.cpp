@@ -310,7 +310,7 @@ constexpr const char* kHead = R"(<!DOCTYPE html>
 <meta charset="utf-8">
 <meta name="viewport" content="width=device-width, initial-scale=1">
 <title>All inputs</title>
-<link rel="stylesheet" href="help.css">
+<link rel="stylesheet" type="text/css" href="help.css">
 </head>
 <body>
 <p class="top"><a href="index.html">Contents</a></p>
