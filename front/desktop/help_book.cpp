@@ -14,10 +14,8 @@ namespace korvane {
 
 namespace {
 
-constexpr const char* kStart = "index.html";
-
 bool HasBook(const QString& folder) {
-  return QFileInfo(QDir(folder).filePath(QString::fromUtf8(kStart))).isFile();
+  return QFileInfo(QDir(folder).filePath(HelpBook::Start())).isFile();
 }
 
 /// Text of an HTML fragment without its tags.
@@ -68,7 +66,7 @@ HelpBook::HelpBook(QString folder) : folder_(std::move(folder)) {
   static const QRegularExpression entry(
       QStringLiteral("<h2>(?<group>.*?)</h2>|<li><a href=\"(?<file>[^\"#]+)\">(?<title>.*?)</a>"));
   QString group;
-  auto it = entry.globalMatch(Html(QString::fromUtf8(kStart)));
+  auto it = entry.globalMatch(Html(HelpBook::Start()));
   while (it.hasNext()) {
     const auto match = it.next();
     if (match.hasCaptured(u"file")) {

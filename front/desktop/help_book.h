@@ -31,6 +31,8 @@ QString FindHelpFolder();
 class HelpBook {
 public:
   explicit HelpBook(QString folder);
+  /// The page of the contents.
+  static QString Start() { return QStringLiteral("index.html"); }
   bool Exists() const { return !pages_.isEmpty(); }
   const QString& Folder() const { return folder_; }
   const QList<HelpPage>& Pages() const { return pages_; }

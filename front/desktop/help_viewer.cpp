@@ -6,11 +6,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
-#include <QHeaderView>
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -26,17 +24,14 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "front/desktop/form_window.h"
-#include "front/desktop/main_window.h"
 #include "front/desktop/theme.h"
 
 namespace korvane {
 
 namespace {
 
-constexpr const char* kStartPage = "index.html";
 /// Drawings are shown no wider, logical pixels.
-constexpr double kWidest = 700;
+constexpr double kWidest = 660;
 
 QSettings Store() {
   return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Korvane_ns"),
@@ -241,7 +236,7 @@ QWidget* HelpViewer::Reader() {
   forward->setEnabled(false);
   QAction* start = bar->addAction(tr("Contents"));
   start->setShortcut(QKeySequence(QStringLiteral("Alt+Home")));
-  connect(start, &QAction::triggered, this, [this] { ShowPage(QString::fromUtf8(kStartPage)); });
+  connect(start, &QAction::triggered, this, [this] { ShowPage(HelpBook::Start()); });
   connect(page_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
   connect(page_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
   connect(page_, &QTextBrowser::sourceChanged, this, &HelpViewer::FollowPage);
@@ -373,55 +368,6 @@ void HelpViewer::closeEvent(QCloseEvent* event) {
   store.setValue(QStringLiteral("Help/geometry"), saveGeometry());
   store.setValue(QStringLiteral("Help/split"), split_->saveState());
   event->accept();
-}
-
-// --- Desk ---------------------------------------------------------------------------------------
-
-HelpDesk::HelpDesk(MainWindow& window, const QString& folder) : window_(window), book_(folder) {
-  auto* key = new QAction(this);
-  key->setShortcut(QKeySequence(Qt::Key_F1));
-  key->setShortcutContext(Qt::ApplicationShortcut);
-  connect(key, &QAction::triggered, this, &HelpDesk::OpenAtForm);
-  window_.addAction(key);
-  if (QAction* contents = window_.ActionOf("mnuhelpcont")) {
-    contents->setText(contents->text() + QStringLiteral("\tF1"));
-  }
-  if (QAction* search = window_.ActionOf("mnuhelpsearch")) {
-    connect(search, &QAction::triggered, this, [this] { wantsSearch_ = true; });
-  }
-}
-
-HelpDesk::~HelpDesk() = default;
-
-void HelpDesk::OpenFile(const QString&) {
-  Open(QString::fromUtf8(kStartPage));
-  if (viewer_ != nullptr && wantsSearch_) viewer_->FocusSearch();
-  wantsSearch_ = false;
-}
-
-void HelpDesk::OpenAtForm() {
-  const QString place = book_.PlaceOfForm(FormInFront());
-  Open(place.isEmpty() ? QString::fromUtf8(kStartPage) : place);
-}
-
-QString HelpDesk::FormInFront() const {
-  const auto* form = qobject_cast<const FormWindow*>(QApplication::activeWindow());
-  return form != nullptr ? form->objectName() : window_.objectName();
-}
-
-void HelpDesk::Open(const QString& place) {
-  if (!book_.Exists()) {
-    auto* box = new QMessageBox(
-        QMessageBox::Warning, QApplication::applicationDisplayName(),
-        tr("The help book was not found. It belongs into the folder share/korvane/help beside "
-           "the program's own folder; installing the program again puts it there."),
-        QMessageBox::Ok, &window_);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
-    return;
-  }
-  if (viewer_ == nullptr) viewer_ = std::make_unique<HelpViewer>(book_);
-  viewer_->Open(place);
 }
 
 }  // namespace korvane

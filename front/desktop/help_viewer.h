@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The window of the help book, and the desk that opens it for commands and for F1.
+// The window of the help book.
 #pragma once
 
 #include <QTextBrowser>
 #include <QWidget>
-#include <memory>
 
 #include "front/desktop/help_book.h"
 
@@ -15,8 +14,6 @@ class QStackedWidget;
 class QTreeWidget;
 
 namespace korvane {
-
-class MainWindow;
 
 /// One page of the book. Drawings come as sharp as the screen is.
 class HelpPageView : public QTextBrowser {
@@ -59,32 +56,6 @@ private:
   QTreeWidget* contents_ = nullptr;
   QListWidget* results_ = nullptr;
   HelpPageView* page_ = nullptr;
-};
-
-/// Opens the book: at its start for the commands of the Help menu, and with F1 at the page of
-/// the form that is in front.
-class HelpDesk : public QObject {
-  Q_OBJECT
-
-public:
-  HelpDesk(MainWindow& window, const QString& folder);
-  ~HelpDesk() override;
-  /// Null until the book was opened.
-  HelpViewer* viewer() { return viewer_.get(); }
-
-public slots:
-  /// The platform was asked for a help file; the book takes its place whatever its name is.
-  void OpenFile(const QString& file);
-  void OpenAtForm();
-
-private:
-  void Open(const QString& place);
-  QString FormInFront() const;
-
-  MainWindow& window_;
-  HelpBook book_;
-  std::unique_ptr<HelpViewer> viewer_;
-  bool wantsSearch_ = false;
 };
 
 }  // namespace korvane

@@ -12,7 +12,7 @@
 #include "front/console/script.h"
 #include "front/desktop/desktop.h"
 #include "front/desktop/desktop_platform.h"
-#include "front/desktop/help_viewer.h"
+#include "front/desktop/help_desk.h"
 #include "front/desktop/main_window.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"

@@ -12,6 +12,7 @@
 #include <QTreeWidget>
 
 #include "front/desktop/desktop_platform.h"
+#include "front/desktop/help_desk.h"
 #include "front/desktop/help_viewer.h"
 #include "sections/profile_table.h"
 #include "tests/desktop/desktop_fixture.h"
