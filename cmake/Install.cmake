@@ -27,6 +27,7 @@ install(FILES ${KORVANE_CHANGELOG} DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 if(TARGET korvane)
   install(TARGETS korvane RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(DIRECTORY docs/help DESTINATION ${CMAKE_INSTALL_DATADIR}/korvane)
   install(FILES packaging/korvane.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
   install(FILES packaging/korvane-mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
     RENAME korvane.xml)

@@ -12,6 +12,7 @@
 #include "front/console/script.h"
 #include "front/desktop/desktop.h"
 #include "front/desktop/desktop_platform.h"
+#include "front/desktop/help_desk.h"
 #include "front/desktop/main_window.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
@@ -45,6 +46,10 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
   platform.SetWindow(&desktop.window());
   QObject::connect(&platform, &DesktopPlatform::Progressed, &desktop.window(),
                    &MainWindow::ShowProgress);
+  HelpDesk help(desktop.window(), FindHelpFolder());
+  // The book opens when the command that asked for it is over.
+  QObject::connect(&platform, &DesktopPlatform::HelpWanted, &help, &HelpDesk::OpenFile,
+                   Qt::QueuedConnection);
   QObject::connect(&desktop, &Desktop::Ended, &app, [&app] {
     app.closeAllWindows();
     app.quit();

@@ -34,8 +34,8 @@ struct Shortcut {
 constexpr Shortcut kShortcuts[] = {
     {"mnunew", "Ctrl+N"},           {"mnuopen", "Ctrl+O"},          {"mnusave", "Ctrl+S"},
     {"mnusaveas", "Ctrl+Shift+S"},  {"mnuprint11", "Ctrl+P"},       {"mnuexit", "Ctrl+Q"},
-    {"mnuhelpcont", "F1"},          {"mnurecentfile(1)", "Ctrl+1"}, {"mnurecentfile(2)", "Ctrl+2"},
-    {"mnurecentfile(3)", "Ctrl+3"}, {"mnurecentfile(4)", "Ctrl+4"}};
+    {"mnurecentfile(1)", "Ctrl+1"}, {"mnurecentfile(2)", "Ctrl+2"}, {"mnurecentfile(3)", "Ctrl+3"},
+    {"mnurecentfile(4)", "Ctrl+4"}};
 
 }  // namespace
 

@@ -24,7 +24,9 @@ public:
     FieldRule rule = Bind(member, format);
     rule.limit = std::move(limit);
     rule.then = CalculateAfter;
-    controls_.push_back(Input(name, std::string(letter) + " =", std::move(rule), unit));
+    const std::string words = letter;
+    const std::string caption = words.back() == ':' ? words : words + " =";
+    controls_.push_back(Input(name, caption, std::move(rule), unit));
     return *this;
   }
 

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "front/desktop/help_desk.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMessageBox>
+
+#include "front/desktop/form_window.h"
+#include "front/desktop/help_viewer.h"
+#include "front/desktop/main_window.h"
+
+namespace korvane {
+
+HelpDesk::HelpDesk(MainWindow& window, const QString& folder) : window_(window), book_(folder) {
+  auto* key = new QAction(this);
+  key->setShortcut(QKeySequence(Qt::Key_F1));
+  key->setShortcutContext(Qt::ApplicationShortcut);
+  connect(key, &QAction::triggered, this, &HelpDesk::OpenAtForm);
+  window_.addAction(key);
+  if (QAction* contents = window_.ActionOf("mnuhelpcont")) {
+    contents->setText(contents->text() + QStringLiteral("\tF1"));
+  }
+  if (QAction* search = window_.ActionOf("mnuhelpsearch")) {
+    connect(search, &QAction::triggered, this, [this] { wantsSearch_ = true; });
+  }
+}
+
+HelpDesk::~HelpDesk() = default;
+
+void HelpDesk::OpenFile(const QString&) {
+  Open(HelpBook::Start());
+  if (viewer_ != nullptr && wantsSearch_) viewer_->FocusSearch();
+  wantsSearch_ = false;
+}
+
+void HelpDesk::OpenAtForm() {
+  const QString place = book_.PlaceOfForm(FormInFront());
+  Open(place.isEmpty() ? HelpBook::Start() : place);
+}
+
+QString HelpDesk::FormInFront() const {
+  const auto* form = qobject_cast<const FormWindow*>(QApplication::activeWindow());
+  return form != nullptr ? form->objectName() : window_.objectName();
+}
+
+void HelpDesk::Open(const QString& place) {
+  if (!book_.Exists()) {
+    auto* box = new QMessageBox(
+        QMessageBox::Warning, QApplication::applicationDisplayName(),
+        tr("The help book was not found. It belongs into the folder share/korvane/help beside "
+           "the program's own folder; installing the program again puts it there."),
+        QMessageBox::Ok, &window_);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+    return;
+  }
+  if (viewer_ == nullptr) viewer_ = std::make_unique<HelpViewer>(book_);
+  viewer_->Open(place);
+}
+
+}  // namespace korvane
