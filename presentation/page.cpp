@@ -135,17 +135,23 @@ void DrawMaterial(DrawingTarget& t, double line, std::string_view heading, const
 namespace {
 
 /// The reports have names of their own: the weight under "g", the surface under "S".
-std::string_view ReportName(std::string_view name) {
+std::string_view ReportName(std::string_view name, bool areas) {
   if (name == "S") return "g";
   if (name == "g") return "S";
   if (name == "e") return "et";
   if (name == "Ncd") return "Ncrd";
+  if (areas && name == "A") return "Ax";
+  if (name == "Avy") return "Ay";
+  if (name == "Avz") return "Az";
   return name;
 }
 
 double DrawValues(DrawingTarget& t, double column, double line, const ShownValues& values) {
+  // Where the shear areas are listed, the area has its direction too.
+  const bool areas = std::any_of(values.begin(), values.end(),
+                                 [](const ShownValue& v) { return v.name == "Avy"; });
   for (const ShownValue& v : values) {
-    PutValue(t, column, line, ReportName(v.name), v.text, v.unit);
+    PutValue(t, column, line, ReportName(v.name, areas), v.text, v.unit);
     line += kLineStep;
   }
   return line;
