@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
+#include <utility>
 
 #include "sections/section_sum.h"
 
@@ -42,7 +44,9 @@ TEST(InternalElement, MoreThanHalfCompressedTakesTheOtherBranch) {
   // s1 = -3, s2 = 1: alpha = 0.75, psi = -1/3: 396/(13*0.75 - 1) = 45.257.
   const auto of = [](double w) { return InternalClass(-3, 1, w, 1, ZeroStress::Mixed); };
   EXPECT_EQ(of(396 / 8.75), 1);
+  EXPECT_EQ(of(396 / 8.75 + 1e-6), 2);
   EXPECT_EQ(of(456 / 8.75), 2);
+  EXPECT_EQ(of(456 / 8.75 + 1e-6), 3);
   EXPECT_EQ(of(126 / (2 - 1.0 / 3)), 3);
   EXPECT_EQ(of(126 / (2 - 1.0 / 3) + 1e-6), 4);
 }
@@ -53,6 +57,23 @@ TEST(InternalElement, AZeroEdgeIsCompressedForAnIWebAndMixedForABox) {
   EXPECT_EQ(InternalClass(-1, 0, 33, 1, ZeroStress::Mixed), 1);
   EXPECT_EQ(InternalClass(-1, 0, 63, 1, ZeroStress::Compressed), 4);
   EXPECT_EQ(InternalClass(-1, 0, 63, 1, ZeroStress::Mixed), 3);
+}
+
+TEST(InternalElement, LessThanHalfCompressedReachesFurther) {
+  // s1 = -1, s2 = 3: alpha = 0.25, psi = -3: 144, 166 and 62*4*sqrt(3) = 429.5.
+  const auto of = [](double w) { return InternalClass(-1, 3, w, 1, ZeroStress::Compressed); };
+  EXPECT_EQ(of(144), 1);
+  EXPECT_EQ(of(144.001), 2);
+  EXPECT_EQ(of(166), 2);
+  EXPECT_EQ(of(166.001), 3);
+  EXPECT_EQ(of(62 * 4 * std::sqrt(3.0)), 3);
+  EXPECT_EQ(of(429.6), 4);
+}
+
+TEST(InternalElement, CompressionThatFallsOffReachesFurtherInClassThree) {
+  // psi = 0.5: 126/2.5 = 50.4, strict.
+  EXPECT_EQ(InternalClass(-2, -1, 50.39, 1, ZeroStress::Compressed), 3);
+  EXPECT_EQ(InternalClass(-2, -1, 50.4, 1, ZeroStress::Compressed), 4);
 }
 
 TEST(Outstand, RolledAndWeldedLimits) {
@@ -77,6 +98,26 @@ TEST(Outstand, UnderAGradientClassOneCarriesNoAlpha) {
   // psi = -1: k = 0.57 + 0.21 + 0.07 = 0.85; 23*sqrt(0.85) = 21.205, below the class 2 limit.
   EXPECT_EQ(OutstandClass(-1, 1, 22, 1, kRolledOutstand), 4);
   EXPECT_EQ(OutstandClass(0, 1, 99, 1, kRolledOutstand), 1);
+}
+
+TEST(Outstand, ThirdClassUnderAGradientGoesByTheBucklingFactor) {
+  // Tip -4, root 1: psi = -0.25: k = 0.57 + 0.0525 + 0.004375; class 2 to 11/0.8 = 13.75.
+  const double k = 0.626875;
+  for (const auto& [limits, second, third] :
+       {std::tuple{kRolledOutstand, 13.75, 23 * std::sqrt(k)},
+        std::tuple{kWeldedOutstand, 12.5, 21 * std::sqrt(k)}}) {
+    const auto of = [&](double f) { return OutstandClass(-4, 1, f, 1, limits); };
+    EXPECT_EQ(of(second - kJust), 2);
+    EXPECT_EQ(of(second + kJust), 3);
+    EXPECT_EQ(of(third), 3);
+    EXPECT_EQ(of(third + kJust), 4);
+  }
+}
+
+TEST(Outstand, ATipWithoutStressIsAsGoodAsItsBucklingFactor) {
+  // psi = 0 where the tip has none: k = 0.57, and alpha 0 puts no limit on class 2.
+  EXPECT_EQ(OutstandClass(0, -1, 9.9, 1, kRolledOutstand), 1);
+  EXPECT_EQ(OutstandFactor(0), 0.57);
 }
 
 TEST(EffectiveWidth, BeginsAboveASlendernessOf0673) {
@@ -131,6 +172,49 @@ TEST(Shear, WebStiffenersRaiseTheBucklingFactor) {
   const double lam = 129.6 / 37.4 / std::sqrt(k);
   const double plastic = 800 * 235 / std::sqrt(3.0) / 1000;
   EXPECT_NEAR(WorkingShear(st, {1000, 800, 1296, 129.6}, area), plastic * 0.83 / lam, 1e-6);
+}
+
+TEST(Shear, WebStiffenersCloserThanTheDepthHaveTheOtherFactor) {
+  ProjectState st = Steel();
+  st.WebStiffener = 1;
+  float32 area;
+  const double plastic = 800 * 235 / std::sqrt(3.0) / 1000;
+  for (const auto& [a, k] : {std::pair{648., 4 + 5.34 * 4}, std::pair{2592., 5.34 + 4 * 0.25}}) {
+    st.a_webstiff = a;
+    const double lam = 200 / 37.4 / std::sqrt(k);
+    EXPECT_NEAR(WorkingShear(st, {1000, 800, 1296, 200}, area), plastic * 0.83 / lam, 1e-6);
+    // The stocky limit: 31*sqrt(k)/1.2.
+    const double limit = 31 * std::sqrt(k) / 1.2;
+    WorkingShear(st, {1000, 800, 1296, limit * 0.999}, area);
+    EXPECT_EQ(double(area), 1000);
+    WorkingShear(st, {1000, 800, 1296, limit * 1.001}, area);
+    EXPECT_EQ(double(area), 800);
+  }
+}
+
+TEST(Shear, StiffEndsCountFromASlendernessOf108) {
+  ProjectState st = Steel();
+  float32 area;
+  const double plastic = 800 * 235 / std::sqrt(3.0) / 1000;
+  const auto chi = [&](double lam) {
+    return WorkingShear(st, {1000, 800, 500, lam * 86.4}, area) / plastic;
+  };
+  for (const int stiff : {0, 1}) {
+    st.EndStiffener = stiff;
+    EXPECT_NEAR(chi(0.699), 0.83 / 0.699, 1e-9);
+    EXPECT_NEAR(chi(1.07), 0.83 / 1.07, 1e-9);
+    EXPECT_NEAR(chi(1.09), stiff == 1 ? 1.37 / 1.79 : 0.83 / 1.09, 1e-9);
+  }
+}
+
+TEST(Shear, AStiffenedWallJustBeyondStockyTakesEta) {
+  // Between 31/37.4/1.2 = 0.6907 and 0.83/1.2 = 0.6917.
+  ProjectState st = Steel();
+  st.WebStiffener = 1;
+  st.a_webstiff = 500.0;
+  float32 area;
+  const double V = WorkingShear(st, {1000, 800, 500, 0.6912 * 37.4 * std::sqrt(9.34)}, area);
+  EXPECT_NEAR(V, 800 * 1.2 * 235 / std::sqrt(3.0) / 1000, 1e-9);
 }
 
 TEST(SectionSum, OneRectangle) {
