@@ -9,11 +9,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <optional>
 #include <set>
 
-#include "analysis/loads.h"
-#include "random_states.h"
+#include "designs.h"
+#include "random_runs.h"
 #include "walk_results.h"
 
 namespace korvane {
@@ -23,11 +22,6 @@ int DesignsPerFamily() {
   const char* wish = std::getenv("KORVANE_LONG");
   const int count = wish == nullptr ? 0 : std::atoi(wish);
   return count <= 0 ? 300 : count == 1 ? 10000 : count;
-}
-
-const std::shared_ptr<const Library>& SharedLibrary() {
-  static const std::shared_ptr<const Library> library = ReadLibrary(KORVANE_SOURCE_DIR "/data");
-  return library;
 }
 
 /// Ends the process with a word when one design takes longer than ten seconds.
@@ -46,26 +40,6 @@ public:
 private:
   inline static char text_[80];
 };
-
-/// Runs what opening a project runs; returns the step of an arithmetic failure. Anything else
-/// that is thrown is the test's failure.
-std::optional<std::string> RunDesign(Design& d, unsigned seed, int profileType) {
-  StartDesign(d);
-  Calculate(d);
-  RandomState(seed, profileType, d.st);
-  if (seed % 2 == 0) NormaliseLoads(d.st);
-  try {
-    SetMaterial(d.lib->materials, d.rec.tmax, d.st);
-    Calculate(d);
-    Calculate(d);
-    MaxIR(d.checks);
-  } catch (const CalculationFault& fault) {
-    return fault.Step();
-  } catch (const ArithmeticFault& fault) {
-    return fault.what();
-  }
-  return std::nullopt;
-}
 
 /// All numbers and texts of a design folded into one number (FNV-1a), and the first result that
 /// is no number or shows one.
@@ -107,11 +81,11 @@ TEST_P(RandomDesigns, GiveNumbersOrAnArithmeticFault) {
   for (int i = 0; i < count; ++i) {
     const unsigned seed = 100000U * static_cast<unsigned>(GetParam()) + static_cast<unsigned>(i);
     const Watchdog watchdog(seed);
-    Design first(SharedLibrary());
+    Design first(SourceLibrary());
     const auto fault = RunDesign(first, seed, GetParam());
     const Digest digest = DigestOf(first, !fault);
     ASSERT_EQ(digest.wrong, "") << "seed " << seed;
-    Design second(SharedLibrary());
+    Design second(SourceLibrary());
     ASSERT_EQ(RunDesign(second, seed, GetParam()), fault) << "seed " << seed;
     ASSERT_EQ(DigestOf(second, !fault).hash, digest.hash) << "seed " << seed;
     family.Add(&digest.hash, sizeof digest.hash);
@@ -138,7 +112,7 @@ TEST(RandomStates, ReachAllWaysOfAMember) {
   int passing = 0;
   int failing = 0;
   for (unsigned seed = 0; seed < 200; ++seed) {
-    Design d(SharedLibrary());
+    Design d(SourceLibrary());
     if (RunDesign(d, seed, 4)) continue;
     supports.insert(d.st.SupportType);
     modes.insert(d.st.AnalysisMode);
