@@ -151,6 +151,7 @@ private:
   void Mismatch(const Place& place);
   void Push(const std::string& name);
   void Promote(const std::string& name);
+  void PromoteEntry(int entry);
   void AfterOpen();
   bool ReadInto(const std::string& path);
 
