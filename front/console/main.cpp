@@ -167,5 +167,10 @@ int main(int argc, char** argv) {
     std::cerr << error.what() << "\n";
     return kBadInput;
   }
+  // A full disk under the output shows here at the latest.
+  if (!std::cout.flush() || std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    std::cerr << "can't write to the standard output\n";
+    return kBadInput;
+  }
   return status;
 }
