@@ -51,6 +51,7 @@ struct Control {
   std::function<int(const Session&)> selected;
   std::function<void(Session&)> click;
   std::function<void(Session&, int)> select;
+  std::function<void(Session&)> returnKey;  ///< of a picture that knows the Return key
   std::function<bool(const Session&)> enabled;
   std::function<bool(const Session&)> visible;
   std::string unit;

@@ -97,6 +97,7 @@ void Session::FocusField(const std::string& control) {
   const Place place = Find(control);
   if (place.control->kind != Kind::Input) return;
   focus_ = place.key;
+  ++focusings_;
   fields_[place.key].green = true;
 }
 
@@ -114,8 +115,7 @@ void Session::Mismatch(const Place& place) {
   fields_[place.key].green = true;
 }
 
-bool Session::Accept(const Place& place) {
-  const FieldRule& rule = place.control->field;
+bool Session::Accept(const Place& place, const FieldRule& rule) {
   FieldState& field = fields_[place.key];
   if (!rule.store) {  // free text; project and identification are read on saving only
     if (rule.keep) rule.keep(st(), field.text);
@@ -142,10 +142,14 @@ bool Session::Accept(const Place& place) {
 }
 
 bool Session::Leave(const std::string& control) {
+  return LeaveBy(control, Find(control).control->field);
+}
+
+bool Session::LeaveBy(const std::string& control, const FieldRule& rule) {
   const Place place = Find(control);
   if (place.control->kind != Kind::Input) return true;
   try {
-    if (!Accept(place)) {
+    if (!Accept(place, rule)) {
       fields_[place.key].green = true;
       return false;
     }
@@ -170,6 +174,7 @@ bool Session::Enter(const std::string& control, const std::string& text) {
 
 void Session::Return(const std::string& control) {
   const Place place = Find(control);
+  if (place.control->returnKey && Enabled(place.key)) place.control->returnKey(*this);
   if (place.control->kind != Kind::Input) return;
   if (!Leave(place.key) || !focus_.empty()) return;
   const std::vector<Control>& all = place.form->controls;
@@ -267,6 +272,11 @@ void Session::Calculate() {
     RunCalculation();
     throw;
   }
+  // The material step chose the stress by the thickness of the section in force. A field in use
+  // keeps its colour.
+  const bool green = Green("korvane.ifyk");
+  Refill("korvane", "ifyk");
+  fields_["korvane.ifyk"].green = green;
   RunCalculation();
 }
 

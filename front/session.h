@@ -53,7 +53,10 @@ public:
   bool Leave(const std::string& control);
   /// FocusField, Type and Leave.
   bool Enter(const std::string& control, const std::string& text);
-  /// The Return key in a field: leaves it and focuses the next field of the form.
+  /// Leaving a field by another rule than its own, as the Return key of a picture does.
+  bool LeaveBy(const std::string& control, const FieldRule& rule);
+  /// The Return key in a field: leaves it and focuses the next field of the form. On a picture
+  /// that knows the key, what that says.
   void Return(const std::string& control);
   void Click(const std::string& control);
   void Select(const std::string& control, int index);
@@ -73,6 +76,8 @@ public:
   const std::vector<std::string>& OpenForms() const { return open_; }
   bool IsOpen(const std::string& form) const;
   const std::string& FocusedField() const { return focus_; }
+  /// Counts how often a field was given the focus, so that an owner sees whether one was.
+  int Focusings() const { return focusings_; }
   bool Ended() const { return ended_; }
   /// Counts the calculations, so that an owner sees whether one ran.
   int Calculations() const { return calculations_; }
@@ -142,10 +147,11 @@ private:
 
   Place Find(const std::string& control) const;
   void RunCalculation();
-  bool Accept(const Place& place);
+  bool Accept(const Place& place, const FieldRule& rule);
   void Mismatch(const Place& place);
   void Push(const std::string& name);
   void Promote(const std::string& name);
+  void PromoteEntry(int entry);
   void AfterOpen();
   bool ReadInto(const std::string& path);
 
@@ -161,6 +167,7 @@ private:
   std::string focus_;
   std::string title_;
   int calculations_ = 0;
+  int focusings_ = 0;
   bool ended_ = false;
 };
 

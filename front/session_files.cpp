@@ -37,16 +37,18 @@ void Session::Push(const std::string& name) {
 }
 
 void Session::Promote(const std::string& name) {
-  int at = 0;
-  for (int k = kRecentFiles; k >= 1; --k) {
-    if (RecentFile(k) == name) at = k;
+  for (int k = 1; k <= kRecentFiles; ++k) {
+    if (RecentFile(k) == name) {
+      PromoteEntry(k);
+      return;
+    }
   }
-  if (at == 1) return;
-  if (at == 0) {
-    Push(name);
-    return;
-  }
-  for (int k = at; k > 1; --k) platform_.SetSetting(Key(k), RecentFile(k - 1));
+  Push(name);
+}
+
+void Session::PromoteEntry(int entry) {
+  const std::string name = RecentFile(entry);
+  for (int k = entry; k > 1; --k) platform_.SetSetting(Key(k), RecentFile(k - 1));
   platform_.SetSetting(Key(1), name);
 }
 
@@ -106,7 +108,8 @@ void Session::OpenRecent(int entry) {
   st().CurrentDir = FolderOf(path);
   st().CurrentFileName = path;
   title_ = "KORVANE-NS3472: " + path;
-  Promote(path);
+  // The menu knows the position, also of a name that stands in the list twice.
+  PromoteEntry(entry);
   if (ReadInto(path)) AfterOpen();
 }
 

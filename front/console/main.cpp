@@ -21,10 +21,6 @@ namespace {
 
 using namespace korvane;
 
-bool ColourWanted() {
-  return isatty(STDOUT_FILENO) && std::getenv("NO_COLOR") == nullptr;
-}
-
 int RunDesign(const std::string& file, const std::string& data, bool json) {
   Design design = StartedDesign(ReadLibrary(FindDataFolder(data)));
   const DesignRun run = RunProject(design, file);
@@ -109,7 +105,8 @@ int RunSession(const std::string& script, const std::string& decimal, const std:
   const bool comma = decimal.empty() ? LocaleWritesComma() : decimal == "comma";
   if (script.empty()) return RunScript(library, comma, std::cin, std::cout, std::cerr);
   std::ifstream file(script);
-  if (!file) {
+  file.peek();  // a folder opens, but can't be read
+  if (!file.is_open() || file.bad()) {
     std::cerr << "can't find file - " << script << "\n";
     return kBadInput;
   }
@@ -168,6 +165,11 @@ int main(int argc, char** argv) {
     return kBadInput;
   } catch (const std::exception& error) {
     std::cerr << error.what() << "\n";
+    return kBadInput;
+  }
+  // A full disk under the output shows here at the latest.
+  if (!std::cout.flush() || std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    std::cerr << "can't write to the standard output\n";
     return kBadInput;
   }
   return status;

@@ -11,6 +11,7 @@
 
 #include "front/console/design_json.h"
 #include "front/console/exit_status.h"
+#include "front/console/nearest.h"
 #include "front/session.h"
 
 namespace korvane {
@@ -37,6 +38,8 @@ public:
   }
   void OpenHelp(const std::string& topic) override { out_ << "help: " << topic << "\n"; }
   void Answer(std::optional<std::string> path) { answers_.push_back(std::move(path)); }
+  /// For the dialog that the same action opens, before all answers that wait.
+  void AnswerAtOnce(std::string path) { answers_.emplace_front(std::move(path)); }
 
 private:
   /// The next answer; a dialog that the script did not foresee is cancelled.
@@ -55,22 +58,6 @@ struct ScriptError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Number of changes of single letters that turn one word into the other.
-std::size_t Distance(const std::string& a, const std::string& b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
-  for (std::size_t i = 1; i <= a.size(); ++i) {
-    std::size_t diagonal = row[0];
-    row[0] = i;
-    for (std::size_t j = 1; j <= b.size(); ++j) {
-      const std::size_t above = row[j];
-      row[j] = std::min({row[j] + 1, row[j - 1] + 1, diagonal + (a[i - 1] != b[j - 1] ? 1 : 0)});
-      diagonal = above;
-    }
-  }
-  return row[b.size()];
-}
-
 class Script {
 public:
   Script(std::shared_ptr<const Library> library, bool comma, std::ostream& out)
@@ -79,117 +66,107 @@ public:
   }
 
   void Run(const std::string& line) {
-    const auto [action, rest] = Split(line);
+    named_ = Named::Nothing;
+    auto [action, rest] = Split(line);
+    rest.erase(0, std::min(rest.find_first_not_of(' '), rest.size()));
     using Handler = void (Script::*)(const std::string&);
-    static constexpr std::array<std::pair<const char*, Handler>, 14> handlers{{
-        {"focus", &Script::Focus},
-        {"menu", &Script::MenuCommand},
-        {"enter", &Script::Enter},
-        {"return", &Script::ReturnKey},
-        {"click", &Script::ClickOn},
-        {"select", &Script::SelectEntry},
-        {"close", &Script::CloseForm},
-        {"open", &Script::Open},
-        {"save", &Script::Save},
-        {"answer", &Script::Answer},
-        {"show", &Script::Show},
-        {"results", &Script::Results},
+    static const std::vector<std::pair<std::string, Handler>> handlers{
+        {"focus", &Script::Focus},     {"menu", &Script::MenuCommand},
+        {"enter", &Script::Enter},     {"return", &Script::ReturnKey},
+        {"click", &Script::ClickOn},   {"select", &Script::SelectEntry},
+        {"close", &Script::CloseForm}, {"open", &Script::Open},
+        {"save", &Script::Save},       {"answer", &Script::Answer},
+        {"show", &Script::Show},       {"results", &Script::Results},
         {"json", &Script::Json},
-        {"", nullptr},
-    }};
+    };
+    std::vector<std::string> actions;
     for (const auto& [name, handler] : handlers) {
-      if (action != name || handler == nullptr) continue;
-      before_ = session_.FocusedField();
-      (this->*handler)(rest);
-      return;
-    }
-    throw ScriptError("no action " + action);
-  }
-
-  /// The control of the form on top (or of the form named) that is nearest in letters.
-  std::string Nearest(const std::string& address) const {
-    std::string form = session_.OpenForms().empty() ? "korvane" : session_.OpenForms().back();
-    std::string name = address;
-    if (const auto dot = address.find('.'); dot != std::string::npos) {
-      if (FindForm(address.substr(0, dot)) != nullptr) form = address.substr(0, dot);
-      name = address.substr(dot + 1);
-    }
-    std::string best;
-    std::size_t least = std::string::npos;
-    for (const Control& c : FindForm(form)->controls) {
-      const std::size_t d = Distance(name, c.name);
-      if (d < least) {
-        least = d;
-        best = c.name;
+      if (action == name) {
+        focusings_ = session_.Focusings();
+        (this->*handler)(rest);
+        return;
       }
+      actions.push_back(name);
     }
-    return best;
+    throw ScriptError("no action " + action + Hint(NearestWord(action, actions)));
   }
 
-  const std::string& LastControl() const { return control_; }
+  /// What the line that failed may have meant, for the end of its report.
+  std::string Hint() const {
+    if (named_ == Named::Form) return Hint(NearestForm(name_));
+    if (named_ == Named::Command) return Hint(NearestCommand(name_));
+    if (named_ == Named::Control) return Hint(NearestControl(name_, OnTop()));
+    return {};
+  }
 
 private:
+  /// The first word, and what follows the blank behind it.
   static std::pair<std::string, std::string> Split(const std::string& line) {
     const auto blank = line.find(' ');
     if (blank == std::string::npos) return {line, {}};
     return {line.substr(0, blank), line.substr(blank + 1)};
   }
 
-  /// Says so when the focus was put back to a field.
-  void ReportFocus(bool accepted) {
-    if (accepted) return;
-    out_ << "focus: " << Short(session_.FocusedField()) << "\n";
+  /// What the word of a line names, so that an error can tell the nearest one.
+  enum class Named { Nothing, Form, Command, Control };
+
+  static std::string Hint(const std::string& nearest) {
+    return nearest.empty() ? std::string() : " (nearest: " + nearest + ")";
   }
 
-  std::string Short(const std::string& key) const {
-    const std::string prefix =
-        (session_.OpenForms().empty() ? "korvane" : session_.OpenForms().back()) + ".";
-    return key.rfind(prefix, 0) == 0 ? key.substr(prefix.size()) : key;
+  const std::string& Name(Named kind, const std::string& name) {
+    named_ = kind;
+    name_ = name;
+    return name_;
   }
 
-  void Focus(const std::string& form) { session_.Focus(form); }
-  void MenuCommand(const std::string& name) {
-    control_ = "korvane." + name;
-    session_.Menu(name);
+  std::string OnTop() const {
+    return session_.OpenForms().empty() ? "korvane" : session_.OpenForms().back();
   }
+
+  /// Says where the focus is now.
+  void ReportFocus() {
+    const std::string key = session_.FocusedField();
+    if (key.empty()) return;
+    const std::string prefix = OnTop() + ".";
+    out_ << "focus: " << (key.rfind(prefix, 0) == 0 ? key.substr(prefix.size()) : key) << "\n";
+  }
+
+  void Focus(const std::string& form) { session_.Focus(Name(Named::Form, form)); }
+  void MenuCommand(const std::string& name) { session_.Menu(Name(Named::Command, name)); }
   void Enter(const std::string& rest) {
     const auto [control, text] = Split(rest);
-    control_ = control;
-    ReportFocus(session_.Enter(control, text));
+    if (!session_.Enter(Name(Named::Control, control), text)) ReportFocus();
   }
   void ReturnKey(const std::string& control) {
-    control_ = control;
-    session_.Return(control);
-    out_ << "focus: " << Short(session_.FocusedField()) << "\n";
+    session_.Return(Name(Named::Control, control));
+    ReportFocus();
   }
   void ClickOn(const std::string& control) {
-    control_ = control;
-    session_.Click(control);
+    session_.Click(Name(Named::Control, control));
     ReportMovedFocus();
   }
   void SelectEntry(const std::string& rest) {
     const auto [control, text] = Split(rest);
-    control_ = control;
+    Name(Named::Control, control);
     char* end = nullptr;
     const long index = std::strtol(text.c_str(), &end, 10);
     if (text.empty() || *end != '\0') throw ScriptError("select needs an index, not " + text);
     session_.Select(control, static_cast<int>(std::clamp(index, -1L, 1000000L)));
   }
   void CloseForm(const std::string& form) {
-    session_.Close(form);
+    session_.Close(Name(Named::Form, form));
     ReportMovedFocus();
   }
   void ReportMovedFocus() {
-    if (!session_.FocusedField().empty() && session_.FocusedField() != before_) {
-      out_ << "focus: " << Short(session_.FocusedField()) << "\n";
-    }
+    if (session_.Focusings() != focusings_) ReportFocus();
   }
   void Open(const std::string& path) {
-    platform_.Answer(path);
+    platform_.AnswerAtOnce(path);
     session_.OpenCommand();
   }
   void Save(const std::string& path) {
-    platform_.Answer(path);
+    platform_.AnswerAtOnce(path);
     session_.SaveAsCommand();
   }
   void Answer(const std::string& path) {
@@ -197,7 +174,8 @@ private:
   }
 
   void ShowControl(const std::string& address, const std::string& name) {
-    out_ << name << " = " << session_.Text(address);
+    const std::string text = session_.Text(address);
+    out_ << name << " = " << text;
     if (!session_.Enabled(address)) out_ << " [disabled]";
     if (!session_.Visible(address)) out_ << " [hidden]";
     if (session_.Checked(address)) out_ << " [checked]";
@@ -208,8 +186,7 @@ private:
   void Show(const std::string& what) {
     const Form* form = FindForm(what);
     if (form == nullptr) {
-      control_ = what;
-      ShowControl(what, what);
+      ShowControl(Name(Named::Control, what), what);
       return;
     }
     out_ << what << " = " << session_.Title(what) << "\n";
@@ -240,9 +217,17 @@ private:
   std::ostream& out_;
   ScriptPlatform platform_;
   Session session_;
-  std::string control_;
-  std::string before_;
+  Named named_ = Named::Nothing;
+  std::string name_;
+  int focusings_ = 0;
 };
+
+/// The line without the blanks around it; what is typed keeps those behind it.
+std::string Trimmed(std::string line) {
+  line.erase(0, std::min(line.find_first_not_of(" \t"), line.size()));
+  if (line.rfind("enter ", 0) != 0) line.erase(line.find_last_not_of(" \t") + 1);
+  return line;
+}
 
 }  // namespace
 
@@ -272,21 +257,22 @@ int RunScript(std::shared_ptr<const Library> library, bool decimalComma, std::is
   std::string line;
   for (int number = 1; std::getline(in, line); ++number) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
+    line = Trimmed(std::move(line));
     if (line.empty() || line.front() == '#') continue;
     const std::string where = "line " + std::to_string(number) + ": ";
     try {
       script.Run(line);
     } catch (const UnknownControl& error) {
-      err << where << error.what();
-      const std::string nearest = script.Nearest(script.LastControl());
-      if (!nearest.empty()) err << " (nearest: " << nearest << ")";
-      err << "\n";
+      err << where << error.what() << script.Hint() << "\n";
       return kBadInput;
     } catch (const ScriptError& error) {
       err << where << error.what() << "\n";
       return kBadInput;
-    } catch (const ArithmeticFault& fault) {
+    } catch (const CalculationFault& fault) {
       err << where << "arithmetic failure in " << fault.what() << "\n";
+      return kArithmeticFailure;
+    } catch (const ArithmeticFault& fault) {
+      err << where << "arithmetic failure: " << fault.what() << "\n";
       return kArithmeticFailure;
     }
   }

@@ -123,15 +123,30 @@ Form OptimiserForm() {
 
 // --- Database -----------------------------------------------------------------------------------
 
+/// Takes a row of the list. A damaged file may hold rows that can't be designed: then it beeps,
+/// and the member is as it was.
+void TakeRow(Session& s, const std::function<void()>& take) {
+  const ProjectState before = s.st();
+  try {
+    take();
+  } catch (const ArithmeticFault&) {
+    s.platform().Beep();
+    s.st() = before;
+    s.Calculate();
+  }
+}
+
 /// The selected row comes in force.
 void LoadSelection(Session& s) {
   Database& db = s.database();
   db.DbRow = s.databaseSelection < 0 ? 0 : s.databaseSelection;
   if (db.DbLast < 0) return;
-  s.st().ProfileType = DatabaseRowType(db);
-  if (db.listUpdate) return;
-  LoadDatabaseRow(db, s.st());
-  s.Calculate();
+  TakeRow(s, [&] {
+    s.st().ProfileType = DatabaseRowType(db);
+    if (db.listUpdate) return;
+    LoadDatabaseRow(db, s.st());
+    s.Calculate();
+  });
 }
 
 Control DatabaseList() {
@@ -199,13 +214,15 @@ Form DatabaseForm() {
   c.back().tip = " Remove Profile ";
   c.push_back(CloseButton("Command4", "CLOSE", "database"));
   form.onFocus = [](Session& s) {
-    const Database& db = s.database();
+    Database& db = s.database();
     if (db.DbLast >= 0) {
       if (s.databaseSelection < 0) s.databaseSelection = 0;
-      s.database().DbRow = s.databaseSelection;
-      s.st().ProfileType = DatabaseRowType(db);
+      db.DbRow = s.databaseSelection;
     }
-    s.Calculate();
+    TakeRow(s, [&] {
+      if (db.DbLast >= 0) s.st().ProfileType = DatabaseRowType(db);
+      s.Calculate();
+    });
   };
   return form;
 }

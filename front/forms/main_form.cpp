@@ -120,6 +120,16 @@ void ClickSupport(Session& s, int support) {
   s.Calculate();
 }
 
+/// The Return key on the picture of the one spring takes what stands in the spring field, within
+/// a range of its own.
+void TakeSpring(Session& s) {
+  if (!s.Enabled("korvane.ispring")) return;
+  FieldRule rule = Bind(&ProjectState::SpringRestraint, "#0");
+  rule.limit = Between(1, 99, " 1 < springstiffness 99 ");
+  rule.then = CalculateAfter;
+  s.LeaveBy("korvane.ispring", rule);
+}
+
 constexpr const char* kSupportTips[] = {"Pinned - pinned", "Pinned - fixed", "Fixed - fixed",
                                         "Spring - spring", "Fixed - free",   "Pinned - spring"};
 
@@ -266,6 +276,7 @@ void AddOptions(std::vector<Control>& c) {
                         [k](Session& s) { ClickSupport(s, k); }));
     c.back().checked = [k](const Session& s) { return s.st().SupportType == k; };
   }
+  c.back().returnKey = TakeSpring;
   const auto inFrame = [&c](Control control, bool Family::*flag) {
     control.enabled = [flag](const Session& s) {
       const Family* family = FamilyOf(s);

@@ -167,6 +167,22 @@ TEST(Program, WritesANewProjectThatDesignsCleanly) {
   EXPECT_EQ(refused.errors, "can't save file - /no/such/folder/fresh.kvn\n");
 }
 
+TEST(Program, SaysWhenItsOutputFindsAFullDisk) {
+  const TempFolder folder;
+  PutFile(folder / "script", "show il\n");
+  for (const std::string& command :
+       {"design " + Quoted(kColumn), "design --json " + Quoted(kColumn), std::string("new"),
+        std::string("catalogue"), std::string("catalogue HEA"), "batch " + Quoted(kColumn),
+        "optimise " + Quoted(kColumn), "session " + Quoted(folder / "script")}) {
+    const std::string errors = folder / "errors";
+    const int waited = std::system(
+        (Quoted(KORVANE_CLI) + " " + command + " >/dev/full 2>" + Quoted(errors)).c_str());
+    EXPECT_EQ(ExitStatusOf(waited), 2) << command;
+    EXPECT_NE(GetFile(errors).find("can't write to the standard output\n"), std::string::npos)
+        << command;
+  }
+}
+
 TEST(Program, ListsFamiliesAndSizes) {
   const ProgramRun families = RunProgram({"catalogue"});
   EXPECT_EQ(families.status, 0);

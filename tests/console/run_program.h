@@ -30,14 +30,16 @@ inline std::string Quoted(const std::string& word) {
 }
 
 /// Runs the program with its outputs in files. environment: "NAME=value" words for env; the
-/// data folder's variable is unset unless named there.
+/// data folder's variable is unset unless named there. input: the file on its standard input.
 inline ProgramRun RunProgram(const std::vector<std::string>& arguments,
-                             const std::string& environment = {}, const std::string& folder = "/") {
+                             const std::string& environment = {}, const std::string& folder = "/",
+                             const std::string& input = "/dev/null") {
   const TempFolder outputs;
   std::string command =
       "cd " + Quoted(folder) + " && env -u KORVANE_DATA " + environment + " " + Quoted(KORVANE_CLI);
   for (const std::string& argument : arguments) command += " " + Quoted(argument);
-  command += " >" + Quoted(outputs / "out") + " 2>" + Quoted(outputs / "err");
+  command +=
+      " <" + Quoted(input) + " >" + Quoted(outputs / "out") + " 2>" + Quoted(outputs / "err");
   ProgramRun run;
   run.status = ExitStatusOf(std::system(command.c_str()));
   run.output = GetFile(outputs / "out");

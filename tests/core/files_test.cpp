@@ -5,15 +5,13 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <thread>
 #include <vector>
 
+#include "tests/core/own_process.h"
 #include "tests/core/temp_folder.h"
 
 namespace korvane {
@@ -178,27 +176,13 @@ TEST(WriteFileAtomically, TellsAMissingFolderFromOtherFailures) {
   EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
 }
 
-// Runs the action in a process of its own and gives its exit status: limits and identities that
-// it changes must not reach the other tests.
-template <class Action>
-int InAProcessOfItsOwn(Action action) {
-  const pid_t child = ::fork();
-  if (child == 0) ::_exit(action());
-  int status = -1;
-  ::waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
 TEST(WriteFileAtomically, LeavesTheOldFileWhenTheDiskIsFull) {
   const TempFolder folder;
   const std::string old(500, 'o');
   PutFile(folder / "file", old);
   const std::string path = folder / "file";
   const int status = InAProcessOfItsOwn([&path] {
-    // A limit on the size of files stands for the full disk.
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{1000, 1000};
-    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return 2;
+    if (!FillTheDiskBeyond(1000)) return 2;
     bool notFound = true;
     const bool written = WriteFileAtomically(path, std::string(5000, 'n'), &notFound);
     return written || notFound ? 1 : 0;
@@ -217,8 +201,7 @@ TEST(WriteFileAtomically, LeavesTheOldFileWhereTheUserMayNotWrite) {
   ASSERT_EQ(::chmod((folder / "protected").c_str(), 0444), 0);
   ASSERT_EQ(::chmod(folder.Path().c_str(), 0777), 0);
   const int status = InAProcessOfItsOwn([&folder] {
-    constexpr uid_t nobody = 65534;
-    if (::geteuid() == 0 && ::setuid(nobody) != 0) return 2;
+    if (!BecomeAPlainUser()) return 2;
     bool notFound = true;
     if (WriteFileAtomically(folder / "locked/file", "new", &notFound) || notFound) return 3;
     if (WriteFileAtomically(folder / "locked/other", "new", &notFound) || notFound) return 4;

@@ -179,6 +179,44 @@ TEST(RecentFiles, SaveAsPushesOpenPromotesSaveDoesNeither) {
   EXPECT_EQ(r.session.RecentFile(3), path("c.kvn"));
 }
 
+/// What the four entries hold after a command, one letter each.
+std::string RecentAfter(const TempFolder& folder, const char* saved, const std::string& command) {
+  Running r;
+  for (const char* letter = saved; *letter != '\0'; ++letter) {
+    r.platform.answers.emplace_back(folder / (std::string(1, *letter) + ".kvn"));
+    r.session.Menu("mnusaveas");
+  }
+  if (command.rfind("mnu", 0) == 0) {
+    r.session.Menu(command);
+  } else {
+    r.platform.answers.emplace_back(folder / (command + ".kvn"));
+    r.session.Menu("mnuopen");
+  }
+  std::string letters;
+  for (int k = 1; k <= 4; ++k) {
+    const std::string name = std::filesystem::path(r.session.RecentFile(k)).stem();
+    letters += name.empty() ? "-" : name;
+  }
+  return letters;
+}
+
+TEST(RecentFiles, MoveByTheirPositions) {
+  const TempFolder folder;
+  // Five saves push the first out; each save to a new name moves the rest.
+  EXPECT_EQ(RecentAfter(folder, "abcde", "mnusave"), "edcb");
+  EXPECT_EQ(RecentAfter(folder, "ab", "mnusave"), "ba--");
+  // Opening: the first stays, any other comes first and those before it move up; a new one is
+  // pushed.
+  EXPECT_EQ(RecentAfter(folder, "abcd", "d"), "dcba");
+  EXPECT_EQ(RecentAfter(folder, "abcd", "c"), "cdba");
+  EXPECT_EQ(RecentAfter(folder, "abcd", "b"), "bdca");
+  EXPECT_EQ(RecentAfter(folder, "abcd", "a"), "adcb");
+  EXPECT_EQ(RecentAfter(folder, "abcd", "e"), "edcb");
+  // The menu takes the position that was chosen: saving twice leaves a name there twice.
+  EXPECT_EQ(RecentAfter(folder, "abcd", "mnurecentfile(3)"), "bdca");
+  EXPECT_EQ(RecentAfter(folder, "abcb", "mnurecentfile(3)"), "bbca");
+}
+
 TEST(Files, AMissingOrShortFileIsTold) {
   const TempFolder folder;
   Running r;
