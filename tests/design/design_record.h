@@ -17,6 +17,7 @@
 #include "designs.h"
 #include "random_runs.h"
 #include "sections/profile_table.h"
+#include "sections/section_fields.h"
 
 namespace korvane::record {
 
@@ -34,6 +35,17 @@ struct Column {
 };
 
 enum Group { kOwn = 0, kMy, kVz, kMz, kVy, kDeflZ, kDeflY };
+
+/// All fields of the section record in one figure: each by its place and its order of magnitude,
+/// so that a change of any one of them shows.
+inline double SectionSumOf(const Design& d) {
+  double sum = 0;
+  int place = 0;
+  ForEachSectionField(d.rec, [&](const char*, const auto& value) {
+    sum += (1 + ++place % 7) * std::asinh(static_cast<double>(value));
+  });
+  return sum;
+}
 
 // clang-format off
 inline const std::vector<Column>& Columns() {
@@ -57,6 +69,7 @@ inline const std::vector<Column>& Columns() {
       {"A", kOwn, [](D d) -> double { return d.rec.A; }},
       {"Iy", kOwn, [](D d) -> double { return d.rec.Iy; }},
       {"Weffy", kOwn, [](D d) -> double { return d.rec.Weffy; }},
+      {"section", kOwn, SectionSumOf},
       {"class", kOwn, [](D d) -> double { return d.checks.ClassGoverning; }},
       {"IRsection", kOwn, [](D d) -> double { return d.checks.IRsection; }},
       {"IRvz", kOwn, [](D d) -> double { return d.checks.IRvz; }},
