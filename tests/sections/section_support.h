@@ -26,6 +26,12 @@ inline void ExpectClose(double value, double expected, const char* what) {
   EXPECT_NEAR(value, expected, std::fabs(expected) * 1e-5) << what;
 }
 
+/// Effective width factor as the clause has it, for a ratio c/t and a buckling factor.
+inline double Rho(double ratio, double eps, double k) {
+  const double lam = ratio / (28.4 * eps * std::sqrt(k));
+  return lam > 0.673 ? (lam - 0.22) / lam / lam : 1;
+}
+
 /// The steps of ComputeSection for a state, without a member around it.
 struct Made {
   explicit Made(int type) { st.ProfileType = type; }
