@@ -53,9 +53,9 @@ double AreaBelow(const RectList& list, double y) {
   return below;
 }
 
-/// The lowest height with so much area below it: the area grows in a straight line between two
-/// edges of rectangles.
-double CrossingHeight(const RectList& list, double area) {
+/// The lowest height, from one on, with so much area below it: the area changes in a straight
+/// line between two edges of rectangles.
+double CrossingHeight(const RectList& list, double area, double from) {
   std::array<double, 2 * RectList::kCapacity> edges{};
   std::size_t count = 0;
   for (const Rect& r : list) {
@@ -64,14 +64,17 @@ double CrossingHeight(const RectList& list, double area) {
     edges[count++] = r.Top();
   }
   std::sort(edges.begin(), edges.begin() + static_cast<std::ptrdiff_t>(count));
-  double last = 0;
+  double low = from;
+  double lowArea = AreaBelow(list, from);
+  if (lowArea >= area) return from;
   for (std::size_t i = 0; i < count; ++i) {
-    const double below = AreaBelow(list, edges[i]);
-    if (below >= area) {
-      if (i == 0 || below == last) return edges[i];
-      return edges[i] - (edges[i] - edges[i - 1]) * (below - area) / (below - last);
+    if (edges[i] <= low) continue;
+    const double edgeArea = AreaBelow(list, edges[i]);
+    if (edgeArea >= area) {
+      return edges[i] - (edges[i] - low) * (edgeArea - area) / (edgeArea - lowArea);
     }
-    last = below;
+    low = edges[i];
+    lowArea = edgeArea;
   }
   throw ArithmeticFault("no plastic axis inside the section");
 }
@@ -80,16 +83,20 @@ double CrossingHeight(const RectList& list, double area) {
 
 double WalkPlasticAxis(const RectList& list, double A, double H) {
   constexpr double step = 0.1;
-  constexpr double tall = 1E5;  // mm; beyond it the steps are not taken one by one
-  const double crossing = CrossingHeight(list, A / 2);
+  constexpr double tall = 1E5;    // mm; beyond it the steps are not taken one by one
+  constexpr int crossings = 100;  // more than the edges of the rectangles allow
   double y = 2.0;
-  if (crossing > tall) {
-    y += step * std::ceil((crossing - y) / step);
-  } else {
-    while (y < crossing - 2 * step) y += step;  // no test below the crossing can succeed
-    while (y <= H && AreaBelow(list, y) < A / 2) y += step;
+  for (int i = 0; i < crossings; ++i) {
+    // Below the crossing no test can succeed.
+    const double crossing = CrossingHeight(list, A / 2, y);
+    if (crossing > tall) y = std::max(y, 2.0 + step * std::ceil((crossing - 2.0) / step));
+    while (y < crossing - 2 * step) y += step;
+    for (int tests = 0; tests < 4; ++tests, y += step) {
+      if (y > H) throw ArithmeticFault("no plastic axis inside the section");
+      // What a tall section rounds away is no reason to go on.
+      if (AreaBelow(list, y) >= A / 2 - (y > tall ? 1E-12 * std::fabs(A) : 0)) return y;
+    }
   }
-  if (y <= H) return y;
   throw ArithmeticFault("no plastic axis inside the section");
 }
 

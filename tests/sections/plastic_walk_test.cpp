@@ -66,6 +66,17 @@ TEST(PlasticWalk, AnswersAtOnceForASectionAsTallAsTheSky) {
   EXPECT_NEAR(WalkPlasticAxis(list, A, 1E15 + 40), (A / 2 - 4000) / 10 + 40, 1);
 }
 
+// Flanges that overlap make a web that takes area away: the half may be passed twice.
+TEST(PlasticWalk, GoesOnWhereTheFirstCrossingFallsBetweenTwoSteps) {
+  RectList list;
+  list.Add(Rect{100, 10.05, 0, 0});   // 1005 at 10.05
+  list.Add(Rect{200, -4, 0, 14.05});  // takes 200 a mm from 10.05 to 14.05
+  list.Add(Rect{1, 1E9, 0, 14.05});
+  const double y = WalkPlasticAxis(list, 2009.9, 2E9);  // 1004.95 at 10.0495
+  // 1005 - 800 + (y - 14.05) = 1004.95 at 814.
+  EXPECT_NEAR(y, 814, 0.11);
+}
+
 TEST(PlasticWalk, RefusesEdgesWithoutAPlace) {
   RectList list;
   list.Add(Rect{1, std::numeric_limits<double>::infinity(), 0, 0});
