@@ -75,6 +75,7 @@ std::vector<Chapter> Book() {
                             PlateElements(),     ClassLimits(),   CriticalMoments(),
                             BeamFormulas(),      Frequencies()};
   for (Chapter& member : Members()) book.push_back(std::move(member));
+  book.push_back(SettledRules());
   return book;
 }
 

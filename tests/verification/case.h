@@ -49,6 +49,7 @@ Chapter ClassLimits();
 Chapter CriticalMoments();
 Chapter BeamFormulas();
 Chapter Frequencies();
+Chapter SettledRules();
 std::vector<Chapter> Members();
 
 /// All chapters in the order of the book.
