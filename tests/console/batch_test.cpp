@@ -77,12 +77,12 @@ Printed RunWith(const BatchOptions& options) {
 
 TEST(Batch, TheTableIsTheSameWithAnyNumberOfThreads) {
   const TempFolder folder;
-  PutProjects(folder, 300);
+  PutProjects(folder, 1000);
   PutFile(folder / "p150.kvn", "390\r\nbroken");
   const Strings files = FindProjects({folder.Path()});
-  ASSERT_EQ(files.size(), 300U);
+  ASSERT_EQ(files.size(), 1000U);
   const std::string one = Table(files, 1);
-  EXPECT_EQ(Lines(one).size(), 301U);
+  EXPECT_EQ(Lines(one).size(), 1001U);
   EXPECT_EQ(Table(files, 2), one);
   EXPECT_EQ(Table(files, 7), one);
   EXPECT_NE(one.find(",pass,"), std::string::npos);
