@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "analysis/elementary.h"
+#include "analysis/running_sums.h"
 
 namespace korvane {
 
@@ -12,20 +12,16 @@ void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,
   const double K = 1E12 / (st.E * I);
   PartList<DeflectionPart> parts;
   CollectDeflections(st, loads, K, parts);
-  const double L = st.L;
-  const int last = st.SupportType == 4 ? 50 : 49;  // elsewhere the far end stands still
   defl = {};
   max = 0;
   min = 0;
+  if (parts.empty()) return;
+  const double L = st.L;
+  const RunningSums<DeflectionPart, DeflectionSum> sums(parts, L);
+  const int last = st.SupportType == 4 ? 50 : 49;  // elsewhere the far end stands still
   for (int i = 1; i <= last; ++i) {
     const double x = (i / 50.0) * L;
-    double sum = 0;
-    for (const DeflectionPart& p : parts) {
-      const DeflectionBranch& b = x < p.a ? p.left : p.right;
-      const double t = b.mirrored ? L - x : x;
-      sum += b.c[0] + (b.c[1] + (b.c[2] + (b.c[3] + b.c[4] * t) * t) * t) * t;
-    }
-    defl[i] = sum;
+    defl[i] = sums.AtStation(i, x).At(x, L);
     if (defl[i] > max) max = defl[i];
     if (defl[i] < min) min = defl[i];
   }

@@ -12,11 +12,11 @@ struct Operations {
 };
 
 inline constexpr std::array<Operations, 7> kOperations{{
-    {"calculate_default", 3094},
-    {"calculate_full", 79043},
-    {"calculate_silent", 3091},
-    {"search_all", 2087882},
-    {"analysis_full", 75702},
+    {"calculate_default", 3731},
+    {"calculate_full", 14733},
+    {"calculate_silent", 3728},
+    {"search_all", 2532508},
+    {"analysis_full", 11392},
     {"naive_full", 315425},
     {"naive_full_loads_only", 147940},
 }};
