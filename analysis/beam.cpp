@@ -3,8 +3,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
-#include "analysis/elementary.h"
+#include "analysis/running_sums.h"
 
 namespace korvane {
 
@@ -14,15 +15,29 @@ struct Force {
   double M = 0, V = 0;
 };
 
-Force Interior(const PartList<ForcePart>& parts, double x) {
-  Force f;
-  for (const ForcePart& p : parts) {
-    const ForceBranch& b = p.At(x);
-    f.M += b.m0 + (b.m1 + b.m2 * x) * x;
-    f.V += b.v0 + b.v1 * x;
+/// The loads of a plane, ready to be asked for their forces anywhere.
+class PlaneModel {
+public:
+  PlaneModel(const ProjectState& st, const PlaneLoads& loads) {
+    CollectForces(st, loads, parts_);
+    if (!parts_.empty()) sums_.emplace(parts_, st.L);
   }
-  return f;
-}
+  PlaneModel(const PlaneModel&) = delete;
+  PlaneModel& operator=(const PlaneModel&) = delete;
+
+  const PartList<ForcePart>& Parts() const { return parts_; }
+  Force AtStation(int i, double x) const {
+    return sums_ ? Forces(sums_->AtStation(i, x), x) : Force{};
+  }
+  /// By the branches alone, without the rules of the ends.
+  Force At(double x) const { return sums_ ? Forces(sums_->At(x), x) : Force{}; }
+
+private:
+  static Force Forces(const ForceBranch& sum, double x) { return {sum.M(x), sum.V(x)}; }
+
+  PartList<ForcePart> parts_;
+  std::optional<RunningSums<ForcePart, ForceBranch>> sums_;
+};
 
 void Widen(const Force& f, PlaneForces& out) {
   if (f.V > out.V_max) out.V_max = f.V;
@@ -110,40 +125,11 @@ void Finals(const ProjectState& st, BeamResults& out) {
   }
 }
 
-void AnalyseLoads(ProjectState& st, double S, WorkingLoads& loads, BeamResults& out, number& N) {
-  StripForPlateTypes(st);
-  CombineUls(st, S, loads);
-  PlaneStations(st, loads.z, Plane::Z, out);
-  PlaneStations(st, loads.y, Plane::Y, out);
-  MomentFactors(out);
-  N = AxialForceUls(st);
-  AddLoadPoints(st, out);
-  if (out.pt_last != 10) {
-    out.pt_first = 11;
-    PlanePoints(st, loads.z, Plane::Z, out);
-    PlanePoints(st, loads.y, Plane::Y, out);
-    out.pt_first = 0;
-  }
-}
-
-void AnalyseEndForces(ProjectState& st, BeamResults& out, number& N) {
-  const int type = st.ProfileType;
-  if (type == 22 || type == 24 || type == 25 || type == 27) {
-    st.Mz_end = {};
-    st.Vy_end = {};
-  }
-  EndForceStations(st, out);
-  EndForceMomentFactors(st, out);
-  N = st.Ne;
-}
-
-}  // namespace
-
-void PlaneStations(const ProjectState& st, const PlaneLoads& loads, Plane plane,
+/// Fills stations, extremes (which start at 0), quarter-point moments, the eleven even points
+/// (and for the z plane their pt_x) and the moment zeros of one plane.
+void PlaneStations(const ProjectState& st, const PlaneModel& model, Plane plane,
                    BeamResults& results) {
   PlaneForces& out = Of(plane, results);
-  PartList<ForcePart> parts;
-  CollectForces(st, loads, parts);
   out.M_max = 0;
   out.M_min = 0;
   out.V_max = 0;
@@ -151,11 +137,11 @@ void PlaneStations(const ProjectState& st, const PlaneLoads& loads, Plane plane,
   for (int i = 0; i <= 50; ++i) {
     Force f;
     if (i == 0) {
-      for (const ForcePart& p : parts) f = {f.M + p.M0, f.V + p.V0};
+      for (const ForcePart& p : model.Parts()) f = {f.M + p.M0, f.V + p.V0};
     } else if (i == 50) {
-      for (const ForcePart& p : parts) f = {f.M + p.ML, f.V + p.VL};
+      for (const ForcePart& p : model.Parts()) f = {f.M + p.ML, f.V + p.VL};
     } else {
-      f = Interior(parts, (i / 50.0) * st.L);
+      f = model.AtStation(i, (i / 50.0) * st.L);
     }
     out.M[i] = f.M;
     out.V[i] = f.V;
@@ -173,20 +159,18 @@ void PlaneStations(const ProjectState& st, const PlaneLoads& loads, Plane plane,
   out.M_zero2 = restrained ? MomentZero(out.M, 25, 49) : 0;
 }
 
-void PlanePoints(const ProjectState& st, const PlaneLoads& loads, Plane plane,
+/// Evaluates the same formulas at the points pt_first..pt_last, without end value logic, and
+/// widens the extremes.
+void PlanePoints(const ProjectState& st, const PlaneModel& model, Plane plane,
                  BeamResults& results) {
   PlaneForces& out = Of(plane, results);
-  PartList<ForcePart> parts;
-  CollectForces(st, loads, parts);
   for (int j = results.pt_first; j <= results.pt_last; ++j) {
     const double x = st.L * results.pt_x[j];
-    Force f = Interior(parts, x);
+    Force f = model.At(x);
     if (results.pt_x[j] == 1) {
       // At exactly x = L a pinned member's moment load on the right branch counts in full.
-      for (const ForcePart& p : parts) {
-        if (p.endMoment == 0 || x < p.a) continue;
-        const ForceBranch& b = p.right;
-        f.M += p.endMoment - (b.m0 + (b.m1 + b.m2 * x) * x);
+      for (const ForcePart& p : model.Parts()) {
+        if (p.endMoment != 0 && !(x < p.a)) f.M += p.endMoment - p.right.M(x);
       }
     }
     out.M_pt[j] = f.M;
@@ -194,6 +178,48 @@ void PlanePoints(const ProjectState& st, const PlaneLoads& loads, Plane plane,
     Widen({out.M_pt[j], out.V_pt[j]}, out);
   }
 }
+
+void AnalyseLoads(ProjectState& st, double S, WorkingLoads& loads, BeamResults& out, number& N) {
+  StripForPlateTypes(st);
+  CombineUls(st, S, loads);
+  const PlaneModel z(st, loads.z);
+  const PlaneModel y(st, loads.y);
+  const auto evaluatePoints = [&] {
+    PlanePoints(st, z, Plane::Z, out);
+    PlanePoints(st, y, Plane::Y, out);
+  };
+  PlaneStations(st, z, Plane::Z, out);
+  PlaneStations(st, y, Plane::Y, out);
+  MomentFactors(out);
+  N = AxialForceUls(st);
+  AddLoadPoints(st, out);
+  if (out.pt_last != 10) {
+    out.pt_first = 11;
+    evaluatePoints();
+    out.pt_first = 0;
+  }
+  if (st.cp_mode == 1) {
+    AddUserPoints(st, out);
+    evaluatePoints();
+  }
+}
+
+void AnalyseEndForces(ProjectState& st, BeamResults& out, number& N) {
+  const int type = st.ProfileType;
+  if (type == 22 || type == 24 || type == 25 || type == 27) {
+    st.Mz_end = {};
+    st.Vy_end = {};
+  }
+  EndForceStations(st, out);
+  EndForceMomentFactors(st, out);
+  N = st.Ne;
+  if (st.cp_mode == 1) {
+    AddUserPoints(st, out);
+    EndForcePoints(st, out);
+  }
+}
+
+}  // namespace
 
 void MomentFactors(BeamResults& out) {
   out.betaMy = MomentFactor(out.z);
@@ -203,20 +229,10 @@ void MomentFactors(BeamResults& out) {
 void AnalyseBeam(ProjectState& st, double S, WorkingLoads& loads, BeamResults& out, number& N) {
   out.pt_first = 0;
   out.pt_last = 10;
-  const bool loadMode = st.AnalysisMode == 1;
-  if (loadMode) {
+  if (st.AnalysisMode == 1) {
     AnalyseLoads(st, S, loads, out, N);
   } else {
     AnalyseEndForces(st, out, N);
-  }
-  if (st.cp_mode == 1) {
-    AddUserPoints(st, out);
-    if (loadMode) {
-      PlanePoints(st, loads.z, Plane::Z, out);
-      PlanePoints(st, loads.y, Plane::Y, out);
-    } else {
-      EndForcePoints(st, out);
-    }
   }
   Finals(st, out);
 }

@@ -33,14 +33,6 @@ struct BeamResults {
 /// single stations for Mz.
 enum class Plane { Z, Y };
 
-/// Fills stations, extremes (which start at 0), quarter-point moments, the eleven even points
-/// (and for the z plane their pt_x) and the moment zeros of one plane from the working loads.
-void PlaneStations(const ProjectState& st, const PlaneLoads& loads, Plane plane, BeamResults& out);
-
-/// Evaluates the same formulas at the points pt_first..pt_last, without end value logic, and
-/// widens the extremes.
-void PlanePoints(const ProjectState& st, const PlaneLoads& loads, Plane plane, BeamResults& out);
-
 /// betaMy and betaMz from the moments at the ends and at mid-span.
 void MomentFactors(BeamResults& out);
 

@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "analysis/elementary.h"
+#include "analysis/running_sums.h"
 
 namespace korvane {
 
@@ -12,11 +12,10 @@ void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,
   const double K = 1E12 / (st.E * I);
   PartList<DeflectionPart> parts;
   CollectDeflections(st, loads, K, parts);
-  const double L = st.L;
-  const int last = st.SupportType == 4 ? 50 : 49;  // elsewhere the far end stands still
   defl = {};
   max = 0;
   min = 0;
+  if (parts.empty()) return;
   const auto set = [&](int i, double value) {
     defl[i] = value;
     if (defl[i] > max) max = defl[i];
@@ -25,15 +24,12 @@ void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,
   double start = 0;
   for (const DeflectionPart& p : parts) start += p.start;
   set(0, start);
+  const double L = st.L;
+  const RunningSums<DeflectionPart, DeflectionSum> sums(parts, L);
+  const int last = st.SupportType == 4 ? 50 : 49;  // elsewhere the far end stands still
   for (int i = 1; i <= last; ++i) {
     const double x = (i / 50.0) * L;
-    double sum = 0;
-    for (const DeflectionPart& p : parts) {
-      const DeflectionBranch& b = x < p.a ? p.left : p.right;
-      const double t = b.mirrored ? L - x : x;
-      sum += b.c[0] + (b.c[1] + (b.c[2] + (b.c[3] + b.c[4] * t) * t) * t) * t;
-    }
-    set(i, sum);
+    set(i, sums.AtStation(i, x).At(x, L));
   }
 }
 

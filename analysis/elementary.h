@@ -5,6 +5,8 @@
 
 #include <array>
 #include <cstddef>
+#include <new>
+#include <type_traits>
 
 #include "analysis/loads.h"
 #include "core/project_state.h"
@@ -14,6 +16,16 @@ namespace korvane {
 /// Moment m0 + m1*x + m2*x^2 (kNm) and shear v0 + v1*x (kN) on one side of a load.
 struct ForceBranch {
   double m0 = 0, m1 = 0, m2 = 0, v0 = 0, v1 = 0;
+
+  double M(double x) const { return m0 + (m1 + m2 * x) * x; }
+  double V(double x) const { return v0 + v1 * x; }
+  void Add(const ForceBranch& b) {
+    m0 += b.m0;
+    m1 += b.m1;
+    m2 += b.m2;
+    v0 += b.v0;
+    v1 += b.v1;
+  }
 };
 
 /// A load's forces: the branch left of its position a, the one right of it, and the values at
@@ -25,7 +37,8 @@ struct ForcePart {
   double V0 = 0, VL = 0, M0 = 0, ML = 0;
   double endMoment = 0;  ///< what a moment load gives at a point at exactly x = L
 
-  const ForceBranch& At(double x) const { return x < a || (inclusive && x == a) ? left : right; }
+  bool LeftAt(double x) const { return x < a || (inclusive && x == a); }
+  const ForceBranch& At(double x) const { return LeftAt(x) ? left : right; }
 };
 
 /// Deflection in mm on one side of a load: a quartic of x, or of L - x where mirrored.
@@ -39,19 +52,62 @@ struct DeflectionPart {
   double a = 0;
   DeflectionBranch left, right;
   double start = 0;  ///< at x = 0, which stands still but under a moment before a clamped end
+
+  bool LeftAt(double x) const { return x < a; }
+  const DeflectionBranch& At(double x) const { return LeftAt(x) ? left : right; }
+};
+
+/// Deflections added up: a quartic of x and one of L - x.
+struct DeflectionSum {
+  std::array<double, 5> plain{}, mirrored{};
+
+  /// mm at x.
+  double At(double x, double L) const { return Quartic(plain, x) + Quartic(mirrored, L - x); }
+  void Add(const DeflectionBranch& b) { AddTo(b.mirrored ? mirrored : plain, b.c); }
+  void Add(const DeflectionSum& s) {
+    AddTo(plain, s.plain);
+    AddTo(mirrored, s.mirrored);
+  }
+
+private:
+  static double Quartic(const std::array<double, 5>& c, double t) {
+    return c[0] + (c[1] + (c[2] + (c[3] + c[4] * t) * t) * t) * t;
+  }
+  static void AddTo(std::array<double, 5>& sum, const std::array<double, 5>& c) {
+    for (std::size_t k = 0; k < 5; ++k) sum[k] += c[k];
+  }
 };
 
 /// Fixed-capacity list: a plane has at most a line load, 60 slices and 16 load entries, each in
-/// two parts where a spring support blends two cases.
+/// two parts where a spring support blends two cases. A member has few loads as a rule, so the
+/// places of the others are never written.
 template <class Part>
 class PartList {
 public:
-  void Add(const Part& part) { parts_.at(count_++) = part; }
-  const Part* begin() const { return parts_.data(); }
-  const Part* end() const { return parts_.data() + count_; }
+  static constexpr std::size_t kCapacity = 160;
+  static_assert(std::is_trivially_copyable_v<Part> && std::is_trivially_destructible_v<Part>);
+
+  PartList() = default;
+  PartList(const PartList&) = delete;
+  PartList& operator=(const PartList&) = delete;
+
+  void Add(const Part& part) {
+    if (count_ == kCapacity) throw ArithmeticFault("too many loads");
+    ::new (static_cast<void*>(&places_.parts[count_])) Part(part);
+    ++count_;
+  }
+  std::size_t size() const { return count_; }
+  bool empty() const { return count_ == 0; }
+  const Part& operator[](std::size_t i) const { return begin()[i]; }
+  const Part* begin() const { return places_.parts.data(); }
+  const Part* end() const { return begin() + count_; }
 
 private:
-  std::array<Part, 160> parts_;
+  union Places {
+    Places() {}
+    std::array<Part, kCapacity> parts;
+  };
+  Places places_;
   std::size_t count_ = 0;
 };
 

@@ -1,56 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Times of a calculation, of a search and of a batch.
+// Times of a calculation, of its analysis beside the plain one, of a search and of a batch.
 #include <benchmark/benchmark.h>
 
 #include <sstream>
 
-#include "core/calculation.h"
+#include "bench/naive_analysis.h"
+#include "bench/summary.h"
+#include "bench/workloads.h"
 #include "front/console/batch.h"
 #include "front/console/design_json.h"
-#include "optimiser/optimize.h"
 
 namespace korvane {
 namespace {
-
-std::shared_ptr<const Library> TheLibrary() {
-  static const auto library = ReadLibrary(KORVANE_DATA_FOLDER);
-  return library;
-}
-
-Design NewDesign() {
-  Design d(TheLibrary());
-  StartDesign(d);
-  Calculate(d);
-  return d;
-}
-
-/// Four line loads, three trapezoids and eight items, in both planes.
-Design FullDesign() {
-  Design d = NewDesign();
-  ProjectState& st = d.st;
-  st.q2 = 3.0;
-  st.q3 = 2.0;
-  st.q3_yz = 0;
-  st.q4 = 1.0;
-  st.qt1_1 = 2.0;
-  st.qt1_2 = 4.0;
-  st.qt1_x2 = 3.0;
-  st.qt2_1 = 1.0;
-  st.qt2_2 = 1.0;
-  st.qt2_x2 = 4.0;
-  st.qt2_yz = 0;
-  st.qt3_1 = 1.0;
-  st.qt3_2 = 2.0;
-  st.qt3_x2 = 5.0;
-  for (int i = 1; i <= 8; ++i) {
-    st.pm[i] = 2.0 + i;
-    st.pmx[i] = 0.5 * i;
-    st.pm_pm[i] = i % 3 == 0 ? 1 : 0;
-    st.pm_yz[i] = i % 2;
-  }
-  Calculate(d);
-  return d;
-}
 
 void calculate_default(benchmark::State& state) {
   Design d = NewDesign();
@@ -70,13 +31,36 @@ void calculate_silent(benchmark::State& state) {
 }
 BENCHMARK(calculate_silent)->Unit(benchmark::kMicrosecond);
 
-/// All eleven series: 698 recalculations.
+/// The analysis alone, at full load, and the same in the plain way.
+void analysis_full(benchmark::State& state) {
+  Design d = FullDesign();
+  for (auto _ : state) Analysis(d);
+}
+BENCHMARK(analysis_full)->Unit(benchmark::kMicrosecond);
+
+void Naive(benchmark::State& state, naive::Visits visits) {
+  Design d = FullDesign();
+  for (auto _ : state) {
+    naive::Analyse(d.st, d.rec.S, visits, d.loads, d.beam);
+    CombineSls(d.st, d.rec.S, d.loads);
+    naive::Deflect(d.st, d.rec.Iy, d.rec.Iz, visits, d.loads, d.deflections);
+  }
+}
+
+void naive_full(benchmark::State& state) {
+  Naive(state, naive::Visits::AllSlots);
+}
+BENCHMARK(naive_full)->Unit(benchmark::kMicrosecond);
+
+void naive_full_loads_only(benchmark::State& state) {
+  Naive(state, naive::Visits::LoadsOnly);
+}
+BENCHMARK(naive_full_loads_only)->Unit(benchmark::kMicrosecond);
+
 void search_all(benchmark::State& state) {
   Design d = NewDesign();
   OptimiserResults results;
-  for (auto _ : state) {
-    for (int row = 1; row <= kOptimiserRows; ++row) SearchRow(d, row, results);
-  }
+  for (auto _ : state) SearchAll(d, results);
 }
 BENCHMARK(search_all)->Unit(benchmark::kMillisecond);
 
@@ -102,3 +86,12 @@ BENCHMARK(batch)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 }  // namespace korvane
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
+  korvane::Summary summary;
+  benchmark::RunSpecifiedBenchmarks(&summary);
+  summary.Print();
+  return 0;
+}

@@ -128,15 +128,21 @@ inline constexpr double kPi = 3.14159265358979323846;
 /// when the infinity never reached a field.
 class FloatWatch {
 public:
-  FloatWatch() { std::feclearexcept(FE_DIVBYZERO | FE_INVALID | FE_OVERFLOW); }
+  // Asking is cheap where clearing is not, and flags are rarely up.
+  FloatWatch() {
+    if (std::fetestexcept(kWatched) != 0) std::feclearexcept(kWatched);
+  }
   void Check() const {
-    if (const int raised = std::fetestexcept(FE_DIVBYZERO | FE_INVALID | FE_OVERFLOW)) {
-      std::feclearexcept(FE_DIVBYZERO | FE_INVALID | FE_OVERFLOW);
+    if (const int raised = std::fetestexcept(kWatched)) {
+      std::feclearexcept(kWatched);
       throw ArithmeticFault(raised & FE_DIVBYZERO ? "division by zero"
                             : raised & FE_INVALID ? "invalid operation"
                                                   : "overflow");
     }
   }
+
+private:
+  static constexpr int kWatched = FE_DIVBYZERO | FE_INVALID | FE_OVERFLOW;
 };
 
 }  // namespace korvane
