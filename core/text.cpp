@@ -238,7 +238,7 @@ bool IsHuge(const Scan& s) {
   if (std::from_chars(s.exponent.data(), end, exponent).ec == std::errc::result_out_of_range) {
     return s.exponent.front() != '-';
   }
-  return exponent + static_cast<long long>(point) - static_cast<long long>(first) > 0;
+  return exponent > static_cast<long long>(first) - static_cast<long long>(point);
 }
 
 template <class T>
