@@ -2,7 +2,7 @@
 // The desktop program.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QTimer>
@@ -14,22 +14,13 @@
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/help_desk.h"
 #include "front/desktop/main_window.h"
+#include "front/desktop/own_folder.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
 
 namespace {
 
 using namespace korvane;
-
-/// The user's own folder where the program's cannot be written.
-Folders FoldersOf(const std::string& data) {
-  Folders folders{data, {}};
-  if (QFileInfo(QString::fromStdString(data)).isWritable()) return folders;
-  const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-  QDir().mkpath(own);
-  folders.own = own.toStdString();
-  return folders;
-}
 
 Theme ThemeOf(const QString& name) {
   if (name == QLatin1String("light")) return Theme::Light;
@@ -40,7 +31,9 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
   const auto library =
       ReadLibrary(FindDataFolder(parser.value(QStringLiteral("data")).toStdString()));
   DesktopPlatform platform;
-  Session session(library, platform, LocaleWritesComma(), FoldersOf(library->folder));
+  Session session(library, platform, LocaleWritesComma(),
+                  FoldersOf(library->folder,
+                            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
   session.Start();
   Desktop desktop(session);
   platform.SetWindow(&desktop.window());
