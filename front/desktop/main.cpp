@@ -27,6 +27,19 @@ Theme ThemeOf(const QString& name) {
   return name == QLatin1String("dark") ? Theme::Dark : Theme::System;
 }
 
+/// Ends the program after the window's first picture: how long a start takes.
+class FirstPaint : public QObject {
+public:
+  using QObject::QObject;
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    // The children are painted before the queue goes on.
+    if (event->type() == QEvent::Paint) QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    return QObject::eventFilter(watched, event);
+  }
+};
+
 int Run(QApplication& app, const QCommandLineParser& parser, const QString& screenshots) {
   const auto library =
       ReadLibrary(FindDataFolder(parser.value(QStringLiteral("data")).toStdString()));
@@ -51,6 +64,9 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
     QMessageBox::critical(&desktop.window(), QString(), text);
   });
   if (!screenshots.isEmpty()) return WriteScreenshots(desktop, screenshots) ? 0 : 1;
+  if (parser.isSet(QStringLiteral("until-painted"))) {
+    desktop.window().installEventFilter(new FirstPaint(&desktop));
+  }
   desktop.window().show();
   if (const QStringList files = parser.positionalArguments(); !files.isEmpty()) {
     desktop.OpenFile(QFileInfo(files.first()).absoluteFilePath());
@@ -76,11 +92,14 @@ int main(int argc, char** argv) {
   parser.addPositionalArgument(QStringLiteral("FILE.kvn"), QApplication::tr("Project to open"));
   QCommandLineOption shots(QStringLiteral("screenshots"), QString(), QStringLiteral("OUT"));
   shots.setFlags(QCommandLineOption::HiddenFromHelp);
+  QCommandLineOption painted(QStringLiteral("until-painted"));
+  painted.setFlags(QCommandLineOption::HiddenFromHelp);
   parser.addOptions(
       {{QStringLiteral("data"), QApplication::tr("Data folder"), QStringLiteral("FOLDER")},
        {QStringLiteral("theme"), QApplication::tr("light, dark or system"),
         QStringLiteral("THEME")},
-       shots});
+       shots,
+       painted});
   parser.process(app);
   korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
   try {
