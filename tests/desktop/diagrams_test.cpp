@@ -4,9 +4,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDir>
 #include <QFileDialog>
 #include <QImage>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QSplitter>
@@ -19,6 +21,7 @@ namespace {
 
 class DiagramsTest : public DesktopTest {
 protected:
+  std::function<void()> lastMoment_ = [] {};  ///< runs when the file dialog is accepted
   DiagramPane& PlaneOf(const char* control) {
     for (DiagramPane* one : Main().centralWidget()->findChildren<DiagramPane*>()) {
       if (one->Box(control) != nullptr) return *one;
@@ -59,6 +62,7 @@ protected:
       auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
       if (dialog == nullptr) return;
       dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+      QObject::connect(dialog, &QDialog::accepted, [&] { lastMoment_(); });
       QMetaObject::invokeMethod(dialog, "accept");
     });
     save.start(20);
@@ -156,6 +160,26 @@ TEST_F(DiagramsTest, PicturesAreSavedFromTheirContextMenus) {
     }
     EXPECT_GT(drawn, 500) << p.name;
   }
+}
+
+TEST_F(DiagramsTest, PictureThatCannotBeWrittenIsTold) {
+  Load("10");
+  QString told;
+  QTimer answer;
+  QObject::connect(&answer, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    told = box->text();
+    box->accept();
+  });
+  answer.start(20);
+  ASSERT_TRUE(QDir(folder_.path()).mkdir("gone"));
+  const QString path = folder_.filePath("gone/figure.svg");
+  // The folder goes when the dialog has been answered.
+  lastMoment_ = [this] { QDir(folder_.path()).rmdir("gone"); };
+  FromContextMenu(On<FigurePane>(Main(), "pic1"), "Save as SVG...", path);
+  EXPECT_TRUE(told.endsWith(path)) << told.toStdString();
+  EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST_F(DiagramsTest, ResultLinesAreCopiedAsText) {

@@ -4,7 +4,9 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QListWidget>
+#include <QProcess>
 #include <QProgressBar>
+#include <QRegularExpression>
 
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/own_folder.h"
@@ -120,6 +122,33 @@ TEST_F(KeysTest, UnknownSizeLeavesTheList) {
   EXPECT_EQ(list->currentItem()->text(), "HEA 900");
   EXPECT_NE(list->currentRow(), row);
   EXPECT_EQ(session_.Calculations(), calculations + 1);
+}
+
+TEST_F(KeysTest, ManualTellsEveryKeyAndOption) {
+  QFile file(KORVANE_SOURCE_DIR "/docs/man/korvane.1");
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QString manual = QString::fromUtf8(file.readAll()).remove(QLatin1Char('\\'));
+  int keys = 0;
+  for (const QAction* action : Main().findChildren<QAction*>()) {
+    const QString key = action->shortcut().toString();
+    // The latest projects are told as a range.
+    if (key.isEmpty() || key == "Ctrl+2" || key == "Ctrl+3") continue;
+    ++keys;
+    EXPECT_TRUE(manual.contains(key)) << key.toStdString();
+  }
+  EXPECT_EQ(keys, 8);
+  QProcess program;
+  program.start(KORVANE_PROGRAM, {"--help"});
+  ASSERT_TRUE(program.waitForFinished());
+  const QString help = QString::fromUtf8(program.readAllStandardOutput());
+  int options = 0;
+  auto match = QRegularExpression("--(\\w+)").globalMatch(help);
+  while (match.hasNext()) {
+    const QString option = match.next().captured(0);
+    ++options;
+    EXPECT_TRUE(manual.contains(option)) << option.toStdString();
+  }
+  EXPECT_GE(options, 4);
 }
 
 TEST(SearchOnTheScreen, ShowsItsProgressUnderAWaitCursor) {
