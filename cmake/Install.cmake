@@ -12,10 +12,16 @@ install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # Debian wants manual pages and the changelog compressed.
 find_program(GZIP gzip REQUIRED)
-set(KORVANE_MAN ${CMAKE_BINARY_DIR}/korvane-cli.1.gz)
-add_custom_command(OUTPUT ${KORVANE_MAN}
-  COMMAND ${GZIP} -9nc ${CMAKE_SOURCE_DIR}/docs/man/korvane-cli.1 > ${KORVANE_MAN}
-  DEPENDS ${CMAKE_SOURCE_DIR}/docs/man/korvane-cli.1)
+set(KORVANE_MANUALS korvane-cli.1)
+if(TARGET korvane)
+  list(APPEND KORVANE_MANUALS korvane.1)
+endif()
+foreach(manual ${KORVANE_MANUALS})
+  add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/${manual}.gz
+    COMMAND ${GZIP} -9nc ${CMAKE_SOURCE_DIR}/docs/man/${manual} > ${CMAKE_BINARY_DIR}/${manual}.gz
+    DEPENDS ${CMAKE_SOURCE_DIR}/docs/man/${manual})
+  list(APPEND KORVANE_MAN ${CMAKE_BINARY_DIR}/${manual}.gz)
+endforeach()
 add_custom_target(korvane_man ALL DEPENDS ${KORVANE_MAN})
 install(FILES ${KORVANE_MAN} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 set(KORVANE_CHANGELOG ${CMAKE_BINARY_DIR}/changelog.gz)

@@ -9,6 +9,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QSettings>
+#include <algorithm>
 
 #include "front/painter/painter_target.h"
 #include "presentation/aprint.h"
@@ -97,11 +98,19 @@ void DesktopPlatform::Print(const Design& design, int kind, int copies) {
   const Report report = kind == 0 ? Report::SectionProperty : Report::SectionAndStability;
   printer_->setDocName(QString::fromUtf8(ReportTitle(report)));
   QPainter painter;
-  if (!painter.begin(printer_.get())) return;
-  PainterTarget page(painter, kPageWidth, kPageHeight,
-                     QRectF(0, 0, printer_->width(), printer_->height()), Palette::Light());
+  if (!painter.begin(printer_.get())) {
+    Message(tr("The printer does not take the page").toStdString());
+    return;
+  }
   const DateTime now = Now();
-  DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute});
+  // A file and many a printer make no copies themselves.
+  const int pages = printer_->supportsMultipleCopies() ? 1 : std::max(1, copies);
+  for (int n = 0; n < pages; ++n) {
+    if (n > 0) printer_->newPage();
+    PainterTarget page(painter, kPageWidth, kPageHeight,
+                       QRectF(0, 0, printer_->width(), printer_->height()), Palette::Light());
+    DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute});
+  }
 }
 
 void DesktopPlatform::OpenHelp(const std::string& file) {

@@ -2,7 +2,7 @@
 // The desktop program.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QTimer>
@@ -14,6 +14,7 @@
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/help_desk.h"
 #include "front/desktop/main_window.h"
+#include "front/desktop/own_folder.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
 
@@ -21,26 +22,31 @@ namespace {
 
 using namespace korvane;
 
-/// The user's own folder where the program's cannot be written.
-Folders FoldersOf(const std::string& data) {
-  Folders folders{data, {}};
-  if (QFileInfo(QString::fromStdString(data)).isWritable()) return folders;
-  const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-  QDir().mkpath(own);
-  folders.own = own.toStdString();
-  return folders;
-}
-
 Theme ThemeOf(const QString& name) {
   if (name == QLatin1String("light")) return Theme::Light;
   return name == QLatin1String("dark") ? Theme::Dark : Theme::System;
 }
 
+/// Ends the program after the window's first picture: how long a start takes.
+class FirstPaint : public QObject {
+public:
+  using QObject::QObject;
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    // The children are painted before the queue goes on.
+    if (event->type() == QEvent::Paint) QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    return QObject::eventFilter(watched, event);
+  }
+};
+
 int Run(QApplication& app, const QCommandLineParser& parser, const QString& screenshots) {
   const auto library =
       ReadLibrary(FindDataFolder(parser.value(QStringLiteral("data")).toStdString()));
   DesktopPlatform platform;
-  Session session(library, platform, LocaleWritesComma(), FoldersOf(library->folder));
+  Session session(library, platform, LocaleWritesComma(),
+                  FoldersOf(library->folder,
+                            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
   session.Start();
   Desktop desktop(session);
   platform.SetWindow(&desktop.window());
@@ -58,6 +64,9 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
     QMessageBox::critical(&desktop.window(), QString(), text);
   });
   if (!screenshots.isEmpty()) return WriteScreenshots(desktop, screenshots) ? 0 : 1;
+  if (parser.isSet(QStringLiteral("until-painted"))) {
+    desktop.window().installEventFilter(new FirstPaint(&desktop));
+  }
   desktop.window().show();
   if (const QStringList files = parser.positionalArguments(); !files.isEmpty()) {
     desktop.OpenFile(QFileInfo(files.first()).absoluteFilePath());
@@ -83,11 +92,14 @@ int main(int argc, char** argv) {
   parser.addPositionalArgument(QStringLiteral("FILE.kvn"), QApplication::tr("Project to open"));
   QCommandLineOption shots(QStringLiteral("screenshots"), QString(), QStringLiteral("OUT"));
   shots.setFlags(QCommandLineOption::HiddenFromHelp);
+  QCommandLineOption painted(QStringLiteral("until-painted"));
+  painted.setFlags(QCommandLineOption::HiddenFromHelp);
   parser.addOptions(
       {{QStringLiteral("data"), QApplication::tr("Data folder"), QStringLiteral("FOLDER")},
        {QStringLiteral("theme"), QApplication::tr("light, dark or system"),
         QStringLiteral("THEME")},
-       shots});
+       shots,
+       painted});
   parser.process(app);
   korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
   try {

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/desktop/main_window.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
+#include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <algorithm>
 
 #include "front/desktop/desktop.h"
 #include "front/desktop/diagram_pane.h"
@@ -31,11 +34,11 @@ struct Shortcut {
   const char* command;
   const char* keys;
 };
-constexpr Shortcut kShortcuts[] = {
-    {"mnunew", "Ctrl+N"},           {"mnuopen", "Ctrl+O"},          {"mnusave", "Ctrl+S"},
-    {"mnusaveas", "Ctrl+Shift+S"},  {"mnuprint11", "Ctrl+P"},       {"mnuexit", "Ctrl+Q"},
-    {"mnurecentfile(1)", "Ctrl+1"}, {"mnurecentfile(2)", "Ctrl+2"}, {"mnurecentfile(3)", "Ctrl+3"},
-    {"mnurecentfile(4)", "Ctrl+4"}};
+constexpr Shortcut kShortcuts[] = {{"mnunew", "Ctrl+N"},           {"mnuopen", "Ctrl+O"},
+                                   {"mnusave", "Ctrl+S"},          {"mnusaveas", "Ctrl+Shift+S"},
+                                   {"mnuprint11", "Ctrl+P"},       {"mnuexit", "Ctrl+Q"},
+                                   {"mnurecentfile(1)", "Ctrl+1"}, {"mnurecentfile(2)", "Ctrl+2"},
+                                   {"mnurecentfile(3)", "Ctrl+3"}, {"mnurecentfile(4)", "Ctrl+4"}};
 
 }  // namespace
 
@@ -64,6 +67,9 @@ MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
   }
   binder_ = new FormBinder(desktop_, maker.form(), this);
   connect(&desktop_, &Desktop::Refreshed, this, &MainWindow::Refresh);
+  // The field in use has been left by then: the binder hears the button first.
+  connect(centralWidget()->findChild<QAbstractButton*>(QStringLiteral("cmdpic")),
+          &QAbstractButton::clicked, this, &MainWindow::RaiseDiagrams);
   RestoreSizes();
 }
 
@@ -149,6 +155,26 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   SaveSizes();
   desktop_.CloseForm("korvane");
   event->accept();
+}
+
+void MainWindow::RaiseDiagrams() {
+  raise();
+  int missing = 0;
+  for (DiagramPane* plane : planes_) {
+    plane->Refresh();
+    missing = std::max(missing, plane->minimumHeight() - plane->parentWidget()->height());
+  }
+  auto* rows = centralWidget()->findChild<QSplitter*>(QStringLiteral("results_diagrams"));
+  const QList<int> sizes = rows->sizes();
+  // The splitter keeps the least height of the results above.
+  if (missing > 0) rows->setSizes({std::max(0, sizes[0] - missing), sizes[1] + missing});
+  for (const DiagramPane* plane : planes_) {
+    auto* scroll = qobject_cast<QScrollArea*>(plane->parentWidget()->parentWidget());
+    for (const char* moments : {"picmy", "picmz"}) {
+      DiagramBox* box = plane->Box(moments);
+      if (scroll != nullptr && box != nullptr) scroll->ensureWidgetVisible(box, 0, 0);
+    }
+  }
 }
 
 bool MainWindow::event(QEvent* event) {

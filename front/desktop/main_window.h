@@ -27,6 +27,8 @@ public:
   QAction* ActionOf(const std::string& command) const;
   /// Progress of a search in the status bar; all is 0 at its end.
   void ShowProgress(int done, int all);
+  /// Draws the diagrams anew, gives them the room that they need and scrolls to the moments.
+  void RaiseDiagrams();
 
 protected:
   void closeEvent(QCloseEvent* event) override;

@@ -4,9 +4,11 @@
 #include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <QSaveFile>
 #include <QSvgGenerator>
 
 #include "front/desktop/theme.h"
@@ -47,18 +49,23 @@ void Pane::Export(bool vector) {
   const QString path = QFileDialog::getSaveFileName(
       this, QString(), ExportName() + QStringLiteral(".") + ending, QStringLiteral("*.") + ending);
   if (path.isEmpty()) return;
-  if (!vector) {
+  QSaveFile file(path);
+  const bool open = file.open(QIODevice::WriteOnly);
+  if (open && vector) {
+    QSvgGenerator generator;
+    generator.setOutputDevice(&file);
+    generator.setSize(size());
+    generator.setViewBox(rect());
+    render(&generator);
+  } else if (open) {
     QPixmap picture(size() * 2);
     picture.setDevicePixelRatio(2);
     render(&picture);
-    picture.save(path);
-    return;
+    picture.save(&file, "PNG");
   }
-  QSvgGenerator generator;
-  generator.setFileName(path);
-  generator.setSize(size());
-  generator.setViewBox(rect());
-  render(&generator);
+  // A full disk shows only when the file is closed.
+  if (open && file.commit()) return;
+  QMessageBox::warning(this, QString(), tr("The picture could not be written to\n%1").arg(path));
 }
 
 // --- Values -------------------------------------------------------------------------------------

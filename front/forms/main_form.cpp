@@ -355,6 +355,7 @@ void AddButtons(std::vector<Control>& c) {
     s.Show("Modal_ns");
   }));
   c.back().enabled = [](const Session& s) { return s.st().ModalAnalysis == 1; };
+  // The pictures show the last calculation; drawing them is the window's affair.
   c.push_back(Button("cmdpic", "Draw results", [](Session&) {}));
   c.push_back(Button("Picture", "Pictures", opens("Pictures")));
 }
