@@ -93,15 +93,20 @@ void DesktopPlatform::Print(const Design& design, int kind, int copies) {
   // The page brings its own frame and margins, counted from the edge of the paper.
   printer_->setFullPage(true);
   printer_->setPageMargins(QMarginsF(0, 0, 0, 0));
-  printer_->setCopyCount(copies);
+  // A printer that can't repeat a document, a file above all, gets a page for each copy.
+  const bool repeats = printer_->supportsMultipleCopies();
+  printer_->setCopyCount(repeats ? copies : 1);
   const Report report = kind == 0 ? Report::SectionProperty : Report::SectionAndStability;
   printer_->setDocName(QString::fromUtf8(ReportTitle(report)));
   QPainter painter;
   if (!painter.begin(printer_.get())) return;
-  PainterTarget page(painter, kPageWidth, kPageHeight,
-                     QRectF(0, 0, printer_->width(), printer_->height()), Palette::Light());
   const DateTime now = Now();
-  DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute});
+  for (int page = 0; page < (repeats ? 1 : copies); ++page) {
+    if (page > 0) printer_->newPage();
+    PainterTarget target(painter, kPageWidth, kPageHeight,
+                         QRectF(0, 0, printer_->width(), printer_->height()), Palette::Light());
+    DrawReport(target, report, design, {now.year, now.month, now.day, now.hour, now.minute});
+  }
 }
 
 void DesktopPlatform::OpenHelp(const std::string& file) {
