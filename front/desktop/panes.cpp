@@ -3,6 +3,7 @@
 
 #include <QContextMenuEvent>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -26,6 +27,18 @@ void Pane::paintEvent(QPaintEvent*) {
     Draw(painter);
   } catch (const ArithmeticFault&) {
     // What can't be drawn stays away; the calculation tells what is wrong.
+  }
+  if (!hasFocus()) return;
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+  painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
+void Pane::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Space) {
+    emit Clicked();
+  } else {
+    QWidget::keyPressEvent(event);
   }
 }
 
@@ -82,6 +95,7 @@ void ValueLabel::ShowValue(const QString& text) {
 FigurePane::FigurePane(const Session& session, std::string form, QWidget* parent)
     : Pane(session, parent), form_(std::move(form)) {
   setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);
   setMinimumSize(Ems(this, 14), Ems(this, 13));
 }
 

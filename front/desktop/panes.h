@@ -26,6 +26,8 @@ signals:
 protected:
   void paintEvent(QPaintEvent*) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  /// The space bar is a click.
+  void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   /// Draws the pane; an arithmetic failure leaves it empty from there on.
   virtual void Draw(QPainter& painter) = 0;
@@ -78,11 +80,13 @@ public:
   void Refresh() override;
   /// The lines as text, as the context menu copies them.
   QStringList Lines() const;
+  void Copy() const;
   QSize sizeHint() const override;
 
 protected:
   void Draw(QPainter& painter) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <algorithm>
@@ -52,6 +53,7 @@ constexpr double kMostLetters = 1.5;
 
 ResultPane::ResultPane(const Session& session, Form form, QWidget* parent)
     : Pane(session, parent), form_(form) {
+  setFocusPolicy(Qt::TabFocus);
   Refresh();
 }
 
@@ -200,9 +202,20 @@ void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
 
 void ResultPane::contextMenuEvent(QContextMenuEvent* event) {
   QMenu menu;
-  menu.addAction(tr("Copy result lines"), this,
-                 [this] { QApplication::clipboard()->setText(Lines().join(QLatin1Char('\n'))); });
+  menu.addAction(tr("Copy result lines"), QKeySequence::Copy, this, [this] { Copy(); });
   menu.exec(event->globalPos());
+}
+
+void ResultPane::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) {
+    Copy();
+  } else {
+    Pane::keyPressEvent(event);
+  }
+}
+
+void ResultPane::Copy() const {
+  QApplication::clipboard()->setText(Lines().join(QLatin1Char('\n')));
 }
 
 }  // namespace korvane

@@ -3,7 +3,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -12,6 +11,7 @@
 #include "front/desktop/icons.h"
 #include "front/desktop/mode_pane.h"
 #include "front/desktop/panes.h"
+#include "front/desktop/size_list.h"
 #include "front/desktop/theme.h"
 
 namespace korvane {
@@ -109,7 +109,7 @@ QWidget* WidgetMaker::Make(const std::string& name) {
 }
 
 QWidget* WidgetMaker::MakeOpenList(const std::string& name) {
-  auto* list = new QListWidget;
+  auto* list = new SizeList;
   list->setObjectName(Q(name));
   list->setUniformItemSizes(true);
   int widest = 0;

@@ -344,7 +344,8 @@ void AddButtons(std::vector<Control>& c) {
     s.Show("Modal_ns");
   }));
   c.back().enabled = [](const Session& s) { return s.st().ModalAnalysis == 1; };
-  c.push_back(Button("cmdpic", "Draw results", [](Session&) {}));
+  c.push_back(Button("cmdpic", "Draw results", [](Session& s) { ComposeResults(s.design()); }));
+  c.back().tip = "Draws the diagrams, the figure and the result lines anew";
   c.push_back(Button("Picture", "Pictures", opens("Pictures")));
 }
 

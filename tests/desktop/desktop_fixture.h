@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <deque>
