@@ -74,7 +74,7 @@ DiagramPane::DiagramPane(const Session& session, std::vector<std::string> contro
     : QWidget(parent), session_(session), controls_(std::move(controls)) {
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::Base);
-  setMinimumWidth(Ems(this, 22));
+  setMinimumWidth(Ems(this, 18));
 }
 
 std::vector<DiagramKind> DiagramPane::Wanted() const {

@@ -28,10 +28,15 @@ void Pane::paintEvent(QPaintEvent*) {
   } catch (const ArithmeticFault&) {
     // What can't be drawn stays away; the calculation tells what is wrong.
   }
-  if (!hasFocus()) return;
+  if (!hasFocus() || !framed_) return;
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
   painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
+void Pane::focusInEvent(QFocusEvent* event) {
+  framed_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  QWidget::focusInEvent(event);
 }
 
 void Pane::keyPressEvent(QKeyEvent* event) {
@@ -125,7 +130,7 @@ VerdictPane::VerdictPane(const Session& session, QWidget* parent) : Pane(session
 }
 
 QSize VerdictPane::sizeHint() const {
-  return {Ems(this, 17), Ems(this, 3.6)};
+  return {Ems(this, 20), Ems(this, 3.6)};
 }
 
 void VerdictPane::Refresh() {
@@ -163,8 +168,10 @@ void VerdictPane::Draw(QPainter& painter) {
   const int figureWidth = QFontMetrics(big).horizontalAdvance(figure_);
   painter.setFont(font());
   painter.setPen(palette().color(QPalette::PlaceholderText));
-  painter.drawText(figureBox.adjusted(0, 0, -figureWidth - Ems(this, 0.8), 0),
-                   Qt::AlignVCenter | Qt::AlignRight, tr("max IR"));
+  const QRect rest = figureBox.adjusted(0, 0, -figureWidth - Ems(this, 0.8), 0);
+  // Where there is no room the figure speaks for itself.
+  if (fontMetrics().horizontalAdvance(tr("max IR")) > rest.width()) return;
+  painter.drawText(rest, Qt::AlignVCenter | Qt::AlignRight, tr("max IR"));
 }
 
 }  // namespace korvane

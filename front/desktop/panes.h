@@ -26,6 +26,8 @@ signals:
 protected:
   void paintEvent(QPaintEvent*) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  /// A frame tells that the Tab key has come here.
+  void focusInEvent(QFocusEvent* event) override;
   /// The space bar is a click.
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
@@ -38,6 +40,7 @@ protected:
 
 private:
   void Export(bool vector);
+  bool framed_ = false;
 };
 
 /// The value of a label with its unit in a quieter label of its own.
