@@ -12,10 +12,18 @@ install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # Debian wants manual pages and the changelog compressed.
 find_program(GZIP gzip REQUIRED)
-set(KORVANE_MAN ${CMAKE_BINARY_DIR}/korvane-cli.1.gz)
-add_custom_command(OUTPUT ${KORVANE_MAN}
-  COMMAND ${GZIP} -9nc ${CMAKE_SOURCE_DIR}/docs/man/korvane-cli.1 > ${KORVANE_MAN}
-  DEPENDS ${CMAKE_SOURCE_DIR}/docs/man/korvane-cli.1)
+set(KORVANE_PAGES korvane-cli)
+if(TARGET korvane)
+  list(APPEND KORVANE_PAGES korvane)
+endif()
+set(KORVANE_MAN)
+foreach(page ${KORVANE_PAGES})
+  set(packed ${CMAKE_BINARY_DIR}/${page}.1.gz)
+  add_custom_command(OUTPUT ${packed}
+    COMMAND ${GZIP} -9nc ${CMAKE_SOURCE_DIR}/docs/man/${page}.1 > ${packed}
+    DEPENDS ${CMAKE_SOURCE_DIR}/docs/man/${page}.1)
+  list(APPEND KORVANE_MAN ${packed})
+endforeach()
 add_custom_target(korvane_man ALL DEPENDS ${KORVANE_MAN})
 install(FILES ${KORVANE_MAN} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 set(KORVANE_CHANGELOG ${CMAKE_BINARY_DIR}/changelog.gz)

@@ -52,6 +52,7 @@ void Session::Promote(const std::string& name) {
 
 void Session::NewCommand() {
   NewProject(st(), folders_.program);
+  ReadOwnDefaults();
   ResetDatabase(database_);
   Calculate();
 }

@@ -2,9 +2,8 @@
 // The desktop program.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
-#include <QStandardPaths>
 #include <QTimer>
 #include <cstdio>
 
@@ -13,22 +12,13 @@
 #include "front/desktop/desktop.h"
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/main_window.h"
+#include "front/desktop/own_folder.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
 
 namespace {
 
 using namespace korvane;
-
-/// The user's own folder where the program's cannot be written.
-Folders FoldersOf(const std::string& data) {
-  Folders folders{data, {}};
-  if (QFileInfo(QString::fromStdString(data)).isWritable()) return folders;
-  const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-  QDir().mkpath(own);
-  folders.own = own.toStdString();
-  return folders;
-}
 
 Theme ThemeOf(const QString& name) {
   if (name == QLatin1String("light")) return Theme::Light;
@@ -69,7 +59,7 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Korvane_ns"));
-  QApplication::setApplicationDisplayName(QStringLiteral("KORVANE-NS3472"));
+  // No display name: it would be appended to the title of each window.
   QApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
   QApplication::setDesktopFileName(QStringLiteral("korvane"));
   QCommandLineParser parser;

@@ -1,14 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAbstractButton>
 #include <QApplication>
+#include <QCryptographicHash>
+#include <QCursor>
+#include <QDir>
+#include <QFile>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
 #include <QSettings>
 #include <QSplitter>
 #include <QStandardPaths>
 
 #include "core/project_file.h"
 #include "front/desktop/desktop_platform.h"
+#include "front/desktop/own_folder.h"
 #include "tests/desktop/desktop_fixture.h"
+#include "tests/desktop/real_desktop.h"
 
 namespace korvane {
 namespace {
@@ -61,6 +71,95 @@ TEST(DesktopPlatformTest, MessageBoxDoesNotDisturbTheField) {
   EXPECT_EQ(told, " L >= 0.050 ");
   EXPECT_TRUE(length->hasFocus());
   EXPECT_EQ(session.Calculations(), calculations);
+}
+
+TEST(OwnFolderTest, AWritableProgramFolderIsUsed) {
+  const QTemporaryDir folder;
+  EXPECT_EQ(FoldersOf(folder.path().toStdString()).own, "");
+  EXPECT_TRUE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+TEST(OwnFolderTest, AProgramFolderWithoutWritingGivesTheUsersOwn) {
+  // Nobody can make files among the processes, whatever the rights say.
+  const Folders folders = FoldersOf("/proc/self");
+  EXPECT_EQ(folders.program, "/proc/self");
+  const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+  EXPECT_EQ(folders.own, own.toStdString());
+  EXPECT_TRUE(QDir(own).exists());
+}
+
+QStringList FilesIn(const QString& folder) {
+  return QDir(folder).entryList(QDir::Files, QDir::Name);
+}
+
+TEST_F(DesktopTest, DefaultsGoToTheOwnFolderAndAreReadFromThereFirst) {
+  const QString program = QString::fromStdString(library_->folder);
+  const QStringList before = FilesIn(program);
+  const QByteArray defaults = QCryptographicHash::hash(
+      [&] {
+        QFile file(program + "/default_ns.dat");
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+      }(),
+      QCryptographicHash::Sha1);
+  Menu("mnusetup");
+  TypeInto(On<QLineEdit>(Window("setup"), "idef_limit"), "444");
+  On<QPushButton>(Window("setup"), "Command2").click();
+  EXPECT_EQ(FilesIn(folder_.path()), QStringList{"default_ns.dat"});
+  EXPECT_EQ(FilesIn(program), before);
+  QFile kept(program + "/default_ns.dat");
+  ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+  EXPECT_EQ(QCryptographicHash::hash(kept.readAll(), QCryptographicHash::Sha1), defaults);
+  Session next(library_, platform_, false, Folders{library_->folder, folder_.path().toStdString()});
+  next.Start();
+  EXPECT_EQ(int(next.st().DeflectionLimit), 444);
+  next.Menu("mnunew");
+  EXPECT_EQ(int(next.st().DeflectionLimit), 444);
+}
+
+TEST_F(DesktopTest, DatabaseGoesToTheOwnFolder) {
+  const QStringList before = FilesIn(QString::fromStdString(library_->folder));
+  Menu("mnup04");
+  On<QPushButton>(Window("p04"), "addtodb").click();
+  Menu("mnudb");
+  platform_.answers = {"korvane.db"};
+  On<QPushButton>(Window("database"), "save_db").click();
+  EXPECT_EQ(FilesIn(folder_.path()), QStringList{"korvane.db"});
+  EXPECT_EQ(FilesIn(QString::fromStdString(library_->folder)), before);
+  On<QPushButton>(Window("database"), "Command1").click();
+  EXPECT_EQ(On<QListWidget>(Window("database"), "cbo").count(), 0);
+  platform_.answers = {folder_.filePath("korvane.db").toStdString()};
+  On<QPushButton>(Window("database"), "open_db").click();
+  EXPECT_EQ(On<QListWidget>(Window("database"), "cbo").count(), 1);
+  Session next(library_, platform_, false, Folders{library_->folder, folder_.path().toStdString()});
+  next.Start();
+  EXPECT_EQ(next.Items("database.cbo").size(), 1u);
+}
+
+TEST_F(RealDesktopTest, SearchShowsWaitCursorAndProgress) {
+  desktop_->Command("mnuload1");
+  desktop_->Act([&] {
+    session_.Enter("loading.iq1", "10");
+    session_.Close("loading");
+  });
+  auto* bar = Main().findChild<QProgressBar*>();
+  ASSERT_NE(bar, nullptr);
+  int waiting = 0, shown = 0, last = 0;
+  QObject::connect(&platform_, &DesktopPlatform::Progressed, [&](int done, int all) {
+    if (all == 0) return;
+    const QCursor* cursor = QApplication::overrideCursor();
+    waiting += cursor != nullptr && cursor->shape() == Qt::WaitCursor ? 1 : 0;
+    shown += bar->isVisible() ? 1 : 0;
+    EXPECT_GE(done, last);
+    last = done;
+  });
+  desktop_->Command("mnuopt");
+  FormWindow& window = *desktop_->WindowOf("optroll");
+  window.findChild<QAbstractButton*>("cbp04")->click();
+  EXPECT_GT(waiting, 3);
+  EXPECT_EQ(shown, waiting);
+  EXPECT_GT(last, 0);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  EXPECT_FALSE(bar->isVisible());
 }
 
 TEST_F(DesktopTest, FailureOutsideAFieldWritesARecoveryProject) {
