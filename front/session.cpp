@@ -26,19 +26,22 @@ Session::Session(std::shared_ptr<const Library> library, Platform& platform, boo
 void Session::Start() {
   title_ = "KORVANE-NS3472: ";
   StartDesign(design_);
-  if (folders_.own != folders_.program) {
-    ReadDefaults(folders_.own, design_.st);
-    try {
-      SetMaterial(design_.lib->materials, design_.rec.tmax, design_.st);
-    } catch (const ArithmeticFault&) {
-      // Defaults without a material factor; the first calculation says so.
-    }
-  }
+  ReadOwnDefaults();
   ResetDatabase(database_);
   database_.DbFile = "korvane.db";
   ReadDatabase(DatabasePath(database_.DbFile), database_);
   open_ = {"korvane"};
   FillMainWindow();
+}
+
+void Session::ReadOwnDefaults() {
+  if (folders_.own == folders_.program) return;
+  ReadDefaults(folders_.own, design_.st);
+  try {
+    SetMaterial(design_.lib->materials, design_.rec.tmax, design_.st);
+  } catch (const ArithmeticFault&) {
+    // Defaults without a material factor; the first calculation says so.
+  }
 }
 
 std::string Session::DatabasePath(const std::string& file) const {

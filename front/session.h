@@ -146,6 +146,8 @@ private:
   };
 
   Place Find(const std::string& control) const;
+  /// Defaults that the program has written itself stand above those of its folder.
+  void ReadOwnDefaults();
   void RunCalculation();
   bool Accept(const Place& place, const FieldRule& rule);
   void Mismatch(const Place& place);

@@ -54,6 +54,7 @@ void Session::PromoteEntry(int entry) {
 
 void Session::NewCommand() {
   NewProject(st(), folders_.program);
+  ReadOwnDefaults();
   ResetDatabase(database_);
   Calculate();
 }

@@ -70,7 +70,7 @@ void DesktopPlatform::Message(const std::string& text) {
 
 void DesktopPlatform::ShowMessages() {
   while (!waiting_.isEmpty()) {
-    QMessageBox box(QMessageBox::Warning, QApplication::applicationDisplayName(), waiting_.first(),
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("KORVANE-NS3472"), waiting_.first(),
                     QMessageBox::Ok, window_);
     box.exec();
     waiting_.removeFirst();

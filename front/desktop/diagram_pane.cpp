@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/desktop/diagram_pane.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 #include "front/desktop/theme.h"
 #include "front/painter/painter_target.h"
@@ -25,6 +27,8 @@ constexpr double kLeastUnit = 1.8;
 constexpr double kMostStretch = 1.25;
 /// The grid unit, in ems of the letters, at which lines have their own width.
 constexpr double kPenUnit = 0.5;
+/// Step of the arrow keys, a part of the length: from station to station.
+constexpr double kStep = 1.0 / 50;
 
 DiagramData DataOf(const Session& s) {
   const Design& d = s.design();
@@ -36,6 +40,7 @@ DiagramData DataOf(const Session& s) {
 DiagramBox::DiagramBox(const Session& session, DiagramKind kind, QWidget* parent)
     : Pane(session, parent), kind_(kind) {
   setMouseTracking(true);
+  setFocusPolicy(Qt::TabFocus);
   setObjectName(QString::fromUtf8(InfoOf(kind).control));
 }
 
@@ -69,7 +74,7 @@ DiagramPane::DiagramPane(const Session& session, std::vector<std::string> contro
     : QWidget(parent), session_(session), controls_(std::move(controls)) {
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::Base);
-  setMinimumWidth(Ems(this, 22));
+  setMinimumWidth(Ems(this, 18));
 }
 
 std::vector<DiagramKind> DiagramPane::Wanted() const {
@@ -161,7 +166,11 @@ bool DiagramPane::eventFilter(QObject* watched, QEvent* event) {
   if (box != nullptr && event->type() == QEvent::MouseMove) {
     Point(box, static_cast<QMouseEvent*>(event)->position().x());
   }
-  if (box != nullptr && event->type() == QEvent::Leave) {
+  if (box != nullptr && event->type() == QEvent::KeyPress &&
+      Step(box, static_cast<QKeyEvent*>(event)->key())) {
+    return true;
+  }
+  if (box != nullptr && (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut)) {
     for (DiagramBox* b : boxes_) b->SetHairline(-1);
     emit Pointed(QString());
   }
@@ -170,7 +179,22 @@ bool DiagramPane::eventFilter(QObject* watched, QEvent* event) {
 
 void DiagramPane::Point(const DiagramBox* box, double x) {
   const double grid = x / std::max(1, box->width()) * kPictureWidth;
-  const double relative = std::clamp((grid - kMemberLeft) / kMemberWidth, 0.0, 1.0);
+  PointAt(box, std::clamp((grid - kMemberLeft) / kMemberWidth, 0.0, 1.0));
+}
+
+bool DiagramPane::Step(const DiagramBox* box, int key) {
+  const double at = std::max(0.0, box->hairline());
+  const std::map<int, double> goals{{Qt::Key_Left, box->hairline() < 0 ? 1 : at - kStep},
+                                    {Qt::Key_Right, box->hairline() < 0 ? 0 : at + kStep},
+                                    {Qt::Key_Home, 0},
+                                    {Qt::Key_End, 1}};
+  const auto goal = goals.find(key);
+  if (goal == goals.end()) return false;
+  PointAt(box, std::clamp(goal->second, 0.0, 1.0));
+  return true;
+}
+
+void DiagramPane::PointAt(const DiagramBox* box, double relative) {
   for (DiagramBox* b : boxes_) b->SetHairline(relative);
   std::string text =
       ValueUnderPointer(session_.design(), box->objectName().toStdString(), relative);

@@ -20,6 +20,7 @@ public:
   void SetScale(double unit, double letters);
   /// Relative position of the hairline; below 0: none.
   void SetHairline(double relative);
+  double hairline() const { return hairline_; }
 
 protected:
   void Draw(QPainter& painter) override;
@@ -56,6 +57,9 @@ private:
   void Arrange();
   double Letters() const;
   void Point(const DiagramBox* box, double x);
+  /// Moves the hairline by a key; false for keys that don't.
+  bool Step(const DiagramBox* box, int key);
+  void PointAt(const DiagramBox* box, double relative);
   const Session& session_;
   std::vector<std::string> controls_;
   std::vector<DiagramBox*> boxes_;

@@ -15,6 +15,7 @@
 
 #include "front/desktop/desktop.h"
 #include "front/desktop/panes.h"
+#include "front/desktop/tab_order.h"
 #include "front/desktop/theme.h"
 
 namespace korvane {
@@ -53,7 +54,7 @@ FormBinder::FormBinder(Desktop& desktop, const Form& form, QWidget* root)
     }
     Describe(bound);
   }
-  ChainTabs();
+  ChainTabsByLayout(root_);
   desktop_.Attach(this);
 }
 
@@ -171,15 +172,6 @@ void FormBinder::Describe(const Bound& bound) const {
     QString tip = Q(c.tip).trimmed();
     if (tip.isEmpty() && c.kind == Kind::Input) tip = name;
     bound.widget->setToolTip(tip);
-  }
-}
-
-void FormBinder::ChainTabs() const {
-  QWidget* before = nullptr;
-  for (const Bound& bound : bound_) {
-    if (bound.widget->focusPolicy() == Qt::NoFocus) continue;
-    if (before != nullptr) QWidget::setTabOrder(before, bound.widget);
-    before = bound.widget;
   }
 }
 

@@ -52,7 +52,6 @@ private:
   void BindButton(Bound& bound);
   void BindList(Bound& bound);
   void Describe(const Bound& bound) const;
-  void ChainTabs() const;
 
   Desktop& desktop_;
   const Form& form_;

@@ -46,7 +46,7 @@ QString HelpDesk::FormInFront() const {
 void HelpDesk::Open(const QString& place) {
   if (!book_.Exists()) {
     auto* box = new QMessageBox(
-        QMessageBox::Warning, QApplication::applicationDisplayName(),
+        QMessageBox::Warning, QStringLiteral("KORVANE-NS3472"),
         tr("The help book was not found. It belongs into the folder share/korvane/help beside "
            "the program's own folder; installing the program again puts it there."),
         QMessageBox::Ok, &window_);

@@ -83,7 +83,7 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Korvane_ns"));
-  QApplication::setApplicationDisplayName(QStringLiteral("KORVANE-NS3472"));
+  // No display name: it would be appended to the title of each window.
   QApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
   QApplication::setDesktopFileName(QStringLiteral("korvane"));
   QCommandLineParser parser;

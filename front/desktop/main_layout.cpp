@@ -17,6 +17,9 @@ namespace korvane {
 
 namespace {
 
+/// Least width of the diagrams of a plane, ems.
+constexpr double kLeastPlane = 18;
+
 QVBoxLayout* Inside(QGroupBox* group) {
   auto* column = new QVBoxLayout(group);
   const int gap = Ems(group, 0.45);
@@ -185,7 +188,9 @@ QWidget* MainWindow::Plane(WidgetMaker& maker, const char* frame, std::vector<st
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  scroll->setMinimumWidth(Ems(this, 22));
+  scroll->setMinimumWidth(Ems(this, kLeastPlane));
+  // The frame's caption may be wider; large letters on a small screen need the room.
+  group->setMinimumWidth(Ems(this, kLeastPlane + 0.5));
   column->addWidget(scroll);
   return group;
 }

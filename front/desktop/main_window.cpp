@@ -90,6 +90,10 @@ void MainWindow::MakeMenus() {
       QMenu* menu = above == nullptr ? menuBar()->addMenu(caption) : above->addMenu(caption);
       menu->menuAction()->setObjectName(QString::fromStdString(c.name));
       menus[c.name] = menu;
+      // Opening some menus is an action of its own.
+      connect(menu, &QMenu::aboutToShow, this, [this, name = c.name] {
+        if (!desktop_.Busy()) desktop_.session().Menu(name);
+      });
       continue;
     }
     auto* action = new QAction(c.caption == "-" ? QString() : caption, this);

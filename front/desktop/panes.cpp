@@ -3,6 +3,7 @@
 
 #include <QContextMenuEvent>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
@@ -28,6 +29,23 @@ void Pane::paintEvent(QPaintEvent*) {
     Draw(painter);
   } catch (const ArithmeticFault&) {
     // What can't be drawn stays away; the calculation tells what is wrong.
+  }
+  if (!hasFocus() || !framed_) return;
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+  painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
+void Pane::focusInEvent(QFocusEvent* event) {
+  framed_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  QWidget::focusInEvent(event);
+}
+
+void Pane::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Space) {
+    emit Clicked();
+  } else {
+    QWidget::keyPressEvent(event);
   }
 }
 
@@ -89,6 +107,7 @@ void ValueLabel::ShowValue(const QString& text) {
 FigurePane::FigurePane(const Session& session, std::string form, QWidget* parent)
     : Pane(session, parent), form_(std::move(form)) {
   setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);
   setMinimumSize(Ems(this, 14), Ems(this, 13));
 }
 
@@ -118,7 +137,7 @@ VerdictPane::VerdictPane(const Session& session, QWidget* parent) : Pane(session
 }
 
 QSize VerdictPane::sizeHint() const {
-  return {Ems(this, 17), Ems(this, 3.6)};
+  return {Ems(this, 20), Ems(this, 3.6)};
 }
 
 void VerdictPane::Refresh() {
@@ -156,8 +175,10 @@ void VerdictPane::Draw(QPainter& painter) {
   const int figureWidth = QFontMetrics(big).horizontalAdvance(figure_);
   painter.setFont(font());
   painter.setPen(palette().color(QPalette::PlaceholderText));
-  painter.drawText(figureBox.adjusted(0, 0, -figureWidth - Ems(this, 0.8), 0),
-                   Qt::AlignVCenter | Qt::AlignRight, tr("max IR"));
+  const QRect rest = figureBox.adjusted(0, 0, -figureWidth - Ems(this, 0.8), 0);
+  // Where there is no room the figure speaks for itself.
+  if (fontMetrics().horizontalAdvance(tr("max IR")) > rest.width()) return;
+  painter.drawText(rest, Qt::AlignVCenter | Qt::AlignRight, tr("max IR"));
 }
 
 }  // namespace korvane

@@ -26,6 +26,10 @@ signals:
 protected:
   void paintEvent(QPaintEvent*) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  /// A frame tells that the Tab key has come here.
+  void focusInEvent(QFocusEvent* event) override;
+  /// The space bar is a click.
+  void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   /// Draws the pane; an arithmetic failure leaves it empty from there on.
   virtual void Draw(QPainter& painter) = 0;
@@ -36,6 +40,7 @@ protected:
 
 private:
   void Export(bool vector);
+  bool framed_ = false;
 };
 
 /// The value of a label with its unit in a quieter label of its own.
@@ -78,11 +83,13 @@ public:
   void Refresh() override;
   /// The lines as text, as the context menu copies them.
   QStringList Lines() const;
+  void Copy() const;
   QSize sizeHint() const override;
 
 protected:
   void Draw(QPainter& painter) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
 private:

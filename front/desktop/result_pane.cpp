@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <algorithm>
@@ -41,17 +42,21 @@ QString TextOf(const ViewLine& line) {
   return text;
 }
 
-constexpr double kTabEms = 7.2;
+constexpr double kTabEms = 7.9;
 constexpr double kBarEms = 3;
 constexpr double kMostBarEms = 16;
 /// From this width on, in ems, the letters grow, up to so many times their size.
 constexpr double kWidePane = 70;
 constexpr double kMostLetters = 1.5;
+/// Below this width they shrink, down to so much of their size.
+constexpr double kNarrowPane = 38;
+constexpr double kLeastLetters = 0.75;
 
 }  // namespace
 
 ResultPane::ResultPane(const Session& session, Form form, QWidget* parent)
     : Pane(session, parent), form_(form) {
+  setFocusPolicy(Qt::TabFocus);
   Refresh();
 }
 
@@ -94,11 +99,9 @@ void ResultPane::Measure() {
     if (HasRatio(line)) bars_ = std::max(bars_, WidthOf(line));
   }
   bars_ += Ems(this, 1.2);
-  if (form_ == Form::Long) {
-    double widest = 0;
-    for (const ViewLine& line : view_) widest = std::max(widest, WidthOf(line));
-    setMinimumWidth(qRound(widest) + Ems(this, 1));
-  }
+  double widest = 0;
+  for (const ViewLine& line : view_) widest = std::max(widest, WidthOf(line));
+  setMinimumWidth(qRound(widest) + Ems(this, 1));
   setMinimumHeight(qRound(rows * RowHeight()));
 }
 
@@ -115,11 +118,14 @@ void ResultPane::Refresh() {
 void ResultPane::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   if (form_ == Form::Short && parentWidget() != nullptr) {
-    QFont large = parentWidget()->font();
-    const double ems = QFontMetricsF(large).height() * 0.75;
-    large.setPointSizeF(large.pointSizeF() *
-                        std::clamp(width() / (ems * kWidePane), 1.0, kMostLetters));
-    setFont(large);
+    // The room is the parent's: the pane itself is never narrower than its lines.
+    QFont fitted = parentWidget()->font();
+    const double ems = QFontMetricsF(fitted).height() * 0.75;
+    const double room = parentWidget()->width() / ems;
+    const double letters = room < kNarrowPane ? std::max(room / kNarrowPane, kLeastLetters)
+                                              : std::max(room / kWidePane, 1.0);
+    fitted.setPointSizeF(fitted.pointSizeF() * std::min(letters, kMostLetters));
+    setFont(fitted);
   }
   Measure();
 }
@@ -200,9 +206,20 @@ void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
 
 void ResultPane::contextMenuEvent(QContextMenuEvent* event) {
   QMenu menu;
-  menu.addAction(tr("Copy result lines"), this,
-                 [this] { QApplication::clipboard()->setText(Lines().join(QLatin1Char('\n'))); });
+  menu.addAction(tr("Copy result lines"), QKeySequence::Copy, this, [this] { Copy(); });
   menu.exec(event->globalPos());
+}
+
+void ResultPane::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) {
+    Copy();
+  } else {
+    Pane::keyPressEvent(event);
+  }
+}
+
+void ResultPane::Copy() const {
+  QApplication::clipboard()->setText(Lines().join(QLatin1Char('\n')));
 }
 
 }  // namespace korvane

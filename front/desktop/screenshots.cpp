@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QPixmap>
+#include <QScreen>
 
 #include "front/desktop/desktop.h"
 #include "front/desktop/form_window.h"
@@ -15,16 +17,36 @@ namespace korvane {
 
 namespace {
 
+/// Dots per inch at which letters have their usual size.
+constexpr int kUsualDpi = 96;
+
+/// Lets the window manager and the painting come to rest.
 void Settle() {
-  for (int k = 0; k < 5; ++k) QCoreApplication::processEvents();
+  QElapsedTimer timer;
+  timer.start();
+  while (!timer.hasExpired(60)) QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
 }
 
-bool Shoot(QWidget& window, const QString& path, qreal ratio = 1) {
+/// What makes these pictures different from the usual ones: scale and size of the letters.
+QString Suffix(const QWidget& window) {
+  QString suffix;
+  const int scale = qRound(window.devicePixelRatioF() * 100);
+  if (scale != 100) suffix += QStringLiteral("-%1").arg(scale);
+  const int letters = qRound(window.logicalDpiY() * 100.0 / kUsualDpi);
+  if (letters != 100) suffix += QStringLiteral("-letters%1").arg(letters);
+  return suffix;
+}
+
+bool Shoot(QWidget& window, const QDir& folder, const QString& name) {
   Settle();
-  QPixmap picture(window.size() * ratio);
-  picture.setDevicePixelRatio(ratio);
-  window.render(&picture);
-  return picture.save(path);
+  return window.grab().save(folder.filePath(name + Suffix(window) + QStringLiteral(".png")));
+}
+
+/// Whether the window got the size; a window manager takes its time, or has no room.
+bool Resize(QWidget& window, const QSize& size) {
+  window.resize(size);
+  for (int k = 0; k < 20 && window.size() != size; ++k) Settle();
+  return window.size() == size;
 }
 
 /// A member with something in every pane.
@@ -56,17 +78,15 @@ void Furnish(Desktop& desktop) {
 bool ShootMain(Desktop& desktop, const QDir& folder, const QString& theme) {
   MainWindow& window = desktop.window();
   bool ok = true;
-  for (const QSize size : {QSize(1280, 720), QSize(1920, 1080), QSize(3840, 2160)}) {
-    window.resize(size);
-    ok = Shoot(window, folder.filePath(QStringLiteral("main-%1x%2-%3.png")
-                                           .arg(size.width())
-                                           .arg(size.height())
-                                           .arg(theme))) &&
-         ok;
+  const QSize screen = window.screen()->size();
+  for (const QSize size : {QSize(3840, 2160), QSize(1920, 1080), QSize(1280, 720)}) {
+    const bool fits = size.width() <= screen.width() && size.height() <= screen.height();
+    if (!fits && QGuiApplication::platformName() != QLatin1String("offscreen")) continue;
+    const QString name =
+        QStringLiteral("main-%1x%2-%3").arg(size.width()).arg(size.height()).arg(theme);
+    ok = Resize(window, size) && Shoot(window, folder, name) && ok;
   }
-  window.resize(1280, 720);
-  return Shoot(window, folder.filePath(QStringLiteral("main-1280x720-200-%1.png").arg(theme)), 2) &&
-         ok;
+  return ok;
 }
 
 bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
@@ -99,10 +119,8 @@ bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
       }
     });
     window->adjustSize();
-    ok = Shoot(
-             *window,
-             folder.filePath(
-                 QStringLiteral("form-%1-%2.png").arg(QString::fromStdString(form.name), theme))) &&
+    ok = Shoot(*window, folder,
+               QStringLiteral("form-%1-%2").arg(QString::fromStdString(form.name), theme)) &&
          ok;
     desktop.Act([&] {
       Session& s = desktop.session();

@@ -1,39 +1,50 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/desktop/size_list.h"
 
-#include <QApplication>
 #include <algorithm>
 
 namespace korvane {
 
 namespace {
 
-/// The text from its first digit on: "HEA 220" gives "220".
-QString SizeOf(const QString& text) {
-  const auto digit =
-      std::find_if(text.begin(), text.end(), [](const QChar& c) { return c.isDigit(); });
-  return text.mid(digit - text.begin());
+/// A pause of so many milliseconds begins a new text.
+constexpr int kPause = 1500;
+
+/// Blanks and the case of letters count for nothing.
+QString Squeezed(const QString& text) {
+  return text.toLower().remove(QLatin1Char(' '));
+}
+
+/// The text from its first digit on.
+QString FromNumber(const QString& text) {
+  const auto digit = std::find_if(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
+  return text.mid(static_cast<int>(digit - text.begin()));
 }
 
 }  // namespace
 
-int SizeList::RowFor(const QString& typed) const {
-  int begins = -1;
+int SizeList::RowOf(const QString& typed) const {
+  int beginning = -1;
   for (int row = 0; row < count(); ++row) {
-    const QString text = item(row)->text();
-    for (const QString& name : {text, SizeOf(text)}) {
-      if (name.compare(typed, Qt::CaseInsensitive) == 0) return row;
-      if (begins < 0 && name.startsWith(typed, Qt::CaseInsensitive)) begins = row;
-    }
+    const QString name = Squeezed(item(row)->text());
+    const QString number = FromNumber(name);
+    if (name == typed || number == typed) return row;
+    if (beginning < 0 && (name.startsWith(typed) || number.startsWith(typed))) beginning = row;
   }
-  return begins;
+  return beginning;
 }
 
-void SizeList::keyboardSearch(const QString& search) {
-  const bool goesOn = since_.isValid() && since_.elapsed() < QApplication::keyboardInputInterval();
-  typed_ = goesOn ? typed_ + search : search;
+void SizeList::keyboardSearch(const QString& keys) {
+  if (!since_.isValid() || since_.hasExpired(kPause)) typed_.clear();
   since_.start();
-  const int row = RowFor(typed_);
+  typed_ += Squeezed(keys);
+  if (typed_.isEmpty()) return;
+  int row = RowOf(typed_);
+  if (row < 0) {
+    // What goes nowhere is forgotten but for its last key, which may begin a new size.
+    typed_ = Squeezed(keys);
+    row = RowOf(typed_);
+  }
   if (row >= 0) setCurrentRow(row);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The open list of a family's sizes, in which typing jumps to a size.
+// A list of section sizes in which typing jumps to the size, by its number or by its whole name.
 #pragma once
 
 #include <QElapsedTimer>
@@ -12,12 +12,11 @@ class SizeList : public QListWidget {
 
 public:
   using QListWidget::QListWidget;
-  /// Keys that follow each other make up a text. The row of that size comes first, then the
-  /// first one that begins with it; the series' name before the size may be typed or left out.
-  void keyboardSearch(const QString& search) override;
+  /// Keys in quick succession make one text: "2", "2", "0" goes to HEA 220.
+  void keyboardSearch(const QString& keys) override;
 
 private:
-  int RowFor(const QString& typed) const;
+  int RowOf(const QString& typed) const;
   QString typed_;
   QElapsedTimer since_;
 };

@@ -22,6 +22,19 @@ QString Q(const std::string& text) {
   return QString::fromStdString(text);
 }
 
+/// From so many letters on a caption takes two lines.
+constexpr int kLongCaption = 46;
+
+/// A long caption in two lines, broken at the blank nearest to its middle.
+QString InLines(const QString& caption) {
+  if (caption.size() <= kLongCaption) return caption;
+  const auto middle = caption.size() / 2;
+  const auto before = caption.lastIndexOf(QLatin1Char(' '), middle);
+  const auto after = caption.indexOf(QLatin1Char(' '), middle);
+  const auto at = after < 0 || middle - before < after - middle ? before : after;
+  return at <= 0 ? caption : caption.left(at) + QLatin1Char('\n') + caption.mid(at + 1);
+}
+
 bool IsFieldRow(const Control& c) {
   return c.kind == Kind::Input || c.kind == Kind::List;
 }
@@ -67,7 +80,7 @@ QWidget* WidgetMaker::NewWidget(const Control& c) {
       return edit;
     }
     case Kind::Option:
-      return new QRadioButton(Q(c.caption));
+      return new QRadioButton(InLines(Q(c.caption)));
     case Kind::Check:
       return new QCheckBox(Q(c.caption));
     case Kind::List: {
@@ -85,7 +98,7 @@ QWidget* WidgetMaker::NewWidget(const Control& c) {
     case Kind::Label: {
       if (IsValue(c)) return new ValueLabel;
       auto* label = new QLabel(Q(c.caption));
-      label->setWordWrap(c.caption.size() > 46);
+      label->setWordWrap(c.caption.size() > kLongCaption);
       return label;
     }
     case Kind::Surface:

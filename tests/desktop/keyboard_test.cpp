@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program by keyboard alone: lists, the order of the Tab key, shortcuts, mnemonics, panes.
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+
+#include "front/desktop/diagram_pane.h"
+#include "front/desktop/size_list.h"
+#include "tests/desktop/desktop_fixture.h"
+
+namespace korvane {
+namespace {
+
+QString Chosen(const SizeList& list) {
+  return list.currentItem()->text().simplified();
+}
+
+TEST_F(DesktopTest, TypedNumberChoosesTheSize) {
+  Menu("mnup01");
+  auto& list = On<SizeList>(Window("p01"), "Cbo");
+  QTest::keyClicks(&list, "220");
+  EXPECT_EQ(Chosen(list), "HEA 220");
+  EXPECT_EQ(session_.Text("korvane.obeam").substr(0, 6), "HEA220");
+  EXPECT_NEAR(session_.design().rec.h, 210, 0.01);
+}
+
+TEST_F(DesktopTest, TypedNumberOfATwoSidedSize) {
+  Menu("mnup07");
+  auto& list = On<SizeList>(Window("p07"), "Cbo");
+  QTest::keyClicks(&list, "200x100x8");
+  EXPECT_EQ(Chosen(list).remove(' '), "RHS200x100x8");
+}
+
+TEST_F(DesktopTest, TypedNumberPrefersTheWholeSize) {
+  Menu("mnup01");
+  auto& list = On<SizeList>(Window("p01"), "Cbo");
+  QTest::keyClicks(&list, "100");
+  EXPECT_EQ(Chosen(list), "HEA 100");  // and not HEA 1000
+  // What leads nowhere begins anew with its last key.
+  QTest::keyClicks(&list, "2");
+  EXPECT_EQ(Chosen(list), "HEA 200");
+}
+
+/// Names of the widgets that Tab visits from a field on.
+QStringList TabOrder(QWidget& window, QWidget& from, int count) {
+  QStringList names;
+  from.setFocus();
+  for (int k = 0; k < count; ++k) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCoreApplication::processEvents();
+    names << QApplication::focusWidget()->objectName();
+  }
+  EXPECT_EQ(QApplication::activeWindow(), &window);
+  return names;
+}
+
+TEST_F(DesktopTest, TabFollowsTheLayout) {
+  EXPECT_EQ(TabOrder(Main(), Field("iproj"), 12),
+            QStringList({"iident", "il", "cbutt0", "cbutt1", "cbutt2", "cbutt3", "cbutt4", "cbutt5",
+                         "cbuttsupport", "cbofyk", "igammam1", "ie"}));
+}
+
+TEST_F(DesktopTest, TabGoesAlongTheRowsOfTheLoads) {
+  Menu("mnuload1");
+  FormWindow& window = Window("loading");
+  EXPECT_EQ(TabOrder(window, On<QLineEdit>(window, "iqt11"), 7),
+            QStringList({"iqt12", "iqt1x1", "iqt1x2", "iqt1_pv", "iqt1_yz", "iqt21", "iqt22"}));
+}
+
+TEST_F(DesktopTest, EveryInputCanBeReachedByTab) {
+  QSet<QString> reached;
+  Field("iproj").setFocus();
+  for (int k = 0; k < 80; ++k) {
+    reached << QApplication::focusWidget()->objectName();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCoreApplication::processEvents();
+  }
+  for (const Control& c : FindForm("korvane")->controls) {
+    const std::string key = "korvane." + c.name;
+    const bool operated = c.kind == Kind::Input || c.kind == Kind::Option ||
+                          c.kind == Kind::Check || c.kind == Kind::List ||
+                          c.kind == Kind::Picture || c.kind == Kind::Button || c.name == "pic1" ||
+                          c.name == "pic31" || c.name == "picmy";
+    if (!operated || !session_.Enabled(key) || !session_.Visible(key)) continue;
+    EXPECT_TRUE(reached.contains(QString::fromStdString(c.name))) << c.name;
+  }
+}
+
+TEST_F(DesktopTest, ShortcutsRunTheirCommands) {
+  const std::string path = folder_.filePath("keys.kvn").toStdString();
+  TypeInto(Field("il"), "7");
+  platform_.answers = {path};
+  QTest::keyClick(&Main(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(session_.Title("korvane"), "KORVANE-NS3472: " + path);
+  TypeInto(Field("il"), "8");
+  QTest::keyClick(&Main(), Qt::Key_S, Qt::ControlModifier);
+  QTest::keyClick(&Main(), Qt::Key_N, Qt::ControlModifier);
+  EXPECT_EQ(session_.st().L, 5.0f);
+  platform_.answers = {path};
+  QTest::keyClick(&Main(), Qt::Key_O, Qt::ControlModifier);
+  EXPECT_EQ(session_.st().L, 8.0f);
+  platform_.print = true;
+  QTest::keyClick(&Main(), Qt::Key_P, Qt::ControlModifier);
+  EXPECT_EQ(platform_.prints, std::vector<std::string>{"1 x 2"});
+  QTest::keyClick(&Main(), Qt::Key_N, Qt::ControlModifier);
+  QTest::keyClick(&Main(), Qt::Key_1, Qt::ControlModifier);
+  EXPECT_EQ(session_.st().L, 8.0f);
+  QSignalSpy ended(desktop_.get(), &Desktop::Ended);
+  QTest::keyClick(&Main(), Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_EQ(ended.count(), 1);
+}
+
+TEST_F(DesktopTest, MnemonicsOpenTheMenus) {
+  for (const auto& [key, name] :
+       {std::pair{Qt::Key_F, "mnufile"}, std::pair{Qt::Key_P, "mnustiff"},
+        std::pair{Qt::Key_R, "mnuprint"}, std::pair{Qt::Key_H, "mnuhelp"}}) {
+    QTest::keyClick(&Main(), key, Qt::AltModifier);
+    QMenu* menu = Main().ActionOf(name)->menu();
+    EXPECT_TRUE(menu->isVisible()) << name;
+    menu->close();
+    QTest::keyClick(Main().menuBar(), Qt::Key_Escape);
+  }
+  for (const auto& [key, form] : {std::pair{Qt::Key_E, "endforce"}, std::pair{Qt::Key_O, "optroll"},
+                                  std::pair{Qt::Key_D, "setup"}}) {
+    Main().activateWindow();
+    QTest::keyClick(&Main(), key, Qt::AltModifier);
+    EXPECT_TRUE(session_.IsOpen(form)) << form;
+    desktop_->CloseForm(form);
+  }
+}
+
+TEST_F(DesktopTest, OpeningTheProfilesMenuLeavesManualCurves) {
+  session_.st().ManualBucklingCurves = 1;
+  Main().ActionOf("mnufile")->menu()->popup({});
+  Main().ActionOf("mnufile")->menu()->close();
+  EXPECT_EQ(int(session_.st().ManualBucklingCurves), 1);
+  Main().ActionOf("mnustiff")->menu()->popup({});
+  Main().ActionOf("mnustiff")->menu()->close();
+  EXPECT_EQ(int(session_.st().ManualBucklingCurves), 0);
+}
+
+TEST_F(DesktopTest, SpaceOnTheFigureTurnsItsScale) {
+  const int before = session_.st().FigureNotToScale;
+  QTest::keyClick(&On<FigurePane>(Main(), "pic1"), Qt::Key_Space);
+  EXPECT_EQ(int(session_.st().FigureNotToScale), 1 - before);
+}
+
+TEST_F(DesktopTest, CopyKeyTakesTheResultLines) {
+  Load("10");
+  QTest::keyClick(&Results(), Qt::Key_C, Qt::ControlModifier);
+  const QString copied = QApplication::clipboard()->text();
+  EXPECT_EQ(copied, ResultText());
+  EXPECT_TRUE(copied.contains("SECTION CONTROL:\n")) << copied.toStdString();
+}
+
+TEST_F(DesktopTest, ArrowKeysWalkAlongTheDiagram) {
+  Load("10");
+  auto& box = On<DiagramBox>(Main(), "picmy");
+  box.setFocus();
+  QTest::keyClick(&box, Qt::Key_Home);
+  EXPECT_EQ(Main().statusBar()->currentMessage().simplified(),
+            "x = 0.000 m My = 0.0 kNm Vz = 30.0 kN");
+  for (int k = 0; k < 25; ++k) QTest::keyClick(&box, Qt::Key_Right);
+  // 1.2 * 10 * 5^2 / 8 at the middle
+  EXPECT_EQ(Main().statusBar()->currentMessage().simplified(),
+            "x = 2.500 m My = 37.5 kNm Vz = 0.0 kN");
+  QTest::keyClick(&box, Qt::Key_End);
+  EXPECT_TRUE(Main().statusBar()->currentMessage().contains("x = 5.000 m"));
+}
+
+}  // namespace
+}  // namespace korvane

@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# start_test.sh KORVANE FILE.kvn: the program comes up on a display with the project in its title,
+# and ends well when its window is closed.
+set -u
+own=$(mktemp -d)
+exec 7<>"$own/number"
+Xvfb -displayfd 7 -screen 0 1600x1000x24 -nolisten tcp >/dev/null 2>&1 &
+display=$!
+trap 'kill $display 2>/dev/null; rm -rf "$own"' EXIT
+for _ in $(seq 100); do [ -s "$own/number" ] && break; sleep 0.1; done
+DISPLAY=:$(tr -d '\n' <"$own/number")
+export DISPLAY
+QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$own XDG_DATA_HOME=$own XDG_RUNTIME_DIR=$own "$1" "$2" &
+program=$!
+window=
+for _ in $(seq 100); do
+  window=$(xdotool search --onlyvisible --name "^KORVANE-NS3472: .*$(basename "$2")\$" 2>/dev/null |
+    head -n 1)
+  [ -n "$window" ] && break
+  sleep 0.1
+done
+[ -n "$window" ] || { echo "no window"; kill $program; exit 1; }
+# Ctrl+Q ends the program as its command does.
+xdotool windowfocus --sync "$window" key --window "$window" ctrl+q 2>/dev/null
+for _ in $(seq 50); do kill -0 $program 2>/dev/null || break; sleep 0.1; done
+kill $program 2>/dev/null && { echo "did not end"; exit 1; }
+wait $program
+status=$?
+[ $status -eq 0 ] || echo "ended with $status"
+exit $status
