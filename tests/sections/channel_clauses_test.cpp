@@ -14,7 +14,7 @@ using testing::ExpectClose;
 using testing::Made;
 using testing::Rho;
 
-TEST(Channel, SurfacesFollowTheOutline) {
+TEST(ChannelClauses, SurfacesFollowTheOutline) {
   Made upe(5);  // UPE80: h 80, b 50, tw 4, tf 7, r 10
   upe.Load();
   ExpectClose(upe.rec.g, (100 + 80 + 14 + 2 * 36 + (80 - 14 - 20) + 10 * M_PI) / 1000, "UPE");
@@ -26,7 +26,7 @@ TEST(Channel, SurfacesFollowTheOutline) {
               "UNP");
 }
 
-TEST(Channel, SlendernessLengthsOfEachSeries) {
+TEST(ChannelClauses, SlendernessLengthsOfEachSeries) {
   Made upe(5);
   upe.Load();
   EXPECT_EQ(double(upe.rec.d), 80 - 2 * (10 + 7));
@@ -42,7 +42,7 @@ TEST(Channel, SlendernessLengthsOfEachSeries) {
   EXPECT_EQ(double(pfc.rec.c), 100 - 11 - 15);
 }
 
-TEST(Channel, TipsInTensionPutTheFlangeInTheMixedTest) {
+TEST(ChannelClauses, TipsInTensionPutTheFlangeInTheMixedTest) {
   // Mz alone: the tip has -|Mz|*(b - e)/Iz, the back +|Mz|*e/Iz: one sign each.
   Made m(5);
   m.st.idxUPE = 13;
@@ -67,7 +67,7 @@ TEST(Channel, TipsInTensionPutTheFlangeInTheMixedTest) {
   EXPECT_EQ(int(m.rec.class_), f < 10 * eps ? 1 : f < 11 * eps ? 2 : f < 15 * eps ? 3 : 4);
 }
 
-TEST(Channel, WebStressEndsAtTheRoots) {
+TEST(ChannelClauses, WebStressEndsAtTheRoots) {
   // Bending and tension: at w = 100 the web passes by the stress at h/2 - tf - r alone.
   Made m(5);
   m.Load();
@@ -82,7 +82,7 @@ TEST(Channel, WebStressEndsAtTheRoots) {
   }
 }
 
-TEST(Channel, EffectiveSectionLosesOneFlangeAndTheWeb) {
+TEST(ChannelClauses, EffectiveSectionLosesOneFlangeAndTheWeb) {
   for (const int option : {0, 1, 2}) {
     SCOPED_TRACE(option);
     Made m(5);
@@ -116,7 +116,7 @@ TEST(Channel, EffectiveSectionLosesOneFlangeAndTheWeb) {
   }
 }
 
-TEST(Channel, StockyShearAreaHasOneRoot) {
+TEST(ChannelClauses, StockyShearAreaHasOneRoot) {
   Made m(5);
   m.All();
   ExpectClose(m.rec.Avz, 1006.9 - 2 * 50 * 7 + (4 + 10) * 7, "Avz");

@@ -54,7 +54,7 @@ double Modulus(double depth, double side, double A, double I, double element, do
   return (inertia - A2 * e2 * e2) / e2;
 }
 
-TEST(Hollow, EffectiveSectionAndItsOptions) {
+TEST(HollowClauses, EffectiveSectionAndItsOptions) {
   for (const int options : {0, 1, 2, 3}) {
     SCOPED_TRACE(options);
     const bool noFlange = (options & 1) != 0;
@@ -74,7 +74,7 @@ TEST(Hollow, EffectiveSectionAndItsOptions) {
   }
 }
 
-TEST(Hollow, BothWallsAreInternalElements) {
+TEST(HollowClauses, BothWallsAreInternalElements) {
   Made m = Slender(0, 0);
   const double My = 20, Mz = 12;
   for (const double N : {-400., -100., 0., 100., 400.}) {
@@ -102,7 +102,7 @@ TEST(Hollow, BothWallsAreInternalElements) {
   }
 }
 
-TEST(Hollow, DimensionsFollowTheWall) {
+TEST(HollowClauses, DimensionsFollowTheWall) {
   Made m(8);
   m.st.idxCFRHSs = 40;
   m.Load();
@@ -118,7 +118,7 @@ TEST(Hollow, DimensionsFollowTheWall) {
   EXPECT_NEAR(hot.rec.r, 1.5 * hot.rec.tw, 1e-5);
 }
 
-TEST(Hollow, StockyShearByTheShareOfEachSide) {
+TEST(HollowClauses, StockyShearByTheShareOfEachSide) {
   Made m = Slender(0, 0);
   m.st.fyk = 235.0;
   m.st.epsilon = 1;  // 58 and 38 below 60
@@ -130,7 +130,7 @@ TEST(Hollow, StockyShearByTheShareOfEachSide) {
   ExpectClose(m.rec.Vdyshown, 4900 * 200 / 500.0 * tau, "Vdyshown");
 }
 
-TEST(Hollow, SlenderShearByTheWalls) {
+TEST(HollowClauses, SlenderShearByTheWalls) {
   Made m = Slender(0, 0);
   m.st.fyk = 460.0;
   m.st.epsilon = 0.5;
@@ -140,7 +140,7 @@ TEST(Hollow, SlenderShearByTheWalls) {
   ExpectClose(m.rec.Vdy, 2 * 190 * 5 * 0.83 / (38 / 86.4 / 0.5) * tau, "Vdy");
 }
 
-TEST(Hollow, ShearTakesTwoWebsFromTheMoment) {
+TEST(HollowClauses, ShearTakesTwoWebsFromTheMoment) {
   Made m = Slender(0, 0);
   m.rec.class_ = 1;
   m.rec.Wply = 6E5;
@@ -168,7 +168,7 @@ TEST(Hollow, ShearTakesTwoWebsFromTheMoment) {
   ExpectClose(m.rec.Mfdz, 195 * 300 * 5 * fd / 1E6, "Mfdz");
 }
 
-TEST(Hollow, AxialForceReducesByTheSharesOfTheWalls) {
+TEST(HollowClauses, AxialForceReducesByTheSharesOfTheWalls) {
   Made m = Slender(0, 0);
   m.rec.class_ = 3;
   m.rec.Wply = 6E5;

@@ -18,7 +18,7 @@ using testing::kFd;
 using testing::Made;
 using testing::Rho;
 
-TEST(Angle, EqualLegsCapacities) {
+TEST(AngleClauses, EqualLegsCapacities) {
   Made m(10);
   m.st.idxLeq = 20;
   m.All();
@@ -39,7 +39,7 @@ TEST(Angle, EqualLegsCapacities) {
   ExpectClose(m.rec.Ntd, kFd * m.rec.A / 1000, "Ntd");
 }
 
-TEST(Angle, UnequalLegsCapacities) {
+TEST(AngleClauses, UnequalLegsCapacities) {
   Made m(11);
   m.st.idxLuneq = 25;
   m.All();
@@ -58,7 +58,7 @@ TEST(Angle, UnequalLegsCapacities) {
   ExpectClose(m.rec.Vdy, (b - t) / 1.5 * t * kFd / std::sqrt(3.0) / 1000, "Vdy");
 }
 
-TEST(Angle, ClassFourLowersCompressionAlone) {
+TEST(AngleClauses, ClassFourLowersCompressionAlone) {
   for (const int family : {10, 11}) {
     SCOPED_TRACE(family);
     Made stocky(family), slender(family);
@@ -88,7 +88,7 @@ TEST(Angle, ClassFourLowersCompressionAlone) {
   }
 }
 
-TEST(Angle, UnequalLegsAreClassOneUpToTheMeanOfBoth) {
+TEST(AngleClauses, UnequalLegsAreClassOneUpToTheMeanOfBoth) {
   Made m(11);
   m.Load();
   const double mean = (m.rec.b + m.rec.h) / (2 * m.rec.tw);
@@ -100,7 +100,7 @@ TEST(Angle, UnequalLegsAreClassOneUpToTheMeanOfBoth) {
   EXPECT_EQ(int(m.rec.class_), 4);
 }
 
-TEST(Welded, ConstantsOfADoubleSymmetricI) {
+TEST(WeldedClauses, ConstantsOfADoubleSymmetricI) {
   Made m(21);  // 600 x 300, 12, 20
   m.All();
   EXPECT_EQ(double(m.rec.r), 0);  // the throat of the weld is worked out and dropped
@@ -115,7 +115,7 @@ TEST(Welded, ConstantsOfADoubleSymmetricI) {
   EXPECT_EQ(double(m.rec.Avz), 12 * 560);
 }
 
-TEST(Welded, ClassTakesTheOuterFibreOfTheFlange) {
+TEST(WeldedClauses, ClassTakesTheOuterFibreOfTheFlange) {
   Made m(21);
   m.Load();
   m.rec.tf = 6.0;
@@ -137,7 +137,7 @@ TEST(Welded, ClassTakesTheOuterFibreOfTheFlange) {
   }
 }
 
-TEST(Welded, ConstantsOfASingleSymmetricI) {
+TEST(WeldedClauses, ConstantsOfASingleSymmetricI) {
   Made m(22);
   m.st.p22_b = 400.0;
   m.st.p22_b2 = 200.0;
@@ -160,7 +160,7 @@ TEST(Welded, ConstantsOfASingleSymmetricI) {
   ExpectClose(m.rec.zjBottom, 0.5 * (1 - 2 * beta) * hs, "zj");
 }
 
-TEST(Welded, EffectiveAreaOfASingleSymmetricI) {
+TEST(WeldedClauses, EffectiveAreaOfASingleSymmetricI) {
   for (const int options : {0, 1, 2}) {
     Made m(22);
     m.st.p22_b = 500.0;
@@ -180,7 +180,7 @@ TEST(Welded, EffectiveAreaOfASingleSymmetricI) {
   }
 }
 
-TEST(Welded, ASingleSymmetricIHasItsWebClassByTheSignOfTheMoment) {
+TEST(WeldedClauses, ASingleSymmetricIHasItsWebClassByTheSignOfTheMoment) {
   Made m(22);
   m.st.p22_b = 500.0;
   m.st.p22_tw = 5.0;
