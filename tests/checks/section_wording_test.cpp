@@ -87,6 +87,9 @@ const std::vector<WordingCase> kOpen{
 const std::vector<WordingCase> kClosed{
     {"linear", 0, 50, 99.9, 25, 99.9, 0, 1, "My+Mz:", "IR = My/Mdy + Mz/Mdz = ", "50.0/100.0 + 25.0/50.0 =  ", "1.00", "L; Ch 12.2.6.)"},
     {"linear, Vz and Vy", 0, 50, 100, 25, 100, 0, 1, "My+Mz:", "IR = My/Mvdy + Mz/Mvdz = ", "50.0/100.0 + 25.0/50.0 =  ", "1.00", "L; Ch 12.2.6.)"},
+    // Each half by its own force, and that along y against half of Vdz = 200.
+    {"linear, Vz alone", 0, 50, 100, 25, 99.9, 0, 1, "My+Mz:", "IR = My/Mvdy + Mz/Mdz = ", "50.0/100.0 + 25.0/50.0 =  ", "1.00", "L; Ch 12.2.6.)"},
+    {"linear, Vy alone", 0, 50, 99.9, 25, 100, 0, 1, "My+Mz:", "IR = My/Mdy + Mz/Mvdz = ", "50.0/100.0 + 25.0/50.0 =  ", "1.00", "L; Ch 12.2.6.)"},
     {"exact", 0, 80, 0, 40, 0, 1, 2, "My+Mz:", "IR = [My/Mdy]^alfa + [Mz/Mdz]^beta = ", "[80.0/100.0]^3.00 + [40.0/50.0]^1.50 = ", "1.23", "L; Ch 12.2.6.)"},
     {"exact, Vz and Vy", 0, 80, 100, 40, 100, 1, 1, "My+Mz:", "IR = [My/Mvdy]^alfa + [Mz/Mvdz]^beta = ", "[80.0/100.0]^3.00 + [40.0/50.0]^1.50 = ", "1.23", "L; Ch 12.2.6.)"},
     {"exact with N", 400, 64, 100, 32, 150, 1, 2, "N+My+Mz:", "IR = (My/Mndy)^alfa  + (Mz/Mndz)^beta = ", "[64.0/80.0]^3.00 + [32.0/40.0]^1.50 = ", "1.23", "L; Ch 12.2.6)"},

@@ -255,6 +255,26 @@ TEST(Files, OpeningClosesTheFamilyForms) {
   EXPECT_EQ(r.st().ProfileType, 1);
 }
 
+TEST(FamilyForms, TurningAHollowSectionTwiceRestoresIt) {
+  for (const char* form : {"p07", "p09"}) {
+    SCOPED_TRACE(form);
+    Running r;
+    r.st().idxRHSr = r.st().idxCFRHSr = 60;
+    r.session.Menu("mnu" + std::string(form));
+    r.session.Calculate();
+    const std::string key = std::string(form) + ".cbuttbucklingy";
+    const SectionRecord before = r.session.design().rec;
+    ASSERT_GT(before.h, before.b);
+    r.session.Click(key);
+    EXPECT_EQ(double(r.session.design().rec.h), double(before.b));
+    EXPECT_EQ(double(r.session.design().rec.Iy), double(before.Iz));
+    r.session.Click(key);
+    EXPECT_EQ(double(r.session.design().rec.h), double(before.h));
+    EXPECT_EQ(double(r.session.design().rec.Iy), double(before.Iy));
+    EXPECT_EQ(double(r.session.design().rec.Wplz), double(before.Wplz));
+  }
+}
+
 TEST(DatabaseForm, CollectsMovesLoadsAndRemoves) {
   Running r;
   r.session.Menu("mnup01");
