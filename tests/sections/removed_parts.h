@@ -5,13 +5,9 @@
 #include <cmath>
 #include <vector>
 
-namespace korvane::testing {
+#include "tests/sections/section_support.h"
 
-/// Effective width factor of a plate: slenderness ratio over 28.4*eps*sqrt(k).
-inline double Rho(double ratio, double eps, double k) {
-  const double lam = ratio / 28.4 / eps / std::sqrt(k);
-  return lam <= 0.673 ? 1 : 1 / lam - 0.22 / (lam * lam);
-}
+namespace korvane::testing {
 
 /// Rectangle taken off: width along the bending axis, height across it, middle below the
 /// compressed edge, mm.
