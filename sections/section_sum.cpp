@@ -2,6 +2,7 @@
 #include "sections/section_sum.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "core/numeric.h"
@@ -46,14 +47,49 @@ double HeightBelow(const Rect& r, double y) {
   return r.t < 0 ? -part : part;
 }
 
+double AreaBelow(const RectList& list, double y) {
+  double below = 0;
+  for (const Rect& r : list) below += r.w * HeightBelow(r, y);
+  return below;
+}
+
+/// The lowest height with so much area below it: the area grows in a straight line between two
+/// edges of rectangles.
+double CrossingHeight(const RectList& list, double area) {
+  std::array<double, 2 * RectList::kCapacity> edges{};
+  std::size_t count = 0;
+  for (const Rect& r : list) {
+    if (!std::isfinite(r.y0) || !std::isfinite(r.Top())) throw ArithmeticFault("overflow");
+    edges[count++] = r.y0;
+    edges[count++] = r.Top();
+  }
+  std::sort(edges.begin(), edges.begin() + static_cast<std::ptrdiff_t>(count));
+  double last = 0;
+  for (std::size_t i = 0; i < count; ++i) {
+    const double below = AreaBelow(list, edges[i]);
+    if (below >= area) {
+      if (i == 0 || below == last) return edges[i];
+      return edges[i] - (edges[i] - edges[i - 1]) * (below - area) / (below - last);
+    }
+    last = below;
+  }
+  throw ArithmeticFault("no plastic axis inside the section");
+}
+
 }  // namespace
 
 double WalkPlasticAxis(const RectList& list, double A, double H) {
-  for (double y = 2.0; y <= H; y += 0.1) {
-    double below = 0;
-    for (const Rect& r : list) below += r.w * HeightBelow(r, y);
-    if (below >= A / 2) return y;
+  constexpr double step = 0.1;
+  constexpr double tall = 1E5;  // mm; beyond it the steps are not taken one by one
+  const double crossing = CrossingHeight(list, A / 2);
+  double y = 2.0;
+  if (crossing > tall) {
+    y += step * std::ceil((crossing - y) / step);
+  } else {
+    while (y < crossing - 2 * step) y += step;  // no test below the crossing can succeed
+    while (y <= H && AreaBelow(list, y) < A / 2) y += step;
   }
+  if (y <= H) return y;
   throw ArithmeticFault("no plastic axis inside the section");
 }
 

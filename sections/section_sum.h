@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 namespace korvane {
 
@@ -22,7 +23,8 @@ struct Fillet {
 
 /// The rectangles of a section, at most eight, and up to two fillets.
 struct RectList {
-  std::array<Rect, 8> rects{};
+  static constexpr std::size_t kCapacity = 8;
+  std::array<Rect, kCapacity> rects{};
   int count = 0;
   std::array<Fillet, 2> fillets{};
   int filletCount = 0;

@@ -3,6 +3,10 @@
 // input limits let them pass.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <limits>
+#include <random>
+
 #include "core/calculation.h"
 #include "core/numeric.h"
 #include "sections/section_sum.h"
@@ -26,6 +30,46 @@ TEST(PlasticWalk, TakesAWebOfNegativeHeightAwayWhereItLies) {
   list.Add(Rect{90, 40, 5, 10});
   // The web lies between 10 and 40 mm: 100*y + 90*(y - 10) - 10*(y - 10) >= 3650 from 24.72 on.
   EXPECT_NEAR(WalkPlasticAxis(list, 7300, 50), 24.8, 1e-9);
+}
+
+// The literal walk: every step from 2 mm on is tested.
+double StepByStep(const RectList& list, double A, double H) {
+  for (double y = 2.0; y <= H; y += 0.1) {
+    double below = 0;
+    for (const Rect& r : list) below += r.w * std::clamp(y - r.y0, 0.0, r.t);
+    if (below >= A / 2) return y;
+  }
+  return -1;
+}
+
+TEST(PlasticWalk, EndsOnTheVeryStepOfTheLiteralWalk) {
+  std::mt19937 random(3472);
+  std::uniform_real_distribution<double> length(1, 400);
+  for (int i = 0; i < 500; ++i) {
+    RectList list;
+    double top = 0;
+    double A = 0;
+    for (int k = 0; k < 3; ++k) {
+      list.Add(Rect{length(random), length(random), 0, top});
+      top = list.rects[static_cast<std::size_t>(k)].Top();
+      A += list.rects[static_cast<std::size_t>(k)].Area();
+    }
+    EXPECT_EQ(WalkPlasticAxis(list, A, top), StepByStep(list, A, top)) << i;
+  }
+}
+
+TEST(PlasticWalk, AnswersAtOnceForASectionAsTallAsTheSky) {
+  RectList list;
+  list.Add(Rect{100, 40, 0, 0});
+  list.Add(Rect{10, 1E15, 45, 40});
+  const double A = 4000 + 1E16;
+  EXPECT_NEAR(WalkPlasticAxis(list, A, 1E15 + 40), (A / 2 - 4000) / 10 + 40, 1);
+}
+
+TEST(PlasticWalk, RefusesEdgesWithoutAPlace) {
+  RectList list;
+  list.Add(Rect{1, std::numeric_limits<double>::infinity(), 0, 0});
+  EXPECT_THROW(WalkPlasticAxis(list, 1, 10), ArithmeticFault);
 }
 
 TEST(PlasticWalk, DesignsFlangesThatOverlap) {
