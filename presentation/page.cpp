@@ -81,7 +81,7 @@ double DrawPageFrame(DrawingTarget& t, const Design& d, const ReportTime& time) 
   PutText(t, kMargin + 1, top + 3.3, "Column/Beam program based on NS3472, 3 rd ed");
   PutText(t, kMargin + 1, top + 4.9, "KORVANE");
 
-  const auto field = [&](double column, double line, const char* label, std::string value,
+  const auto field = [&](double column, double line, const char* label, const std::string& value,
                          double right, bool path) {
     PutText(t, column, line, label);
     const double start = column + 14;
