@@ -214,7 +214,7 @@ bool KeepsItem(const ProjectState& st, int i) {
 
 std::optional<LoadMessage> NormaliseLoads(ProjectState& st) {
   for (int t = 1; t <= 3; ++t) TidyTrapezoid(st, TrapezoidOf(t));
-  const std::optional<LoadMessage> message = CheckTrapezoids(st);
+  std::optional<LoadMessage> message = CheckTrapezoids(st);
   for (int i = 1; i <= 8; ++i) {
     if (st.pm[i] == 0) st.pmx[i] = 0;
     if (!KeepsItem(st, i)) {

@@ -111,7 +111,7 @@ std::optional<std::string> FollowLinks(std::string path) {
     const ssize_t n = ::readlink(path.c_str(), text.data(), text.size());
     if (n < 0) return path;
     const std::string link(text.data(), static_cast<std::size_t>(n));
-    path = !link.empty() && link.front() == '/' ? link : FolderOf(path) + link;
+    path = !link.empty() && link.front() == '/' ? link : FolderOf(path).append(link);
   }
   return std::nullopt;
 }

@@ -147,6 +147,7 @@ BatchCounts DesignFiles(std::shared_ptr<const Library> library,
     }
   };
   std::vector<std::jthread> pool;
+  pool.reserve(static_cast<std::size_t>(threads));
   for (int i = 0; i < threads; ++i) pool.emplace_back(work);
 
   BatchCounts counts;

@@ -2,7 +2,7 @@
 #include "front/console/script.h"
 
 #include <langinfo.h>
-#include <locale.h>
+#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is of POSIX
 
 #include <algorithm>
 #include <array>
