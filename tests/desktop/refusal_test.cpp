@@ -19,7 +19,9 @@ public:
   BoxWatch() {
     QObject::connect(&timer_, &QTimer::timeout, [this] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (box == nullptr) return;
+      // A box that is on its way out has been seen.
+      if (box == nullptr || box->property("seen").toBool()) return;
+      box->setProperty("seen", true);
       said << box->text();
       exclamation = exclamation && box->icon() == QMessageBox::Warning;
       box->accept();
