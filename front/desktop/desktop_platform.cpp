@@ -40,9 +40,15 @@ void DesktopPlatform::SetSetting(const std::string& key, const std::string& valu
   store.setValue(RecentKey(key), QString::fromStdString(value));
 }
 
+QWidget* DesktopPlatform::Owner() const {
+  // A window manager gives the focus back to the owner: to the form with the field in use.
+  QWidget* active = QApplication::activeWindow();
+  return active != nullptr ? active : window_.data();
+}
+
 std::optional<std::string> DesktopPlatform::AskFile(bool save, const std::string& filter,
                                                     const std::string& extension) {
-  QFileDialog dialog(window_);
+  QFileDialog dialog(Owner());
   dialog.setNameFilter(QString::fromStdString(filter));
   dialog.setDefaultSuffix(QString::fromStdString(extension));
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -71,7 +77,7 @@ void DesktopPlatform::Message(const std::string& text) {
 void DesktopPlatform::ShowMessages() {
   while (!waiting_.isEmpty()) {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("KORVANE-NS3472"), waiting_.first(),
-                    QMessageBox::Ok, window_);
+                    QMessageBox::Ok, Owner());
     box.exec();
     waiting_.removeFirst();
   }
@@ -84,7 +90,7 @@ void DesktopPlatform::Beep() {
 std::optional<PrintJob> DesktopPlatform::AskPrint() {
   printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer_->setPageSize(QPageSize(QPageSize::A4));
-  QPrintDialog dialog(printer_.get(), window_);
+  QPrintDialog dialog(printer_.get(), Owner());
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return PrintJob{printer_->copyCount()};
 }

@@ -48,6 +48,8 @@ private slots:
   void ShowMessages();
 
 private:
+  /// The window in front, which a dialog belongs to.
+  QWidget* Owner() const;
   std::optional<std::string> AskFile(bool save, const std::string& filter,
                                      const std::string& extension);
   QPointer<QWidget> window_;

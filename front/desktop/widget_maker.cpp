@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include "front/desktop/form_binder.h"
 #include "front/desktop/icons.h"
@@ -34,6 +35,22 @@ QString InLines(const QString& caption) {
   const auto at = after < 0 || middle - before < after - middle ? before : after;
   return at <= 0 ? caption : caption.left(at) + QLatin1Char('\n') + caption.mid(at + 1);
 }
+
+/// A drop-down that the wheel turns only while it has the focus: a person who scrolls the inputs
+/// past it must not change the member.
+class SteadyCombo : public QComboBox {
+public:
+  SteadyCombo() { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus()) {
+      QComboBox::wheelEvent(event);
+    } else {
+      event->ignore();
+    }
+  }
+};
 
 bool IsFieldRow(const Control& c) {
   return c.kind == Kind::Input || c.kind == Kind::List;
@@ -84,7 +101,7 @@ QWidget* WidgetMaker::NewWidget(const Control& c) {
     case Kind::Check:
       return new QCheckBox(Q(c.caption));
     case Kind::List: {
-      auto* combo = new QComboBox;
+      auto* combo = new SteadyCombo;
       combo->setMaxVisibleItems(24);
       return combo;
     }

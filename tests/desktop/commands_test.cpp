@@ -10,6 +10,7 @@
 #include <QImage>
 #include <QListWidget>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -235,9 +236,10 @@ TEST_F(DesktopTest, PointerTellsTheDeflection) {
   auto& box = On<DiagramBox>(Main(), "picdz");
   auto* plane = qobject_cast<DiagramPane*>(box.parentWidget());
   QSignalSpy pointed(plane, &DiagramPane::Pointed);
-  QTest::mouseMove(&box, QPoint(box.width() / 2, box.height() / 2));
-  QTest::mouseMove(&box, QPoint(box.width() / 2 + 1, box.height() / 2));
-  QCoreApplication::processEvents();
+  const QPointF middle = QRectF(box.rect()).center();
+  QMouseEvent move(QEvent::MouseMove, middle, box.mapToGlobal(middle), Qt::NoButton, Qt::NoButton,
+                   Qt::NoModifier);
+  QApplication::sendEvent(&box, &move);
   ASSERT_GT(pointed.count(), 0);
   const QString text = pointed.last().at(0).toString();
   EXPECT_TRUE(text.startsWith(" x = ") && text.contains("  y = ") && text.endsWith(" mm"))

@@ -2,9 +2,11 @@
 // The program by keyboard alone: lists, the order of the Tab key, shortcuts, mnemonics, panes.
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QWheelEvent>
 
 #include "front/desktop/diagram_pane.h"
 #include "front/desktop/size_list.h"
@@ -41,6 +43,24 @@ TEST_F(DesktopTest, TypedNumberPrefersTheWholeSize) {
   // What leads nowhere begins anew with its last key.
   QTest::keyClicks(&list, "2");
   EXPECT_EQ(Chosen(list), "HEA 200");
+}
+
+TEST_F(DesktopTest, WheelTurnsAListOnlyWithTheFocus) {
+  auto& list = On<QComboBox>(Main(), "cbofyk");
+  const int before = session_.st().MaterialIndex;
+  ASSERT_GT(before, 0);
+  const auto turn = [&] {
+    const QPointF middle = QRectF(list.rect()).center();
+    QWheelEvent event(middle, list.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&list, &event);
+  };
+  Field("iproj").setFocus();
+  turn();
+  EXPECT_EQ(int(session_.st().MaterialIndex), before);
+  list.setFocus();
+  turn();
+  EXPECT_EQ(int(session_.st().MaterialIndex), before - 1);
 }
 
 /// Names of the widgets that Tab visits from a field on.

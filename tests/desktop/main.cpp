@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The tests of the windows run on no display.
+// The tests of the windows run on no display, unless QT_QPA_PLATFORM names one.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -10,7 +10,7 @@
 #include "front/desktop/theme.h"
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&argc, argv);
   QApplication app(argc, argv);
   const QTemporaryDir settings;
