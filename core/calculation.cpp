@@ -161,4 +161,11 @@ void SilentRecalculation(Design& d) {
   Deflect(d);
 }
 
+void SilentRecalculationOnSameBeam(Design& d, float32 My_gov) {
+  ComputeSection(d);
+  d.beam.My_gov = My_gov;
+  RunChecks(d);
+  Deflect(d);
+}
+
 }  // namespace korvane

@@ -78,4 +78,9 @@ void ComposeResults(Design& design);
 /// is composed and nothing is allocated. Throws CalculationFault.
 void SilentRecalculation(Design& design);
 
+/// The same where the forces in the beam are known to be those of the calculation before: only
+/// the section has changed, and its weight is no load. My_gov (kNm) is the whole member's, which
+/// a section with restraint points replaces by its last segment's. Throws CalculationFault.
+void SilentRecalculationOnSameBeam(Design& design, float32 My_gov);
+
 }  // namespace korvane

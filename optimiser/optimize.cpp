@@ -91,9 +91,19 @@ void SearchRow(Design& design, int row, OptimiserResults& results, const SearchP
   double bestWeight = kStartWeight;
   int best = 0;
   bool accepted = false;
+  // The beam is analysed once for all candidates; where the self weight counts, which is their
+  // only difference as loads, once for each.
+  bool analysed = false;
+  float32 My_gov;
+  const auto candidate = [&] {
+    if (analysed) return SilentRecalculationOnSameBeam(design, My_gov);
+    SilentRecalculation(design);
+    My_gov = design.beam.My_gov;
+    analysed = st.SelfWeight != 1;
+  };
   for (int k = 0; k <= series.last; ++k) {
     index = k;
-    SilentRecalculation(design);
+    candidate();
     ir = MaxIR(design.checks);
     if (Accepts(series, design, ir) && design.rec.S < bestWeight) {
       bestWeight = design.rec.S;
@@ -105,7 +115,7 @@ void SearchRow(Design& design, int row, OptimiserResults& results, const SearchP
   // Only the last size decides whether the one found is taken, and by its ratio alone, also for
   // the deflection criterion.
   index = ir > st.iufa ? series.last : best;
-  SilentRecalculation(design);
+  candidate();
   ir = MaxIR(design.checks);
   results.Passes[row] =
       accepted && index == best && (st.ResultView == kCriterionSls || !(ir > st.iufa));

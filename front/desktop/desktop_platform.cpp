@@ -75,12 +75,15 @@ void DesktopPlatform::Message(const std::string& text) {
 }
 
 void DesktopPlatform::ShowMessages() {
+  const QPointer<QWidget> owner = Owner();
   while (!waiting_.isEmpty()) {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("KORVANE-NS3472"), waiting_.first(),
-                    QMessageBox::Ok, Owner());
+                    QMessageBox::Ok, owner);
     box.exec();
     waiting_.removeFirst();
   }
+  // Not every window manager gives the focus back by itself.
+  if (owner != nullptr) owner->activateWindow();
 }
 
 void DesktopPlatform::Beep() {

@@ -11,6 +11,8 @@ trap 'kill $display 2>/dev/null; rm -rf "$own"' EXIT
 for _ in $(seq 100); do [ -s "$own/number" ] && break; sleep 0.1; done
 DISPLAY=:$(tr -d '\n' <"$own/number")
 export DISPLAY
+# The number comes before the server answers.
+for _ in $(seq 100); do xdotool getdisplaygeometry >/dev/null 2>&1 && break; sleep 0.1; done
 QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$own XDG_DATA_HOME=$own XDG_RUNTIME_DIR=$own "$1" "$2" &
 program=$!
 window=
