@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Arguments of the commands, and that completion and manual know each of them.
+// Arguments of the commands, and the progress that they show.
 #include <gtest/gtest.h>
 
 #include <CLI/CLI.hpp>
@@ -100,31 +100,6 @@ TEST(Commands, ADataFolderWithoutCataloguesIsAnError) {
   EXPECT_THROW(
       app.parse(std::vector<std::string>{folder.Path(), "--data", folder / "a.kvn", "batch"}),
       DataFolderError);
-}
-
-TEST(Commands, CompletionAndManualKnowEveryOption) {
-  const std::string completion =
-      GetFile(KORVANE_SOURCE_DIR "/packaging/korvane-cli.bash-completion");
-  std::string manual = GetFile(KORVANE_SOURCE_DIR "/docs/man/korvane-cli.1");
-  std::erase(manual, '\\');
-  CLI::App app;
-  int status = 0;
-  AddBatchCommands(app, status);
-  int options = 0;
-  for (const CLI::App* command : app.get_subcommands({})) {
-    EXPECT_NE(manual.find(".SS " + command->get_name() + "\n"), std::string::npos);
-    EXPECT_NE(completion.find(" " + command->get_name()), std::string::npos);
-    for (const CLI::Option* option : command->get_options()) {
-      for (const std::string& name : option->get_lnames()) {
-        if (name == "help") continue;
-        ++options;
-        EXPECT_NE(completion.find("--" + name), std::string::npos) << name;
-        if (name == "output") continue;  // told by its short name
-        EXPECT_NE(manual.find("--" + name), std::string::npos) << name;
-      }
-    }
-  }
-  EXPECT_EQ(options, 11);
 }
 
 TEST(Progress, ShowsBarCountRateAndTimeLeft) {

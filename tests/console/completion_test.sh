@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What the completion offers for words typed so far. Argument: the completion's file.
+# What the completion offers for words typed so far. Arguments: the completion's file, the program,
+# whose help tells commands, options and their values, and the manual, which has to name them all.
 set -u
 source "$1" || exit 1
 folder=$(mktemp -d) || exit 1
@@ -26,9 +27,8 @@ expect() {
     fi
 }
 
-expect 'batch|catalogue|design|new|optimise|session' korvane-cli ''
-expect 'design' korvane-cli d
-expect '--help|--version' korvane-cli -
+expect 'batch|catalogue|design|draw|new|optimise|report|session' korvane-cli ''
+expect 'design|draw' korvane-cli d
 expect 'a.kvn|projects|with blank.kvn' korvane-cli design ''
 expect 'with blank.kvn' korvane-cli optimise w
 expect 'projects' korvane-cli batch a.kvn p
@@ -42,5 +42,45 @@ expect 'U|UNP|UPE' korvane-cli catalogue U
 expect 'comma|point' korvane-cli session --decimal ''
 expect 'projects' korvane-cli design --data ''
 expect '' korvane-cli optimise --limit ''
+
+touch 'page.pdf'
+expect 'page.pdf|projects' korvane-cli report a.kvn -o p
+
+# options: the options that a help on the standard input tells, sorted and joined by |
+options() {
+    sed -n '/^Options:/,$p' | grep -oE '^  (-[a-z],)?--[a-z-]+' | tr -d ' ' | tr , '\n' |
+        LC_ALL=C sort | paste -sd '|'
+}
+
+# named WORD...: the manual names each word
+named() {
+    local word
+    for word in "$@"; do
+        if ! grep -qw -- "$word" <<<"$manual"; then
+            printf 'the manual lacks %s\n' "$word"
+            failures=$((failures + 1))
+        fi
+    done
+}
+
+program=$2
+whole_manual=$(tr -d '\\' <"$3")
+commands=$("$program" --help | sed -n '/^Subcommands:/,$p' | grep -oE '^  [a-z]+' | tr -d ' ')
+expect "$(LC_ALL=C sort <<<"$commands" | paste -sd '|')" korvane-cli ''
+expect "$("$program" --help | options)" korvane-cli -
+manual=$whole_manual
+named --help --version -h
+for command in $commands; do
+    help=$("$program" "$command" --help)
+    expect "$(options <<<"$help")" korvane-cli "$command" -
+    # The manual's section of the command, and that of the options of all.
+    manual=$(sed -n "/^\.SS $command$/,/^\.S[SH] /p;/^\.SH OPTIONS/,/^\.SH EXIT/p" <<<"$whole_manual")
+    named $(options <<<"$help" | tr '|' ' ')
+    while read -r option values; do
+        expect "$(tr , '\n' <<<"$values" | LC_ALL=C sort | paste -sd '|')" \
+            korvane-cli "$command" "$option" ''
+        named ${values//,/ }
+    done < <(sed -nE 's/^.*(--[a-z-]+) TEXT:\{([^}]*)\}.*/\1 \2/p' <<<"$help")
+done
 
 exit $((failures > 0))

@@ -294,50 +294,6 @@ TEST(Commands, EveryFamilyFormOpensFillsAndDesigns) {
   }
 }
 
-/// Touches every control of a form once in the way of its kind.
-void TouchAll(Running& r, const std::string& form) {
-  for (const Control& c : FindForm(form)->controls) {
-    if (c.kind == Kind::Menu) continue;
-    const std::string key = form + "." + c.name;
-    const std::string text = r.session.Text(key);
-    const bool leaves = c.name == "ok" || c.name.rfind("Command", 0) == 0;
-    if (!r.session.Enabled(key)) continue;
-    if (c.kind == Kind::Input) {
-      r.session.Enter(key, text);
-    } else if (c.kind == Kind::List) {
-      const auto items = r.session.Items(key);
-      if (!items.empty()) r.session.Select(key, static_cast<int>(items.size()) - 1);
-    } else if (!leaves) {
-      r.session.Click(key);
-    }
-    if (!r.session.IsOpen(form)) r.session.Show(form);
-  }
-}
-
-TEST(Forms, EveryControlCanBeTouchedOnBothDecimalSettings) {
-  for (const bool comma : {false, true}) {
-    for (const Form& form : AllForms()) {
-      Running r(comma);
-      if (form.name != "korvane") {
-        if (form.name[0] == 'p') r.st().ProfileType = std::stoi(form.name.substr(1));
-        r.session.Show(form.name);
-      }
-      EXPECT_NO_THROW(TouchAll(r, form.name)) << form.name;
-      for (const std::string& m : r.platform.messages) {
-        EXPECT_NE(m, "Input string mismatch ") << form.name;
-      }
-    }
-  }
-}
-
-TEST(Commands, EveryMenuEntryRuns) {
-  for (const Control& c : FindForm("korvane")->controls) {
-    if (c.kind != Kind::Menu) continue;
-    Running r;
-    EXPECT_NO_THROW(r.session.Menu(c.name)) << c.name;
-  }
-}
-
 TEST(Names, AnUnknownControlIsTold) {
   Running r;
   EXPECT_THROW(r.session.Click("nothing"), UnknownControl);
