@@ -140,7 +140,7 @@ private:
     bool green = false;
   };
 
-  Place Find(const std::string& control) const;
+  Place Find(const std::string& address) const;
   void RunCalculation();
   bool Accept(const Place& place);
   void Mismatch(const Place& place);
