@@ -145,7 +145,7 @@ private:
     bool green = false;
   };
 
-  Place Find(const std::string& control) const;
+  Place Find(const std::string& address) const;
   /// Defaults that the program has written itself stand above those of its folder.
   void ReadOwnDefaults();
   void RunCalculation();

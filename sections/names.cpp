@@ -194,7 +194,7 @@ std::string SectionTitle(const ProjectState& st, const Catalogues& cat) {
   if (!sizes.hasCatalogue) return TypedTitle(st);
   const CatalogueTable& table = cat[sizes.catalogue];
   if (sizes.row < 0 || sizes.row >= table.Capacity()) return {};
-  const std::string entry = ListEntry(sizes.catalogue, cat, sizes.row);
+  std::string entry = ListEntry(sizes.catalogue, cat, sizes.row);
   if (st.ProfileType == 52) return Joined("Plate + ", {st.p52_b1, st.p52_t1}) + " + " + entry;
   if (st.ProfileType == 54) return Joined("Plate + ", {st.p54_b1, st.p54_t1}) + " + " + entry;
   if (!IsSingleNumber(sizes.catalogue)) return entry;

@@ -85,7 +85,7 @@ int RunReport(const Arguments& a) {
     const bool section = report == Report::SectionProperty;
     if (a.kind != "both" && (a.kind == "section") != section) continue;
     job.title = ReportTitle(report);
-    job.pages.push_back(
+    job.pages.emplace_back(
         [&design, report, time](DrawingTarget& page) { DrawReport(page, report, design, time); });
   }
   job.title += " - " + design.st.iproj + " - " + design.st.iident;
@@ -140,7 +140,7 @@ int RunDraw(const Arguments& a) {
   if (drawing->diagrams.empty()) {
     job.width = 320;
     job.height = 320;
-    job.pages.push_back([&](DrawingTarget& t) {
+    job.pages.emplace_back([&](DrawingTarget& t) {
       DrawSectionFigure(t, Box{0, 0, job.width, job.height}, Destination::Page, design.st,
                         design.rec, FigureOptions{});
     });
@@ -151,7 +151,7 @@ int RunDraw(const Arguments& a) {
   job.width = kPictureWidth * scale;
   for (const DiagramKind kind : kinds) job.height += DiagramHeight(kind, data, style) * scale;
   job.height = std::max(job.height, 10.0);
-  job.pages.push_back([&](DrawingTarget& t) {
+  job.pages.emplace_back([&](DrawingTarget& t) {
     double top = 0;
     for (const DiagramKind kind : kinds) {
       const double height = DiagramHeight(kind, data, style) * scale;
