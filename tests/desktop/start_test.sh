@@ -23,9 +23,12 @@ for _ in $(seq 100); do
   sleep 0.1
 done
 [ -n "$window" ] || { echo "no window"; kill $program; exit 1; }
-# Ctrl+Q ends the program as its command does.
-xdotool windowfocus --sync "$window" key --window "$window" ctrl+q 2>/dev/null
-for _ in $(seq 50); do kill -0 $program 2>/dev/null || break; sleep 0.1; done
+# Ctrl+Q ends the program as its command does; a key before the window has the focus is lost.
+for _ in $(seq 50); do
+  xdotool windowfocus "$window" key --window "$window" ctrl+q 2>/dev/null
+  sleep 0.2
+  kill -0 $program 2>/dev/null || break
+done
 kill $program 2>/dev/null && { echo "did not end"; exit 1; }
 wait $program
 status=$?
