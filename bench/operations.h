@@ -12,11 +12,11 @@ struct Operations {
 };
 
 inline constexpr std::array<Operations, 7> kOperations{{
-    {"calculate_default", 3731},
-    {"calculate_full", 14733},
-    {"calculate_silent", 3728},
-    {"search_all", 2532508},
-    {"analysis_full", 11392},
+    {"calculate_default", 3728},
+    {"calculate_full", 14797},
+    {"calculate_silent", 3725},
+    {"search_all", 2056384},
+    {"analysis_full", 11456},
     {"naive_full", 315425},
     {"naive_full_loads_only", 147940},
 }};
