@@ -81,15 +81,15 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
 }  // namespace
 
 int main(int argc, char** argv) {
-  QApplication app(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("Korvane_ns"));
+  QCoreApplication::setApplicationName(QStringLiteral("Korvane_ns"));
   // No display name: it would be appended to the title of each window.
-  QApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
-  QApplication::setDesktopFileName(QStringLiteral("korvane"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("korvane"));
   QCommandLineParser parser;
-  parser.addHelpOption();
-  parser.addVersionOption();
-  parser.addPositionalArgument(QStringLiteral("FILE.kvn"), QApplication::tr("Project to open"));
+  const QCommandLineOption help = parser.addHelpOption();
+  const QCommandLineOption version = parser.addVersionOption();
+  parser.addPositionalArgument(QStringLiteral("FILE.kvn"), QApplication::tr("Project to open"),
+                               QStringLiteral("[FILE.kvn]"));
   QCommandLineOption shots(QStringLiteral("screenshots"), QString(), QStringLiteral("OUT"));
   shots.setFlags(QCommandLineOption::HiddenFromHelp);
   QCommandLineOption painted(QStringLiteral("until-painted"));
@@ -100,6 +100,13 @@ int main(int argc, char** argv) {
         QStringLiteral("THEME")},
        shots,
        painted});
+  const QStringList arguments(argv, argv + argc);
+  if (parser.parse(arguments) && (parser.isSet(help) || parser.isSet(version))) {
+    // What is only printed needs no display.
+    QCoreApplication printer(argc, argv);
+    parser.process(printer);
+  }
+  QApplication app(argc, argv);
   parser.process(app);
   korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
   try {

@@ -21,6 +21,9 @@ fail() { echo "$*" >&2; exit 1; }
 grep -q "$root/usr/.*korvane_paint.so" trace || fail "the painter is not the installed one"
 grep -q "$share/hea.dat" trace || fail "the data are not the installed ones"
 ! grep -e "\"$build" -e "\"$source" trace || fail "korvane-cli opened the files above"
+"${clean[@]}" usr/bin/korvane --version | grep -q '^Korvane_ns [0-9]' ||
+  fail "no version without a display"
+"${clean[@]}" usr/bin/korvane --help | grep -qF '[FILE.kvn]' || fail "no help without a display"
 "${clean[@]}" "${watch[@]}" bash "$source/tests/desktop/start_test.sh" "$root/usr/bin/korvane" \
   "$share/examples/column-hea200.kvn" || fail "the window did not come up"
 grep -q "$share/hea.dat" trace || fail "the data are not the installed ones"
