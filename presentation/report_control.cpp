@@ -161,9 +161,8 @@ double DrawBucklingTable(DrawingTarget& t, double line, const Design& d) {
   row("Buckling length factor", f2(d.st.bly), f2(d.st.blz));
   row("Buckling Curve", letter(d.st.BucklingCurveY), letter(d.st.BucklingCurveZ));
   // Without compression no slenderness was worked out for this member.
-  if (d.checks.bucklingRan) {
-    row("Slenderness lamda =", f2(d.buckling.Lybar), f2(d.buckling.Lzbar));
-  }
+  const auto slenderness = [&](double v) { return d.checks.bucklingRan ? f2(v) : "N/A"; };
+  row("Slenderness lamda =", slenderness(d.buckling.Lybar), slenderness(d.buckling.Lzbar));
   if (d.beam.betaMy != 0 || d.beam.betaMz != 0) {
     row("Betam", f2(d.beam.betaMy), f2(d.beam.betaMz));
   }
@@ -171,9 +170,9 @@ double DrawBucklingTable(DrawingTarget& t, double line, const Design& d) {
 }
 
 void DrawLateralParameters(DrawingTarget& t, double line, const Design& d) {
+  PutHeading(t, kParameters, line, "Lateral buckling parameters:");
   if (d.st.LateralTorsionalBuckling != 1) return;
   const auto f3 = [](double v) { return Format(v, "#0.000"); };
-  PutHeading(t, kParameters, line, "Lateral buckling parameters:");
   PutText(t, kParameters, line + 1,
           "k = " + Format(d.st.k_ltb, "#0.00") +
               "   Restraint points: " + std::to_string(int(d.st.LtbSegments)));
