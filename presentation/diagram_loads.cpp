@@ -19,7 +19,8 @@ constexpr double kArrowMore = 4;     // what the greatest point load has above t
 constexpr double kMomentLeast = 1.5;
 constexpr double kMomentMore = 0.9;
 constexpr double kSupport = 2.8;
-constexpr double kRise = 1.2;  // from the arrows to a row of values that had to move apart
+constexpr double kHeadShare = 0.7;  // greatest part of an arrow that is its head
+constexpr double kRise = 1.2;       // from the arrows to a row of values that had to move apart
 
 const char* TitleOf(Plane plane, bool variable) {
   constexpr const char* titles[2][2] = {
@@ -119,7 +120,7 @@ void DrawBandArrows(const Picture& p, const DistributedLoad& load, double base, 
     const double h = h1 + f * (h2 - h1);
     if (h < 0.7) continue;
     const double x = x1 + f * (x2 - x1);
-    DrawArrow(t, {x, base + sign * h}, {x, base}, 0.9);
+    DrawArrow(t, {x, base + sign * h}, {x, base}, std::min(p.sheet.Sign(0.9), kHeadShare * h));
   }
 }
 
@@ -171,7 +172,8 @@ void DrawPointLoad(const Picture& p, const PointLoad& load) {
   const double x = p.sheet.X(load.x);
   const double tail = ArrowTail(p, load);
   p.sheet.Pen(Role::Accent, 0.32);
-  DrawArrow(t, {x, tail}, {x, p.axis}, 1.7);
+  const double head = std::min(p.sheet.Sign(1.7), kHeadShare * std::fabs(p.axis - tail));
+  DrawArrow(t, {x, tail}, {x, p.axis}, head);
   p.sheet.Labels().Avoid({x, tail}, {x, p.axis});
 }
 

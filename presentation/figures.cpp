@@ -212,12 +212,13 @@ void DrawDimensions(Window& w) {
   }
 }
 
-void DrawCaption(Window& w, bool notToScale) {
+// At the foot of the place, which may reach below the window.
+void DrawCaption(Window& w, bool notToScale, double foot) {
   const double room = kFigureRoom * w.size;
   const double size = w.t.FontSize;
-  w.t.FontSize = 0.85 * size;
+  w.t.FontSize = std::max(0.85 * size, std::min(w.options.leastText, size));
   w.labels.Fix({{notToScale ? "Figure not to scale" : "Figure to scale", Role::Quiet}},
-               {0.02 * room, room - w.labels.LineHeight() - 0.005 * room});
+               {0.02 * room, foot - w.labels.LineHeight() - 0.005 * room});
   w.t.FontSize = size;
 }
 
@@ -237,10 +238,14 @@ void DrawSectionFigure(DrawingTarget& target, const Box& place, Destination dest
   const double size = shape.Greatest();
   if (size <= 0) return;
   const double room = kFigureRoom * size;
-  const ScopedFrame frame(target, target.FitInside(place, 1, 1), Box::At(0, 0, room, room));
+  const Box square = target.FitInside(place, 1, 1);
+  const double below = destination == Destination::Page ? place.bottom - square.bottom : 0;
+  const double foot = room * (1 + below / square.Height());
+  const ScopedFrame frame(target, square, Box::At(0, 0, room, room));
   target.FontName = "Arial";
   target.FontBold = target.FontUnderline = false;
   target.SetTextUnits(kText * size);
+  target.FontSize = std::max(double(target.FontSize), options.leastText);
   Window w{target,
            shape,
            LabelPlacer(target, Box::At(0, 0, room, room)),
@@ -252,7 +257,7 @@ void DrawSectionFigure(DrawingTarget& target, const Box& place, Destination dest
   } else {
     DrawUnknown(w, st.p41_name);
   }
-  if (options.caption && shape.HasOutline()) DrawCaption(w, notToScale);
+  if (options.caption && shape.HasOutline()) DrawCaption(w, notToScale, foot);
   DrawAxes(w);
   if (shape.principal) DrawPrincipalAxes(w);
   DrawCentroid(w);

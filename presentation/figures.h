@@ -17,6 +17,7 @@ struct FigureOptions {
   bool dimensions = true;  ///< dimension lines with their letters
   bool caption = true;     ///< "Figure to scale" or "Figure not to scale"
   std::string highlight;   ///< letter of the dimension to be shown in the accent colour
+  double leastText = 0;    ///< pt: smaller letters would not be read on paper
 };
 
 /// Corner of the section's bounding box in the figure's window (mm): the room left is the same
