@@ -127,11 +127,13 @@ void DrawBandArrows(const Picture& p, const DistributedLoad& load, double base, 
 void LabelBand(const Picture& p, const DistributedLoad& load, double base, double sign) {
   const Side side = sign < 0 ? Side::Above : Side::Below;
   p.sheet.Pen(Role::Ink, 0.1);
-  const auto place = [&](double x, double q, const char* tag) {
+  const auto place = [&](double x, double q, const char* tag, double slide = 0) {
     const Point anchor{p.sheet.X(x), base + sign * BandHeight(p, q)};
-    p.sheet.Labels().Place({Runs(q, tag), anchor, side, 0.15, false});
+    p.sheet.Labels().Place({Runs(q, tag), anchor, side, 0.15, false, slide});
   };
-  if (load.q1 == load.q2) return place((load.x1 + load.x2) / 2, load.q1, load.tag);
+  // One value for the whole stretch stands anywhere along it.
+  const double slide = 0.3 * (p.sheet.X(load.x2) - p.sheet.X(load.x1));
+  if (load.q1 == load.q2) return place((load.x1 + load.x2) / 2, load.q1, load.tag, slide);
   place(load.x1, load.q1, load.tag);
   place(load.x2, load.q2, load.tag);
 }

@@ -215,7 +215,7 @@ void DrawGeometry(DrawingTarget& t, double line, const Design& d) {
   double below = line + kSketch;
   std::string options;
   if (st.SupportType == 3 || st.SupportType == 5) {
-    options = "Spring restraint:" + Format(st.SpringRestraint, "00") + "%   ";
+    options = "Spring restraint:" + Format(st.SpringRestraint, "00") + "%  ";
   }
   const Family* family = FindFamily(st.ProfileType);
   if (family != nullptr && family->webOption) {

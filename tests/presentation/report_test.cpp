@@ -212,6 +212,42 @@ TEST(Report, TheDistanceOfTheWebsIsListed) {
   EXPECT_EQ(Drawn(d, Report::SectionProperty).Count("37.5"), 1);
 }
 
+// What is printed smaller than this can't be read on paper.
+TEST(Report, LettersOfTheFigureAndTheSketchAreReadable) {
+  constexpr double least = 6;  // pt
+  for (const int family : {1, 6, 10, 25, 31, 53}) {
+    const Design d = Designed({family, false, Report::SectionAndStability});
+    const RecordingTarget page = Drawn(d, Report::SectionAndStability);
+    for (const char* text : {"Z", "Y", "Figure not to scale", "L = 5.000 m"}) {
+      const RecordedShape* shape = page.FindText(text);
+      ASSERT_NE(shape, nullptr) << family << text;
+      EXPECT_GE(shape->style.size, least) << family << text;
+    }
+  }
+}
+
+TEST(Report, TheDiagramsBeginBelowTheParametersThatAreThere) {
+  Design d(TheLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 1;
+  d.st.AnalysisMode = 0;
+  d.st.Ne = 50.0;
+  const auto top = [&d](int lateral) {
+    d.st.LateralTorsionalBuckling = lateral;
+    Calculate(d);
+    const RecordingTarget page = Drawn(d, Report::SectionAndStability);
+    const RecordedShape* heading = page.FindText("Endforces: (kN/kNm/m)");
+    if (heading == nullptr) return -1.0;
+    const RecordedShape* last = page.FindText("Lateral buckling parameters:");
+    EXPECT_TRUE(last != nullptr && heading->box.top > last->box.bottom);
+    return heading->box.top;
+  };
+  const double without = top(0);
+  EXPECT_GT(without, 0);
+  // Four lines of the grid's 88.
+  EXPECT_NEAR(top(1) - without, 4 * kPageHeight / 88, 1e-6);
+}
+
 TEST(Report, RowsOfTheParametersStandWithoutTheirValues) {
   Design d(TheLibrary());
   StartDesign(d);
