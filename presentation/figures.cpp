@@ -113,6 +113,14 @@ void DrawPrincipalAxes(Window& w) {
   axis("v", w.shape.alfa + 90);
 }
 
+// The table of a report lists the wall of a tube as t; its form asks for tw.
+void UseReportLetters(int type, SectionShape& shape) {
+  if (type != 31) return;
+  for (SectionDimension& d : shape.dimensions) {
+    if (d.letter == "tw") d.letter = "t";
+  }
+}
+
 void DrawCentroid(Window& w) {
   w.t.FillColor = Role::Quiet;
   w.t.FillOpacity = 1;
@@ -216,7 +224,8 @@ void DrawDimensions(Window& w) {
 void DrawCaption(Window& w, bool notToScale, double foot) {
   const double room = kFigureRoom * w.size;
   const double size = w.t.FontSize;
-  w.t.FontSize = std::max(0.85 * size, std::min(w.options.leastText, size));
+  w.t.FontSize =
+      w.options.report ? std::max(0.85 * size, std::min(kReportLetters, size)) : 0.85 * size;
   w.labels.Fix({{notToScale ? "Figure not to scale" : "Figure to scale", Role::Quiet}},
                {0.02 * room, foot - w.labels.LineHeight() - 0.005 * room});
   w.t.FontSize = size;
@@ -234,18 +243,19 @@ void DrawSectionFigure(DrawingTarget& target, const Box& place, Destination dest
                        const FigureOptions& options) {
   if (destination == Destination::Picture) target.Clear();
   const bool notToScale = st.FigureNotToScale == 1;
-  const SectionShape shape = ShapeOfSection(st, rec, notToScale, kArcSteps);
+  SectionShape shape = ShapeOfSection(st, rec, notToScale, kArcSteps);
+  if (options.report) UseReportLetters(st.ProfileType, shape);
   const double size = shape.Greatest();
   if (size <= 0) return;
   const double room = kFigureRoom * size;
   const Box square = target.FitInside(place, 1, 1);
-  const double below = destination == Destination::Page ? place.bottom - square.bottom : 0;
+  const double below = options.report ? place.bottom - square.bottom : 0;
   const double foot = room * (1 + below / square.Height());
   const ScopedFrame frame(target, square, Box::At(0, 0, room, room));
   target.FontName = "Arial";
   target.FontBold = target.FontUnderline = false;
   target.SetTextUnits(kText * size);
-  target.FontSize = std::max(double(target.FontSize), options.leastText);
+  if (options.report) target.FontSize = std::max(double(target.FontSize), kReportLetters);
   Window w{target,
            shape,
            LabelPlacer(target, Box::At(0, 0, room, room)),

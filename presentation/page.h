@@ -17,9 +17,8 @@ inline constexpr double kPageColumns = 136;
 inline constexpr double kMargin = 0.1 * kPageColumns;
 inline constexpr double kRightEdge = kPageColumns - 0.06 * kPageColumns;
 inline constexpr double kLineStep = 1.0;
-inline constexpr double kBodySize = 8;     ///< pt
-inline constexpr double kFrameSize = 11;   ///< pt
-inline constexpr double kSmallSize = 6.5;  ///< pt: letters of the figure and the sketch
+inline constexpr double kBodySize = 8;    ///< pt
+inline constexpr double kFrameSize = 11;  ///< pt
 
 /// Column stops of the body.
 inline constexpr double kC1 = kMargin;

@@ -208,7 +208,7 @@ void DrawGeometry(DrawingTarget& t, double line, const Design& d) {
   const ProjectState& st = d.st;
   PutHeading(t, kParameters, line, "Geometry/Loading:");
   DiagramStyle style;
-  style.text = kSmallSize / ((kRightEdge - kParameters) * t.UnitX() / kPictureWidth);
+  style.text = kReportLetters / ((kRightEdge - kParameters) * t.UnitX() / kPictureWidth);
   const DiagramData data{st, d.beam, d.deflections, d.forces.N};
   DrawDiagramIn(t, DiagramKind::BeamSketch, Box{kParameters, line + 0.9, kRightEdge, line + 5.3},
                 Destination::Page, data, style);
@@ -324,7 +324,7 @@ void DrawControlReport(DrawingTarget& t, double line, const Design& d) {
   const CheckBlock checks = ChecksOf(t, d);
   const Layout at = LayoutOf(d, sectionEnd, checks.Lines());
   FigureOptions figure;
-  figure.leastText = kSmallSize;
+  figure.report = true;
   DrawSectionFigure(t, Box{kFigureLeft, kSection + 0.6, kRightEdge, at.loads - 0.6},
                     Destination::Page, d.st, d.rec, figure);
   if (d.st.AnalysisMode == 1) DrawLoadInformation(t, at, d.st);

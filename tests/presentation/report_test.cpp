@@ -248,6 +248,13 @@ TEST(Report, TheDiagramsBeginBelowTheParametersThatAreThere) {
   EXPECT_NEAR(top(1) - without, 4 * kPageHeight / 88, 1e-6);
 }
 
+TEST(Report, TheWallOfATubeHasTheLetterOfItsRow) {
+  const RecordingTarget page =
+      Drawn(Designed({31, false, Report::SectionProperty}), Report::SectionProperty);
+  EXPECT_EQ(page.Count("t"), 2);
+  EXPECT_EQ(page.Count("tw"), 0);
+}
+
 TEST(Report, RowsOfTheParametersStandWithoutTheirValues) {
   Design d(TheLibrary());
   StartDesign(d);
