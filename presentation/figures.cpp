@@ -203,7 +203,11 @@ void DrawDimensionOf(Window& w, const SectionDimension& d, const DimensionLine& 
   const Point a = w.At(line.a);
   const Point b = w.At(line.b);
   DrawDimension(w.t, a, b, kHead * w.size);
-  w.labels.Avoid(a, b);
+  // Heads outside have their tails beyond the ends.
+  const double length = std::hypot(b.x - a.x, b.y - a.y);
+  const double f = Outside(w, d) && length > 0 ? kOutsideTail * kHead * w.size / length : 0;
+  const Point over{f * (b.x - a.x), f * (b.y - a.y)};
+  w.labels.Avoid({a.x - over.x, a.y - over.y}, {b.x + over.x, b.y + over.y});
 }
 
 void DrawDimensions(Window& w) {

@@ -248,6 +248,30 @@ TEST(Report, TheDiagramsBeginBelowTheParametersThatAreThere) {
   EXPECT_NEAR(top(1) - without, 4 * kPageHeight / 88, 1e-6);
 }
 
+// A wide plate over a small angle: the letters stand close to the arrows of their neighbours.
+TEST(Report, LettersOfTheFigureStayOffTheArrows) {
+  Design d(TheLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 52;
+  d.st.p52_b1 = 771.0;
+  d.st.p52_t1 = 14.0;
+  d.st.p52_index = 5;
+  Calculate(d);
+  const RecordingTarget page = Drawn(d, Report::SectionAndStability);
+  // The rows of the table have the same names further to the left.
+  const Box* letter = nullptr;
+  for (const RecordedShape* s : page.OfKind(ShapeKind::Text)) {
+    if (s->text == "tw" && s->box.left > kPageWidth / 2) letter = &s->box;
+  }
+  ASSERT_NE(letter, nullptr);
+  const Box inner = letter->Grown(-0.1, -0.1);
+  for (const RecordedShape* s : page.WithPoints(ShapeKind::Line, 2)) {
+    const bool upright = s->box.Width() < 0.01;
+    EXPECT_FALSE(upright && inner.Overlaps(s->box.Grown(0.05, 0)))
+        << s->box.left << " " << s->box.top;
+  }
+}
+
 TEST(Report, TheWallOfATubeHasTheLetterOfItsRow) {
   const RecordingTarget page =
       Drawn(Designed({31, false, Report::SectionProperty}), Report::SectionProperty);
