@@ -108,7 +108,7 @@ std::string Combination(const char* name, const std::string& selfWeight, double 
 
 /// Lines of the load information at full size.
 double LoadLines(const ProjectState& st) {
-  return 8.2 + static_cast<double>(std::max(LoadRows(st, true).size(), LoadRows(st, false).size()));
+  return 7.6 + static_cast<double>(std::max(LoadRows(st, true).size(), LoadRows(st, false).size()));
 }
 
 void DrawLoadInformation(DrawingTarget& t, const Layout& at, const ProjectState& st) {
