@@ -32,8 +32,10 @@ void DrawSectionReport(DrawingTarget& t, double line, const Design& d) {
   }
   const std::string classFour = ClassFourLine(d);
   if (!classFour.empty()) PutText(t, kC1, line, classFour);
+  FigureOptions figure;
+  figure.report = true;
   DrawSectionFigure(t, Box{kC1 + 20, line + 3, kRightEdge - 20, line + 35}, Destination::Page, d.st,
-                    d.rec, FigureOptions{});
+                    d.rec, figure);
 }
 
 }  // namespace

@@ -9,6 +9,8 @@ namespace korvane {
 namespace {
 
 constexpr double kArrow = 5.5;       // length of an axial arrow
+constexpr double kHead = 1.6;        // of its head
+constexpr double kGreatestHead = 4;  // that stays in the room of the member's line
 constexpr double kBand = 6;          // height of the axial force diagram
 constexpr double kMemberBand = 1.2;  // half height of the room of a member's line
 
@@ -22,12 +24,13 @@ void DrawEndArrow(DiagramSheet& sheet, double y, int outward, bool compression) 
   DrawingTarget& t = sheet.Target();
   const Point at{sheet.X(outward < 0 ? 0 : 1), y};
   const Point near = Beside(t, at, outward * 0.5, 0);
-  const Point far = Beside(t, at, outward * kArrow, 0);
+  const Point far = Beside(t, at, outward * sheet.Sign(kArrow), 0);
+  const double head = std::min(sheet.Sign(kHead), kGreatestHead);
   sheet.Pen(Role::Second, 0.3);
   if (compression) {
-    DrawArrow(t, far, near, 1.6);
+    DrawArrow(t, far, near, head);
   } else {
-    DrawArrow(t, near, far, 1.6);
+    DrawArrow(t, near, far, head);
   }
 }
 

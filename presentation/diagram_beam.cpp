@@ -100,14 +100,23 @@ bool HasLegend(const ProjectState& st) {
 }
 
 void DrawLegend(const Sketch& s, double y) {
+  constexpr double beside = 1.6, apart = 3;
   DrawingTarget& t = s.sheet.Target();
+  LabelPlacer& labels = s.sheet.Labels();
+  const std::vector<LegendEntry> entries = LegendOf(s);
+  double words = 0;
+  for (const LegendEntry& entry : entries) words += labels.WidthOf({{entry.text, Role::Quiet}});
   double x = s.sheet.X(0);
-  for (const LegendEntry& entry : LegendOf(s)) {
-    entry.sign({x, y + s.sheet.Labels().LineHeight() / 2});
+  const double signs = t.Across((beside + apart) * static_cast<double>(entries.size()) - apart);
+  const double size = t.FontSize;
+  t.FontSize = size * std::min(1.0, (s.sheet.Bounds().right - x - signs) / words);
+  for (const LegendEntry& entry : entries) {
+    entry.sign({x, y + labels.LineHeight() / 2});
     s.sheet.Pen(Role::Quiet, 0.1);
-    const Box box = s.sheet.Labels().Fix({{entry.text, Role::Quiet}}, {x + t.Across(1.6), y});
-    x = box.right + t.Across(3);
+    const Box box = labels.Fix({{entry.text, Role::Quiet}}, {x + t.Across(beside), y});
+    x = box.right + t.Across(apart);
   }
+  t.FontSize = size;
 }
 
 void DrawMemberBody(const Sketch& s) {

@@ -19,7 +19,8 @@ constexpr double kArrowMore = 4;     // what the greatest point load has above t
 constexpr double kMomentLeast = 1.5;
 constexpr double kMomentMore = 0.9;
 constexpr double kSupport = 2.8;
-constexpr double kRise = 1.2;  // from the arrows to a row of values that had to move apart
+constexpr double kHeadShare = 0.7;  // greatest part of an arrow that is its head
+constexpr double kRise = 1.2;       // from the arrows to a row of values that had to move apart
 
 const char* TitleOf(Plane plane, bool variable) {
   constexpr const char* titles[2][2] = {
@@ -119,18 +120,20 @@ void DrawBandArrows(const Picture& p, const DistributedLoad& load, double base, 
     const double h = h1 + f * (h2 - h1);
     if (h < 0.7) continue;
     const double x = x1 + f * (x2 - x1);
-    DrawArrow(t, {x, base + sign * h}, {x, base}, 0.9);
+    DrawArrow(t, {x, base + sign * h}, {x, base}, std::min(p.sheet.Sign(0.9), kHeadShare * h));
   }
 }
 
 void LabelBand(const Picture& p, const DistributedLoad& load, double base, double sign) {
   const Side side = sign < 0 ? Side::Above : Side::Below;
   p.sheet.Pen(Role::Ink, 0.1);
-  const auto place = [&](double x, double q, const char* tag) {
+  const auto place = [&](double x, double q, const char* tag, double slide = 0) {
     const Point anchor{p.sheet.X(x), base + sign * BandHeight(p, q)};
-    p.sheet.Labels().Place({Runs(q, tag), anchor, side, 0.15, false});
+    p.sheet.Labels().Place({Runs(q, tag), anchor, side, 0.15, false, slide});
   };
-  if (load.q1 == load.q2) return place((load.x1 + load.x2) / 2, load.q1, load.tag);
+  // One value for the whole stretch stands anywhere along it.
+  const double slide = 0.3 * (p.sheet.X(load.x2) - p.sheet.X(load.x1));
+  if (load.q1 == load.q2) return place((load.x1 + load.x2) / 2, load.q1, load.tag, slide);
   place(load.x1, load.q1, load.tag);
   place(load.x2, load.q2, load.tag);
 }
@@ -171,7 +174,8 @@ void DrawPointLoad(const Picture& p, const PointLoad& load) {
   const double x = p.sheet.X(load.x);
   const double tail = ArrowTail(p, load);
   p.sheet.Pen(Role::Accent, 0.32);
-  DrawArrow(t, {x, tail}, {x, p.axis}, 1.7);
+  const double head = std::min(p.sheet.Sign(1.7), kHeadShare * std::fabs(p.axis - tail));
+  DrawArrow(t, {x, tail}, {x, p.axis}, head);
   p.sheet.Labels().Avoid({x, tail}, {x, p.axis});
 }
 

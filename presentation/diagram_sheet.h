@@ -29,6 +29,9 @@ public:
   /// The member's line with a tick at each end.
   void Axis(double y);
   void Pen(Role colour, double width);
+  /// Size of an arrow head or another sign, grid units across the member: where the picture is
+  /// flattened, signs keep the size that they have along the member.
+  double Sign(double size) const { return size * pen_; }
 
 private:
   DrawingTarget& target_;

@@ -113,6 +113,14 @@ void DrawPrincipalAxes(Window& w) {
   axis("v", w.shape.alfa + 90);
 }
 
+// The table of a report lists the wall of a tube as t; its form asks for tw.
+void UseReportLetters(int type, SectionShape& shape) {
+  if (type != 31) return;
+  for (SectionDimension& d : shape.dimensions) {
+    if (d.letter == "tw") d.letter = "t";
+  }
+}
+
 void DrawCentroid(Window& w) {
   w.t.FillColor = Role::Quiet;
   w.t.FillOpacity = 1;
@@ -195,7 +203,11 @@ void DrawDimensionOf(Window& w, const SectionDimension& d, const DimensionLine& 
   const Point a = w.At(line.a);
   const Point b = w.At(line.b);
   DrawDimension(w.t, a, b, kHead * w.size);
-  w.labels.Avoid(a, b);
+  // Heads outside have their tails beyond the ends.
+  const double length = std::hypot(b.x - a.x, b.y - a.y);
+  const double f = Outside(w, d) && length > 0 ? kOutsideTail * kHead * w.size / length : 0;
+  const Point over{f * (b.x - a.x), f * (b.y - a.y)};
+  w.labels.Avoid({a.x - over.x, a.y - over.y}, {b.x + over.x, b.y + over.y});
 }
 
 void DrawDimensions(Window& w) {
@@ -212,12 +224,14 @@ void DrawDimensions(Window& w) {
   }
 }
 
-void DrawCaption(Window& w, bool notToScale) {
+// At the foot of the place, which may reach below the window.
+void DrawCaption(Window& w, bool notToScale, double foot) {
   const double room = kFigureRoom * w.size;
   const double size = w.t.FontSize;
-  w.t.FontSize = 0.85 * size;
+  w.t.FontSize =
+      w.options.report ? std::max(0.85 * size, std::min(kReportLetters, size)) : 0.85 * size;
   w.labels.Fix({{notToScale ? "Figure not to scale" : "Figure to scale", Role::Quiet}},
-               {0.02 * room, room - w.labels.LineHeight() - 0.005 * room});
+               {0.02 * room, foot - w.labels.LineHeight() - 0.005 * room});
   w.t.FontSize = size;
 }
 
@@ -233,14 +247,19 @@ void DrawSectionFigure(DrawingTarget& target, const Box& place, Destination dest
                        const FigureOptions& options) {
   if (destination == Destination::Picture) target.Clear();
   const bool notToScale = st.FigureNotToScale == 1;
-  const SectionShape shape = ShapeOfSection(st, rec, notToScale, kArcSteps);
+  SectionShape shape = ShapeOfSection(st, rec, notToScale, kArcSteps);
+  if (options.report) UseReportLetters(st.ProfileType, shape);
   const double size = shape.Greatest();
   if (size <= 0) return;
   const double room = kFigureRoom * size;
-  const ScopedFrame frame(target, target.FitInside(place, 1, 1), Box::At(0, 0, room, room));
+  const Box square = target.FitInside(place, 1, 1);
+  const double below = options.report ? place.bottom - square.bottom : 0;
+  const double foot = room * (1 + below / square.Height());
+  const ScopedFrame frame(target, square, Box::At(0, 0, room, room));
   target.FontName = "Arial";
   target.FontBold = target.FontUnderline = false;
   target.SetTextUnits(kText * size);
+  if (options.report) target.FontSize = std::max(double(target.FontSize), kReportLetters);
   Window w{target,
            shape,
            LabelPlacer(target, Box::At(0, 0, room, room)),
@@ -252,7 +271,7 @@ void DrawSectionFigure(DrawingTarget& target, const Box& place, Destination dest
   } else {
     DrawUnknown(w, st.p41_name);
   }
-  if (options.caption && shape.HasOutline()) DrawCaption(w, notToScale);
+  if (options.caption && shape.HasOutline()) DrawCaption(w, notToScale, foot);
   DrawAxes(w);
   if (shape.principal) DrawPrincipalAxes(w);
   DrawCentroid(w);

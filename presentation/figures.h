@@ -13,10 +13,14 @@ namespace korvane {
 /// The square window of a figure is this many times the greater size of the section.
 inline constexpr double kFigureRoom = 1.8;
 
+/// Smallest letters of the figure and of the sketch on a report, pt.
+inline constexpr double kReportLetters = 6.5;
+
 struct FigureOptions {
   bool dimensions = true;  ///< dimension lines with their letters
   bool caption = true;     ///< "Figure to scale" or "Figure not to scale"
   std::string highlight;   ///< letter of the dimension to be shown in the accent colour
+  bool report = false;     ///< letters of the report's tables, none too small for paper
 };
 
 /// Corner of the section's bounding box in the figure's window (mm): the room left is the same

@@ -99,25 +99,32 @@ double LabelPlacer::Cost(const Box& r, double least) const {
   return cost;
 }
 
-Box LabelPlacer::BestPlace(const Box& preferred) const {
+LabelPlacer::Candidate LabelPlacer::BestPlace(const Box& preferred) const {
   const double step = LineHeight();
-  Box best = preferred;
-  double least = kTooMuch;
+  Candidate best{preferred, kTooMuch};
   for (const Move& m : Moves()) {
-    if (m.distance >= least) break;
+    if (m.distance >= best.cost) break;
     const Box r = preferred.Moved(target_.Across(m.dx * step), m.dy * step);
-    const double cost = m.distance + Cost(r, least - m.distance);
-    if (cost < least) {
-      least = cost;
-      best = r;
-    }
+    const double cost = m.distance + Cost(r, best.cost - m.distance);
+    if (cost < best.cost) best = {r, cost};
   }
   return best;
 }
 
 Box LabelPlacer::Place(const Label& label) {
-  const Box preferred = Preferred(label, WidthOf(label.runs));
-  const Box box = BestPlace(preferred);
+  Box preferred = Preferred(label, WidthOf(label.runs));
+  Candidate place = BestPlace(preferred);
+  if (label.slide > 0 && place.cost > 0) {
+    const Box middle = preferred;
+    for (const double share : {-0.5, 0.5, -1., 1.}) {
+      const Box wanted = middle.Moved(share * label.slide, 0);
+      const Candidate other = BestPlace(wanted);
+      if (other.cost >= place.cost) continue;
+      place = other;
+      preferred = wanted;
+    }
+  }
+  const Box box = place.box;
   const double height = LineHeight();
   const double moved = std::hypot((box.left - preferred.left) / target_.Across(height),
                                   (box.top - preferred.top) / height);

@@ -25,6 +25,7 @@ struct Label {
   Side side = Side::Above;
   double gap = 0;       ///< distance from the anchor, vertical user units
   bool leader = false;  ///< a thin line to the anchor when the label had to move away
+  double slide = 0;     ///< the anchor may as well stand this far to its left or right
 };
 
 /// Places labels one after the other inside bounds, none over another; lines are crossed only
@@ -54,7 +55,11 @@ private:
   };
   Box Preferred(const Label& label, double width) const;
   double Cost(const Box& r, double least) const;
-  Box BestPlace(const Box& preferred) const;
+  struct Candidate {
+    Box box;
+    double cost;
+  };
+  Candidate BestPlace(const Box& preferred) const;
   void Draw(const std::vector<LabelRun>& runs, Point topLeft);
   void DrawLeader(const Label& label, const Box& box);
 

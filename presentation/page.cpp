@@ -2,6 +2,7 @@
 #include "presentation/page.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "core/text.h"
 #include "presentation/figures.h"
@@ -163,6 +164,30 @@ double DrawBlock(DrawingTarget& t, double column, double line, const char* headi
   return DrawValues(t, column, line + 1.2 * kLineStep, values);
 }
 
+/// The typed distance of the webs, on a trapezoid the run of its slope: the section record has no
+/// field for it, but the figure has its letter.
+std::optional<double> WebDistance(const ProjectState& st) {
+  switch (st.ProfileType) {
+    case 23:
+      return st.p23_a;
+    case 24:
+      return st.p24_a;
+    case 25:
+      return st.p25_a;
+    case 27:
+      return st.p27_a;
+    case 55:
+      return st.p55_a;
+    default:
+      return std::nullopt;
+  }
+}
+
+ShownValues::iterator Named(ShownValues& values, std::string_view name) {
+  return std::find_if(values.begin(), values.end(),
+                      [name](const ShownValue& v) { return v.name == name; });
+}
+
 const char* DimensionHeading(int type) {
   if (type == 24 || type == 25 || type == 27) return "Dimensions:";
   return type == 10 || type == 11 ? "Dimension and Weight:" : "Dimensions and weight:";
@@ -172,11 +197,21 @@ const char* DimensionHeading(int type) {
 
 double DrawSectionValues(DrawingTarget& t, double line, const Design& d) {
   const int type = d.st.ProfileType;
-  const bool hsq = type == 24 || type == 25 || type == 27;
-  double end = DrawBlock(t, kC1, line, DimensionHeading(type), Dimensions(d.st, d.rec));
-  end = std::max(end,
-                 DrawBlock(t, kC5, line, hsq ? "Weight and Section property:" : "Section property:",
-                           Properties(d.st, d.rec)));
+  const bool weightApart = type == 24 || type == 25 || type == 27;
+  ShownValues dimensions = Dimensions(d.st, d.rec);
+  ShownValues properties = Properties(d.st, d.rec);
+  if (const std::optional<double> a = WebDistance(d.st)) {
+    dimensions.insert(Named(dimensions, "tw"), {"a", *a, Format(*a, "#0.0"), "mm"});
+  }
+  if (weightApart) {
+    const auto weight = Named(dimensions, "S");
+    properties.insert(properties.begin(), weight, dimensions.end());
+    dimensions.erase(weight, dimensions.end());
+  }
+  double end = DrawBlock(t, kC1, line, DimensionHeading(type), dimensions);
+  end = std::max(end, DrawBlock(t, kC5, line,
+                                weightApart ? "Weight and Section property:" : "Section property:",
+                                properties));
   PutHeading(t, kC8, line, "Capacity:");
   line += 1.2 * kLineStep;
   if (const std::string sectionClass = ClassText(d.st, d.rec); !sectionClass.empty()) {
@@ -192,6 +227,10 @@ std::string ProfileLine(const Design& d) {
   const std::string size = NameDimensions(st, d.lib->catalogues);
   const bool ch = st.p103_sub == 2;
   switch (st.ProfileType) {
+    case 5:
+      return "  UPE " + size;
+    case 16:
+      return "  UNP " + size;
     case 6:
     case 7:
       return "  RHS " + size + " (Hotf.)";

@@ -108,7 +108,7 @@ std::string Combination(const char* name, const std::string& selfWeight, double 
 
 /// Lines of the load information at full size.
 double LoadLines(const ProjectState& st) {
-  return 8.2 + static_cast<double>(std::max(LoadRows(st, true).size(), LoadRows(st, false).size()));
+  return 7.6 + static_cast<double>(std::max(LoadRows(st, true).size(), LoadRows(st, false).size()));
 }
 
 void DrawLoadInformation(DrawingTarget& t, const Layout& at, const ProjectState& st) {
@@ -161,9 +161,8 @@ double DrawBucklingTable(DrawingTarget& t, double line, const Design& d) {
   row("Buckling length factor", f2(d.st.bly), f2(d.st.blz));
   row("Buckling Curve", letter(d.st.BucklingCurveY), letter(d.st.BucklingCurveZ));
   // Without compression no slenderness was worked out for this member.
-  if (d.checks.bucklingRan) {
-    row("Slenderness lamda =", f2(d.buckling.Lybar), f2(d.buckling.Lzbar));
-  }
+  const auto slenderness = [&](double v) { return d.checks.bucklingRan ? f2(v) : "N/A"; };
+  row("Slenderness lamda =", slenderness(d.buckling.Lybar), slenderness(d.buckling.Lzbar));
   if (d.beam.betaMy != 0 || d.beam.betaMz != 0) {
     row("Betam", f2(d.beam.betaMy), f2(d.beam.betaMz));
   }
@@ -171,9 +170,9 @@ double DrawBucklingTable(DrawingTarget& t, double line, const Design& d) {
 }
 
 void DrawLateralParameters(DrawingTarget& t, double line, const Design& d) {
+  PutHeading(t, kParameters, line, "Lateral buckling parameters:");
   if (d.st.LateralTorsionalBuckling != 1) return;
   const auto f3 = [](double v) { return Format(v, "#0.000"); };
-  PutHeading(t, kParameters, line, "Lateral buckling parameters:");
   PutText(t, kParameters, line + 1,
           "k = " + Format(d.st.k_ltb, "#0.00") +
               "   Restraint points: " + std::to_string(int(d.st.LtbSegments)));
@@ -186,22 +185,42 @@ void DrawLateralParameters(DrawingTarget& t, double line, const Design& d) {
 
 // --- Geometry -----------------------------------------------------------------------------------
 
+constexpr double kSketch = 5.4;  ///< lines of the heading and the sketch
+
+bool HasWebStiffeners(const ProjectState& st) {
+  const Family* family = FindFamily(st.ProfileType);
+  return family != nullptr && family->webOption && st.WebStiffener == 1;
+}
+
+/// Lines of the geometry with the gap below it.
+double GeometryLines(const ProjectState& st) {
+  return kSketch + (HasWebStiffeners(st) ? 2 : 1) + 0.6;
+}
+
+/// Lines of the geometry, the buckling and the lateral parameters.
+double ParameterLines(const Design& d) {
+  const double betas = d.beam.betaMy != 0 || d.beam.betaMz != 0 ? 1 : 0;
+  return GeometryLines(d.st) + 4 + betas + 0.6 * kLineStep +
+         (d.st.LateralTorsionalBuckling == 1 ? 5 : 1);
+}
+
 void DrawGeometry(DrawingTarget& t, double line, const Design& d) {
   const ProjectState& st = d.st;
   PutHeading(t, kParameters, line, "Geometry/Loading:");
-  const DiagramStyle style;
+  DiagramStyle style;
+  style.text = kReportLetters / ((kRightEdge - kParameters) * t.UnitX() / kPictureWidth);
   const DiagramData data{st, d.beam, d.deflections, d.forces.N};
-  DrawDiagramIn(t, DiagramKind::BeamSketch, Box{kParameters, line + 1, kRightEdge, line + 5.2},
+  DrawDiagramIn(t, DiagramKind::BeamSketch, Box{kParameters, line + 0.9, kRightEdge, line + 5.3},
                 Destination::Page, data, style);
-  double below = line + 5.4;
+  double below = line + kSketch;
   std::string options;
   if (st.SupportType == 3 || st.SupportType == 5) {
-    options = "Spring restraint:" + Format(st.SpringRestraint, "00") + "%   ";
+    options = "Spring restraint:" + Format(st.SpringRestraint, "00") + "%  ";
   }
   const Family* family = FindFamily(st.ProfileType);
   if (family != nullptr && family->webOption) {
     options += std::string("Support stiffener: ") + (st.EndStiffener == 1 ? "Stiff" : "Weak");
-    if (st.WebStiffener == 1) {
+    if (HasWebStiffeners(st)) {
       PutText(t, kParameters, below + 1,
               "Web stiffener: c/c " + Format(st.a_webstiff, "##0") + " mm");
     }
@@ -277,12 +296,12 @@ void DrawChecks(DrawingTarget& t, const CheckBlock& block, double line, const De
 
 /// Loads below the section values, checks at the foot, diagrams between them.
 Layout LayoutOf(const Design& d, double sectionEnd, double checkLines) {
-  constexpr double parameters = 20;  // lines of geometry, buckling and lateral parameters
   Layout at{};
   at.loads = std::max(sectionEnd, 28.0) + 0.6;
   at.checks = std::max(kBottom - checkLines, 71.0);
   const double loads = d.st.AnalysisMode == 1 ? LoadLines(d.st) + 0.8 : 0;
-  at.diagrams = std::min(at.loads + std::max(loads, parameters), at.checks - kLeastDiagrams);
+  at.diagrams =
+      std::min(at.loads + std::max(loads, ParameterLines(d) + 0.6), at.checks - kLeastDiagrams);
   return at;
 }
 
@@ -304,11 +323,13 @@ void DrawControlReport(DrawingTarget& t, double line, const Design& d) {
   const double sectionEnd = DrawSectionValues(t, kSection + 0.8, d);
   const CheckBlock checks = ChecksOf(t, d);
   const Layout at = LayoutOf(d, sectionEnd, checks.Lines());
+  FigureOptions figure;
+  figure.report = true;
   DrawSectionFigure(t, Box{kFigureLeft, kSection + 0.6, kRightEdge, at.loads - 0.6},
-                    Destination::Page, d.st, d.rec, FigureOptions{});
+                    Destination::Page, d.st, d.rec, figure);
   if (d.st.AnalysisMode == 1) DrawLoadInformation(t, at, d.st);
   DrawGeometry(t, at.loads, d);
-  const double next = DrawBucklingTable(t, at.loads + 8.0, d);
+  const double next = DrawBucklingTable(t, at.loads + GeometryLines(d.st), d);
   DrawLateralParameters(t, next, d);
   PutHeading(t, kC1, at.diagrams,
              d.st.AnalysisMode == 1 ? "Loading/Moment: (kN/kNm/m)" : "Endforces: (kN/kNm/m)");

@@ -144,7 +144,7 @@ void DrawDimension(DrawingTarget& target, Point a, Point b, double head) {
     DrawArrowHead(target, b, dx, dy, head);
     return;
   }
-  const double tail = 2.2 * head;
+  const double tail = kOutsideTail * head;
   target.Line(Beside(target, a, -ux * tail, -uy * tail), a);
   target.Line(b, Beside(target, b, ux * tail, uy * tail));
   DrawArrowHead(target, a, dx, dy, head);

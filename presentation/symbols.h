@@ -24,6 +24,7 @@ void DrawMomentArrow(DrawingTarget& target, Point centre, double radius, bool cl
 /// A dimension line between two points. Shorter than kOutsideHeads heads it has them outside,
 /// pointing inwards.
 inline constexpr double kOutsideHeads = 3.2;
+inline constexpr double kOutsideTail = 2.2;  ///< length of an outside arrow in heads
 void DrawDimension(DrawingTarget& target, Point a, Point b, double head);
 
 /// The supports of a member whose axis runs between two points of one height and which is

@@ -208,7 +208,7 @@ std::string NameDimensions(const ProjectState& st, const Catalogues& cat) {
   std::string out;
   for (const char ch : title.substr(digit)) {
     // List entries carry a blank for the sign of each number.
-    if (ch == ' ' && !out.empty() && out.back() == 'x') continue;
+    if (ch == ' ' && !out.empty() && (out.back() == 'x' || out.back() == ' ')) continue;
     out += ch;
   }
   return out;

@@ -158,7 +158,13 @@ ShownValues Collect(const char* names, const SectionRecord& rec) {
 }  // namespace
 
 ShownValues Dimensions(const ProjectState& st, const SectionRecord& rec) {
-  return Collect(ListsOf(st.ProfileType, st.p103_sub).dimensions, rec);
+  ShownValues values = Collect(ListsOf(st.ProfileType, st.p103_sub).dimensions, rec);
+  if (st.ProfileType < 6 || st.ProfileType > 9) return values;
+  // Hollow sections come in whole millimetres; only their walls and corners have a decimal.
+  for (ShownValue& v : values) {
+    if (v.name == "h" || v.name == "b") v.text = Format(v.value, "##0");
+  }
+  return values;
 }
 
 ShownValues Properties(const ProjectState& st, const SectionRecord& rec) {

@@ -8,6 +8,7 @@
 #include "front/desktop/form_window.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
+#include "front/forms/forms.h"
 #include "sections/profile_table.h"
 #include "sections/shown_values.h"
 
@@ -22,10 +23,10 @@ int CodeOf(const std::string& form) {
   return 0;
 }
 
-/// Whether one of the values has the symbol of the caption "Wely =".
-bool Among(const ShownValues& values, const std::string& caption) {
+/// Whether one of the values has the caption, as "Wely =", in the form of the family.
+bool Among(int code, const ShownValues& values, const std::string& caption) {
   return std::any_of(values.begin(), values.end(),
-                     [&](const ShownValue& v) { return std::string(v.name) + " =" == caption; });
+                     [&](const ShownValue& v) { return ValueCaption(code, v.name) == caption; });
 }
 
 QGroupBox* Values(WidgetMaker& maker, const QString& title,
@@ -48,7 +49,8 @@ QGroupBox* Values(WidgetMaker& maker, const QString& title,
 
 void LayOutFamily(WidgetMaker& maker, QWidget* window) {
   ProjectState st;
-  st.ProfileType = CodeOf(maker.form().name);
+  const int code = CodeOf(maker.form().name);
+  st.ProfileType = code;
   st.p103_sub = 2;
   const SectionRecord none;
   const ShownValues properties = Properties(st, none);
@@ -61,10 +63,10 @@ void LayOutFamily(WidgetMaker& maker, QWidget* window) {
       list = c.name;
     } else if (!value) {
       if (c.kind != Kind::Surface) others.push_back(&c);
-    } else if (c.name == "osclass" || Among(capacities, c.caption)) {
+    } else if (c.name == "osclass" || Among(code, capacities, c.caption)) {
       caps.push_back(&c);
     } else {
-      (Among(properties, c.caption) ? props : dims).push_back(&c);
+      (Among(code, properties, c.caption) ? props : dims).push_back(&c);
     }
   }
   auto* all = new QVBoxLayout(window);

@@ -138,6 +138,16 @@ std::string ControlName(std::string_view symbol) {
   return name;
 }
 
+/// Labels of the forms that are not the symbol of the value.
+struct FormLabel {
+  int code;
+  std::string_view symbol;
+  const char* caption;  ///< empty: the form has no label for the value
+};
+constexpr FormLabel kFormLabels[] = {{10, "Ncrd", "Ncd ="}, {11, "Ncrd", "Ncd ="},
+                                     {11, "Vdz", "Vzd ="},  {11, "Vdy", "Vyd ="},
+                                     {22, "Ix", ""},        {26, "Ntd", "Ntrd ="}};
+
 using Values = ShownValues (*)(const ProjectState&, const SectionRecord&);
 
 /// One label for each value of a block: its text is value and unit, its caption the symbol.
@@ -148,6 +158,8 @@ void AddValueLabels(int code, Values values, std::vector<Control>& c) {
   const SectionRecord none;
   for (const ShownValue& v : values(st, none)) {
     const std::string symbol(v.name);
+    const std::string caption = ValueCaption(code, symbol);
+    if (caption.empty()) continue;
     const auto find = [values, symbol](const Session& s) {
       const ShownValues all = values(s.st(), s.design().rec);
       const auto it = std::find_if(all.begin(), all.end(),
@@ -159,7 +171,7 @@ void AddValueLabels(int code, Values values, std::vector<Control>& c) {
       if (s.DecimalComma()) std::replace(text.begin(), text.end(), '.', ',');
       return text;
     });
-    label.caption = symbol + " =";
+    label.caption = caption;
     label.visible = [find](const Session& s) { return !find(s).empty(); };
     c.push_back(std::move(label));
   }
@@ -168,7 +180,8 @@ void AddValueLabels(int code, Values values, std::vector<Control>& c) {
 void AddCommon(int code, const char* form, std::vector<Control>& c) {
   AddValueLabels(code, Dimensions, c);
   AddValueLabels(code, Properties, c);
-  AddValueLabels(code, Capacities, c);
+  // The form of typed constants has no labels for capacities.
+  if (code != 41) AddValueLabels(code, Capacities, c);
   c.push_back(
       TextLabel("osclass", [](const Session& s) { return ClassText(s.st(), s.design().rec); }));
   c.back().caption = "Sectionclass:";
@@ -234,6 +247,13 @@ Form FamilyForm(const Family& family) {
 }
 
 }  // namespace
+
+std::string ValueCaption(int code, std::string_view symbol) {
+  for (const FormLabel& label : kFormLabels) {
+    if (label.code == code && label.symbol == symbol) return label.caption;
+  }
+  return std::string(symbol) + " =";
+}
 
 void AddFamilyForms(std::vector<Form>& forms) {
   for (const Family& family : AllFamilies()) forms.push_back(FamilyForm(family));

@@ -51,6 +51,19 @@ TEST(LabelPlacer, AMovedLabelHasALeader) {
   EXPECT_EQ(lines.at(0)->stroke.colour, Role::Quiet);
 }
 
+TEST(LabelPlacer, AnAnchorSlidesBeforeItsLabelLeavesTheLine) {
+  RecordingTarget t;
+  t.FontSize = 10;
+  LabelPlacer labels(t, kPage);
+  labels.Keep({90, 30, 110, 49});
+  Label label = At("1.5", {100, 50});
+  label.slide = 60;
+  const Box box = labels.Place(label);
+  EXPECT_DOUBLE_EQ(box.bottom, 49);
+  EXPECT_NEAR(std::abs(box.Centre().x - 100), 30, 1e-9);
+  EXPECT_TRUE(t.OfKind(ShapeKind::Line).empty());
+}
+
 TEST(LabelPlacer, ALabelThatStaysHasNone) {
   RecordingTarget t;
   LabelPlacer labels(t, kPage);

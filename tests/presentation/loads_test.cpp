@@ -329,6 +329,47 @@ TEST(AxialLoads, CompressionPointsAtTheMember) {
   EXPECT_NEAR(Tips(t)[1].x, X(1) + 0.5, 1e-9);
 }
 
+// On a page that is short of room a grid unit across the member is a third of one along it; the
+// heads of the arrows are still as long as the width of the member lets them be.
+TEST(AxialLoads, ArrowsOfAFlattenedPictureKeepTheirSize) {
+  ProjectState st;
+  st.NP = 100.0;
+  const auto longest = [&st](double across, double pen) {
+    RecordingTarget t;
+    const DiagramStyle style{2.4 / across, pen};
+    const double height = AxialLoadHeight(st, false, style);
+    const ScopedFrame frame(t, Box{0, 0, 84, height * across}, Box::At(0, 0, 84, height));
+    DrawAxialPermanent(t, {}, st, style);
+    double length = 0;
+    for (const RecordedShape* s : t.OfKind(ShapeKind::Polygon)) length = s->box.Width();
+    return length;
+  };
+  EXPECT_NEAR(longest(1, 1), 1.6, 1e-6);
+  EXPECT_NEAR(longest(0.5, 2), 1.6, 1e-6);
+  EXPECT_NEAR(longest(1 / 3., 3), 4 / 3., 1e-6);
+}
+
+TEST(PointLoads, HeadsOfAFlattenedPictureKeepTheirSize) {
+  ProjectState st;
+  st.L = 6.0;
+  st.pm[1] = 10.0;
+  st.pmx[1] = 3.0;
+  const auto head = [&st](double across, double pen) {
+    RecordingTarget t;
+    const DiagramStyle style{2.4 / across, pen};
+    const double height = LoadsHeight(st, Plane::Z, false, style);
+    const ScopedFrame frame(t, Box{0, 0, 84, height * across}, Box::At(0, 0, 84, height));
+    DrawLoads(t, {}, st, Plane::Z, false, style);
+    double length = 0;
+    for (const RecordedShape* s : t.OfKind(ShapeKind::Polygon)) {
+      if (s->fill.colour == Role::Accent) length = std::max(length, s->box.Height());
+    }
+    return length;
+  };
+  EXPECT_NEAR(head(1, 1), 1.7, 1e-6);
+  EXPECT_NEAR(head(0.5, 2), 1.7, 1e-6);
+}
+
 TEST(AxialLoads, TensionPointsAway) {
   ProjectState st = Unloaded();
   st.NP = -40;

@@ -157,6 +157,145 @@ std::string PageName(const ::testing::TestParamInfo<Page>& info) {
 
 INSTANTIATE_TEST_SUITE_P(AllFamilies, Reports, ::testing::ValuesIn(AllPages()), PageName);
 
+/// Where a text begins on a page, -1 where there is none.
+double LeftOf(const RecordingTarget& page, const std::string& text) {
+  const RecordedShape* shape = page.FindText(text);
+  return shape == nullptr ? -1 : shape->box.left;
+}
+
+RecordingTarget Drawn(const Design& d, Report report) {
+  RecordingTarget page;
+  DrawReport(page, report, d, {});
+  return page;
+}
+
+TEST(Report, ChannelsHaveABlankBeforeTheirSize) {
+  for (const auto& [family, line] : {std::pair{5, "  UPE "}, std::pair{16, "  UNP "}}) {
+    const Design d = Designed({family, false, Report::SectionProperty});
+    const CatalogueTable& table = d.lib->catalogues[family == 5 ? Cat::UPE : Cat::UNP];
+    const int row = family == 5 ? d.st.idxUPE : d.st.idxUNP;
+    const std::string whole = line + std::to_string(static_cast<int>(table(row, 1)));
+    for (const Report report : {Report::SectionProperty, Report::SectionAndStability}) {
+      EXPECT_EQ(Drawn(d, report).Count(whole), 1) << whole;
+    }
+  }
+}
+
+TEST(Report, TheWeightOfBoxesAndHatsStandsWithTheirProperties) {
+  for (const int family : {24, 25, 27, 21}) {
+    const Design d = Designed({family, false, Report::SectionProperty});
+    const RecordingTarget page = Drawn(d, Report::SectionProperty);
+    const bool apart = family != 21;
+    const double column =
+        LeftOf(page, apart ? "Weight and Section property:" : "Dimensions and weight:");
+    ASSERT_GE(column, 0) << family;
+    EXPECT_NEAR(LeftOf(page, "g"), column, 1e-6) << family;
+    EXPECT_NEAR(LeftOf(page, "S"), column, 1e-6) << family;
+  }
+}
+
+TEST(Report, TheDistanceOfTheWebsIsListed) {
+  Design d(TheLibrary());
+  StartDesign(d);
+  using S = ProjectState;
+  constexpr std::pair<int, float32 S::*> distances[] = {
+      {23, &S::p23_a}, {24, &S::p24_a}, {25, &S::p25_a}, {27, &S::p27_a}};
+  for (const auto& [family, a] : distances) {
+    d.st.ProfileType = family;
+    d.st.*a = 37.5;
+    Calculate(d);
+    EXPECT_EQ(Drawn(d, Report::SectionProperty).Count("37.5"), 1) << family;
+  }
+  d.st.ProfileType = 55;
+  d.st.p55_a = 37.5;
+  Calculate(d);
+  EXPECT_EQ(Drawn(d, Report::SectionProperty).Count("37.5"), 1);
+}
+
+// What is printed smaller than this can't be read on paper.
+TEST(Report, LettersOfTheFigureAndTheSketchAreReadable) {
+  constexpr double least = 6;  // pt
+  for (const int family : {1, 6, 10, 25, 31, 53}) {
+    const Design d = Designed({family, false, Report::SectionAndStability});
+    const RecordingTarget page = Drawn(d, Report::SectionAndStability);
+    for (const char* text : {"Z", "Y", "Figure not to scale", "L = 5.000 m"}) {
+      const RecordedShape* shape = page.FindText(text);
+      ASSERT_NE(shape, nullptr) << family << text;
+      EXPECT_GE(shape->style.size, least) << family << text;
+    }
+  }
+}
+
+TEST(Report, TheDiagramsBeginBelowTheParametersThatAreThere) {
+  Design d(TheLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 1;
+  d.st.AnalysisMode = 0;
+  d.st.Ne = 50.0;
+  const auto top = [&d](int lateral) {
+    d.st.LateralTorsionalBuckling = lateral;
+    Calculate(d);
+    const RecordingTarget page = Drawn(d, Report::SectionAndStability);
+    const RecordedShape* heading = page.FindText("Endforces: (kN/kNm/m)");
+    if (heading == nullptr) return -1.0;
+    const RecordedShape* last = page.FindText("Lateral buckling parameters:");
+    EXPECT_TRUE(last != nullptr && heading->box.top > last->box.bottom);
+    return heading->box.top;
+  };
+  const double without = top(0);
+  EXPECT_GT(without, 0);
+  // Four lines of the grid's 88.
+  EXPECT_NEAR(top(1) - without, 4 * kPageHeight / 88, 1e-6);
+}
+
+// A wide plate over a small angle: the letters stand close to the arrows of their neighbours.
+TEST(Report, LettersOfTheFigureStayOffTheArrows) {
+  Design d(TheLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 52;
+  d.st.p52_b1 = 771.0;
+  d.st.p52_t1 = 14.0;
+  d.st.p52_index = 5;
+  Calculate(d);
+  const RecordingTarget page = Drawn(d, Report::SectionAndStability);
+  // The rows of the table have the same names further to the left.
+  const Box* letter = nullptr;
+  for (const RecordedShape* s : page.OfKind(ShapeKind::Text)) {
+    if (s->text == "tw" && s->box.left > kPageWidth / 2) letter = &s->box;
+  }
+  ASSERT_NE(letter, nullptr);
+  const Box inner = letter->Grown(-0.1, -0.1);
+  for (const RecordedShape* s : page.WithPoints(ShapeKind::Line, 2)) {
+    const bool upright = s->box.Width() < 0.01;
+    EXPECT_FALSE(upright && inner.Overlaps(s->box.Grown(0.05, 0)))
+        << s->box.left << " " << s->box.top;
+  }
+}
+
+TEST(Report, TheWallOfATubeHasTheLetterOfItsRow) {
+  const RecordingTarget page =
+      Drawn(Designed({31, false, Report::SectionProperty}), Report::SectionProperty);
+  EXPECT_EQ(page.Count("t"), 2);
+  EXPECT_EQ(page.Count("tw"), 0);
+}
+
+TEST(Report, RowsOfTheParametersStandWithoutTheirValues) {
+  Design d(TheLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 1;
+  d.st.AnalysisMode = 0;
+  d.st.Ne = -50.0;
+  d.st.LateralTorsionalBuckling = 0;
+  Calculate(d);
+  const RecordingTarget tension = Drawn(d, Report::SectionAndStability);
+  EXPECT_EQ(tension.Count("Slenderness lamda ="), 1);
+  EXPECT_EQ(tension.Count("N/A"), 2);
+  EXPECT_EQ(tension.Count("Lateral buckling parameters:"), 1);
+  d.st.Ne = 50.0;
+  Calculate(d);
+  EXPECT_EQ(Drawn(d, Report::SectionAndStability).Count("N/A"), 0);
+}
+
 TEST(Report, WeightIsPrintedUnderGAndSurfaceUnderS) {
   const Design d = Designed({1, false, Report::SectionProperty});
   RecordingTarget page;

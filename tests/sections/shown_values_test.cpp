@@ -107,6 +107,25 @@ TEST(ShownValues, FormatsAndUnitsOfAWideFlange) {
   EXPECT_EQ(text["Mdy"], "125.4 kNm");
 }
 
+TEST(ShownValues, HollowSectionsHaveWholeSides) {
+  for (const int family : {6, 7, 8, 9}) {
+    SCOPED_TRACE(family);
+    SectionRecord rec;
+    rec.h = 200.0;
+    rec.b = 120.0;
+    rec.tw = 6.3;
+    rec.r = 9.6;
+    ProjectState st;
+    st.ProfileType = family;
+    const ShownValues values = Dimensions(st, rec);
+    ASSERT_GE(values.size(), 4U);
+    EXPECT_EQ(values[0].text, "200");
+    EXPECT_EQ(values[1].text, "120");
+    EXPECT_EQ(values[2].text, "6.3");
+    EXPECT_EQ(values[3].text, "9.6");
+  }
+}
+
 // The labels of the angle's moduli are not renumbered: Wu1 shows Iv/u2, Wv2 shows Iu/v1.
 TEST(ShownValues, ModuliOfAnglesUnderTheirKeptLabels) {
   Made m(11);
