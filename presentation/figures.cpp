@@ -113,14 +113,6 @@ void DrawPrincipalAxes(Window& w) {
   axis("v", w.shape.alfa + 90);
 }
 
-// The table of a report lists the wall of a tube as t; its form asks for tw.
-void UseReportLetters(int type, SectionShape& shape) {
-  if (type != 31) return;
-  for (SectionDimension& d : shape.dimensions) {
-    if (d.letter == "tw") d.letter = "t";
-  }
-}
-
 void DrawCentroid(Window& w) {
   w.t.FillColor = Role::Quiet;
   w.t.FillOpacity = 1;
@@ -242,13 +234,20 @@ Point FigureOrigin(double H, double W) {
   return {(room - W) * 0.5, (room - H) * 0.5};
 }
 
+std::string_view ReportLetter(int profileType, std::string_view letter) {
+  const bool oneWall = profileType == 31 || (profileType >= 51 && profileType <= 56);
+  return oneWall && letter == "tw" ? "t" : letter;
+}
+
 void DrawSectionFigure(DrawingTarget& target, const Box& place, Destination destination,
                        const ProjectState& st, const SectionRecord& rec,
                        const FigureOptions& options) {
   if (destination == Destination::Picture) target.Clear();
   const bool notToScale = st.FigureNotToScale == 1;
   SectionShape shape = ShapeOfSection(st, rec, notToScale, kArcSteps);
-  if (options.report) UseReportLetters(st.ProfileType, shape);
+  if (options.report) {
+    for (SectionDimension& d : shape.dimensions) d.letter = ReportLetter(st.ProfileType, d.letter);
+  }
   const double size = shape.Greatest();
   if (size <= 0) return;
   const double room = kFigureRoom * size;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "presentation/drawing_target.h"
 #include "presentation/grafik.h"
@@ -15,6 +16,10 @@ inline constexpr double kFigureRoom = 1.8;
 
 /// Smallest letters of the figure and of the sketch on a report, pt.
 inline constexpr double kReportLetters = 6.5;
+
+/// The letter by which the reports name a dimension: the wall of a tube, of a stiffener and of a
+/// trapezoid is "t" there and "tw" on the form.
+std::string_view ReportLetter(int profileType, std::string_view letter);
 
 struct FigureOptions {
   bool dimensions = true;  ///< dimension lines with their letters

@@ -208,6 +208,7 @@ double DrawSectionValues(DrawingTarget& t, double line, const Design& d) {
     properties.insert(properties.begin(), weight, dimensions.end());
     dimensions.erase(weight, dimensions.end());
   }
+  for (ShownValue& v : dimensions) v.name = ReportLetter(type, v.name);
   double end = DrawBlock(t, kC1, line, DimensionHeading(type), dimensions);
   end = std::max(end, DrawBlock(t, kC5, line,
                                 weightApart ? "Weight and Section property:" : "Section property:",

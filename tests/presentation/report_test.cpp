@@ -261,7 +261,7 @@ TEST(Report, LettersOfTheFigureStayOffTheArrows) {
   // The rows of the table have the same names further to the left.
   const Box* letter = nullptr;
   for (const RecordedShape* s : page.OfKind(ShapeKind::Text)) {
-    if (s->text == "tw" && s->box.left > kPageWidth / 2) letter = &s->box;
+    if (s->text == "t" && s->box.left > kPageWidth / 2) letter = &s->box;
   }
   ASSERT_NE(letter, nullptr);
   const Box inner = letter->Grown(-0.1, -0.1);
@@ -272,11 +272,14 @@ TEST(Report, LettersOfTheFigureStayOffTheArrows) {
   }
 }
 
-TEST(Report, TheWallOfATubeHasTheLetterOfItsRow) {
-  const RecordingTarget page =
-      Drawn(Designed({31, false, Report::SectionProperty}), Report::SectionProperty);
-  EXPECT_EQ(page.Count("t"), 2);
-  EXPECT_EQ(page.Count("tw"), 0);
+TEST(Report, TheOneWallHasTheLetterOfItsRowInTheFigureToo) {
+  for (const int type : {31, 51, 52, 53, 54, 55, 56}) {
+    SCOPED_TRACE(type);
+    const RecordingTarget page =
+        Drawn(Designed({type, false, Report::SectionProperty}), Report::SectionProperty);
+    EXPECT_EQ(page.Count("t"), 2);
+    EXPECT_EQ(page.Count("tw"), 0);
+  }
 }
 
 TEST(Report, RowsOfTheParametersStandWithoutTheirValues) {
