@@ -20,7 +20,8 @@ LayOut LayOutOf(const std::string& form) {
   static const std::map<std::string, LayOut> own{
       {"loading", LayOutLoading},   {"endforce", LayOutEndForces},   {"optroll", LayOutOptimiser},
       {"database", LayOutDatabase}, {"bucklingcurve", LayOutCurves}, {"Pictures", LayOutPictures},
-      {"setup", LayOutSetup},       {"vipping", LayOutLateral}};
+      {"setup", LayOutSetup},       {"vipping", LayOutLateral},      {"bucklingy", LayOutCases},
+      {"bucklingz", LayOutCases}};
   if (const auto it = own.find(form); it != own.end()) return it->second;
   for (const Family& family : AllFamilies()) {
     if (form == family.form) return LayOutFamily;

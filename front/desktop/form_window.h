@@ -38,6 +38,7 @@ void LayOutOptimiser(WidgetMaker& maker, QWidget* window);
 void LayOutFamily(WidgetMaker& maker, QWidget* window);
 void LayOutStacked(WidgetMaker& maker, QWidget* window);
 void LayOutDatabase(WidgetMaker& maker, QWidget* window);
+void LayOutCases(WidgetMaker& maker, QWidget* window);  ///< bucklingy, bucklingz
 void LayOutCurves(WidgetMaker& maker, QWidget* window);
 void LayOutPictures(WidgetMaker& maker, QWidget* window);
 void LayOutSetup(WidgetMaker& maker, QWidget* window);

@@ -61,6 +61,14 @@ QString UnitOf(const WidgetMaker& maker, const std::string& name) {
   return QString::fromStdString(FindControl(maker.form(), name)->unit);
 }
 
+void KeepRoom(const std::vector<QWidget*>& widgets) {
+  for (QWidget* widget : widgets) {
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+  }
+}
+
 QGroupBox* Factors(WidgetMaker& maker) {
   QGroupBox* group = Group(QObject::tr("Load factors and axial loads"));
   Table(maker, group, {"P", "V1", "V2", QObject::tr("Selfweight")},
@@ -69,6 +77,11 @@ QGroupBox* Factors(WidgetMaker& maker) {
          {"N " + UnitOf(maker, "inp"), {"inp", "inv1", "inv2"}}});
   group->layout()->addWidget(maker.Make("slsfactor"));
   group->layout()->addWidget(maker.Make("check_selfweight"));
+  auto* grid = static_cast<QGridLayout*>(group->layout()->itemAt(0)->layout());
+  QWidget* heading = grid->itemAtPosition(0, grid->columnCount() - 2)->widget();
+  heading->setProperty(kBelongsTo, QStringLiteral("ilfsw_ULS"));
+  // The tables stay where they are when the selfweight's factors come and go.
+  KeepRoom({heading, grid->itemAtPosition(1, grid->columnCount() - 2)->widget()});
   return group;
 }
 
@@ -122,7 +135,6 @@ void LayOutLoading(WidgetMaker& maker, QWidget* window) {
   auto* drawings = new QHBoxLayout;
   drawings->addWidget(Drawn(maker, {"picloadpn", "picloadzp", "picloadzv"}, window));
   drawings->addWidget(Drawn(maker, {"picloadvn", "picloadyp", "picloadyv"}, window));
-  drawings->itemAt(0)->widget()->setMinimumHeight(Ems(window, 20));
   all->addLayout(drawings, 1);
   auto* columns = new QHBoxLayout;
   auto* left = new QVBoxLayout;

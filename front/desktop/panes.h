@@ -94,8 +94,10 @@ protected:
 
 private:
   View Composed() const;
-  /// Composes the lines anew and takes their sizes.
+  /// Composes the lines anew, fits their letters to the room and takes their sizes.
   void Measure();
+  /// The short lines take the letters that the pane around them has room for.
+  void FitLetters();
   void DrawLine(QPainter& painter, const ViewLine& line, double y);
   double RowHeight() const;
   QFont FontOf(const TextRun& run, bool fails) const;
@@ -103,6 +105,7 @@ private:
   double WidthOf(const ViewLine& line) const;
   Form form_;
   View view_;
+  double rows_ = 1;  ///< height of the lines, in rows
   double bars_ = 0;  ///< left end of the bars
 };
 
