@@ -105,7 +105,11 @@ void FormBinder::BindEdit(Bound& bound, QLineEdit* edit) {
   bound.refresh = [this, edit, key = bound.key] {
     const Session& s = desktop_.session();
     const QString text = Q(s.Text(key));
-    if (edit->text() != text) edit->setText(text);
+    if (edit->text() != text) {
+      edit->setText(text);
+      // A long name is read from its beginning.
+      if (!edit->hasFocus()) edit->setCursorPosition(0);
+    }
     edit->setPalette(FieldPalette(root_->palette(), s.Green(key)));
   };
 }

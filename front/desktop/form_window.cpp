@@ -2,11 +2,14 @@
 #include "front/desktop/form_window.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "front/desktop/desktop.h"
 #include "front/desktop/diagram_pane.h"
 #include "front/desktop/form_binder.h"
+#include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
 #include "sections/profile_table.h"
 
@@ -53,6 +56,28 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   } else {
     event->accept();
   }
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+  if (!placed_ && !event->spontaneous()) Place();
+  placed_ = true;
+  QDialog::showEvent(event);
+}
+
+void FormWindow::Place() {
+  const QRect room = screen()->availableGeometry();
+  const QWidget* main = parentWidget();
+  // The frame that the window manager gives the main window is what this window gets too.
+  const QSize frame = main->frameGeometry().size() - main->size();
+  QRect place(QPoint(), size() + frame);
+  if (form_.name == "setup") {
+    place.moveCenter(room.center());
+  } else {
+    // Over the diagrams: inputs and result lines stay in sight.
+    const int gap = Ems(this, 1);
+    place.moveBottomRight(main->frameGeometry().bottomRight() - QPoint(gap, gap));
+  }
+  move(std::max(room.left(), place.left()), std::max(room.top(), place.top()));
 }
 
 bool FormWindow::event(QEvent* event) {

@@ -23,12 +23,16 @@ public:
 
 protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   bool event(QEvent* event) override;
 
 private:
+  /// Where the window stands when it is shown for the first time.
+  void Place();
   Desktop& desktop_;
   const Form& form_;
   FormBinder* binder_;
+  bool placed_ = false;
 };
 
 // Layouts of forms that have one of their own; all others are stacked.

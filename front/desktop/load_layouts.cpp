@@ -61,13 +61,15 @@ QString UnitOf(const WidgetMaker& maker, const std::string& name) {
   return QString::fromStdString(FindControl(maker.form(), name)->unit);
 }
 
-void KeepRoom(const std::vector<QWidget*>& widgets) {
-  for (QWidget* widget : widgets) {
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(policy);
-  }
+/// The tables beside it stay where they are when the widget comes and goes.
+void KeepRoom(QWidget* widget) {
+  QSizePolicy policy = widget->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget->setSizePolicy(policy);
 }
+
+/// Column of the selfweight in the table of factors, which is hidden without it.
+constexpr int kSelfweightColumn = 4;
 
 QGroupBox* Factors(WidgetMaker& maker) {
   QGroupBox* group = Group(QObject::tr("Load factors and axial loads"));
@@ -78,10 +80,12 @@ QGroupBox* Factors(WidgetMaker& maker) {
   group->layout()->addWidget(maker.Make("slsfactor"));
   group->layout()->addWidget(maker.Make("check_selfweight"));
   auto* grid = static_cast<QGridLayout*>(group->layout()->itemAt(0)->layout());
-  QWidget* heading = grid->itemAtPosition(0, grid->columnCount() - 2)->widget();
-  heading->setProperty(kBelongsTo, QStringLiteral("ilfsw_ULS"));
-  // The tables stay where they are when the selfweight's factors come and go.
-  KeepRoom({heading, grid->itemAtPosition(1, grid->columnCount() - 2)->widget()});
+  const auto selfweight = [grid](int row) {
+    return static_cast<QLabel*>(grid->itemAtPosition(row, kSelfweightColumn)->widget());
+  };
+  selfweight(0)->setProperty(kBelongsTo, QStringLiteral("ilfsw_ULS"));
+  selfweight(2)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  KeepRoom(selfweight(0));
   return group;
 }
 

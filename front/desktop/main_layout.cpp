@@ -81,6 +81,7 @@ QGroupBox* MaterialFrame(WidgetMaker& maker) {
   maker.FieldRow(grid, 2, "ie");
   maker.FieldRow(grid, 1, "igammam1", 4);
   auto* strength = new QHBoxLayout;
+  strength->setSpacing(grid->horizontalSpacing());
   strength->addWidget(Pair(maker, "ofyd"));
   strength->addWidget(maker.Unit("ofyd"), 1);
   grid->addLayout(strength, 0, 4, 1, 3);
