@@ -76,8 +76,10 @@ void ClearStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
   const bool check = element == PE_IndicatorCheckBox;
   const bool radio = element == PE_IndicatorRadioButton;
   if (!check && !radio) QProxyStyle::drawPrimitive(element, option, painter, widget);
+  // Fusion's own edge of menus is darker than a dark window.
+  const bool edge = element == PE_FrameMenu;
   const bool chosen = element == PE_PanelButtonTool && option->state.testFlag(QStyle::State_On);
-  if (!check && !radio && !chosen) return;
+  if (!check && !radio && !chosen && !edge) return;
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);
   if (check) DrawCheck(*option, *painter);
@@ -86,6 +88,11 @@ void ClearStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     painter->setPen(QPen(OutlineOf(*option), 2));
     painter->setBrush(Qt::NoBrush);
     painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 2, 2);
+  }
+  if (edge) {
+    painter->setPen(option->palette.color(QPalette::Mid));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
   }
   painter->restore();
 }
