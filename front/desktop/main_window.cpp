@@ -143,7 +143,11 @@ void MainWindow::Refresh() {
   RefreshMenus();
   for (DiagramPane* plane : planes_) plane->Refresh();
   // The verdict is no control of the form.
-  for (Pane* pane : findChildren<Pane*>(QStringLiteral("verdict"))) pane->Refresh();
+  verdict_->Refresh();
+  // No result may be taken for one of a section that it was not calculated with.
+  for (Pane* pane : centralWidget()->findChildren<Pane*>()) {
+    pane->SetPaled(desktop_.AwaitsCalculation());
+  }
 }
 
 void MainWindow::ShowProgress(int done, int all) {

@@ -19,6 +19,8 @@ public:
   explicit Pane(const Session& session, QWidget* parent = nullptr);
   /// Takes over what the session shows now.
   virtual void Refresh() { update(); }
+  /// A paled pane shows that what it draws doesn't hold at present.
+  void SetPaled(bool paled);
 
 signals:
   void Clicked();
@@ -37,9 +39,11 @@ protected:
   virtual QString ExportName() const { return objectName(); }
 
   const Session& session_;
+  QPalette::ColorRole ground_ = QPalette::Base;
 
 private:
   void Export(bool vector);
+  bool paled_ = false;
   bool framed_ = false;
 };
 
