@@ -45,7 +45,15 @@ FormWindow::FormWindow(Desktop& desktop, const Form& form, QWidget* parent)
   connect(&desktop, &Desktop::Refreshed, this, [this] {
     if (!isVisible()) return;
     for (DiagramPane* pane : findChildren<DiagramPane*>()) pane->Refresh();
-    for (Pane* pane : findChildren<Pane*>()) pane->update();
+    const bool awaits = desktop_.AwaitsCalculation();
+    for (Pane* pane : findChildren<Pane*>()) {
+      pane->SetPaled(awaits);
+      pane->update();
+    }
+    // The values of a family's form are those of the section before until a size is chosen.
+    for (ValueLabel* value : findChildren<ValueLabel*>()) {
+      value->setForegroundRole(awaits ? QPalette::Mid : QPalette::WindowText);
+    }
   });
 }
 

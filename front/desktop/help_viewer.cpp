@@ -152,7 +152,9 @@ QVariant HelpPageView::loadResource(int type, const QUrl& name) {
   const QByteArray file = resource.toByteArray();
   if (type != QTextDocument::ImageResource || file.isEmpty()) return resource;
   const bool drawn = name.path().endsWith(QLatin1String(".svg"));
-  const double room = viewport()->width() - 2 * document()->documentMargin();
+  // Most pages are longer than the window.
+  const double bar = verticalScrollBar()->sizeHint().width();
+  const double room = width() - bar - 2 * document()->documentMargin();
   const double widest = std::clamp(room, kLeastWidth, kWidest);
   return drawn ? Drawing(file, devicePixelRatioF(), widest)
                : Photo(file, devicePixelRatioF(), widest);

@@ -173,7 +173,7 @@ TEST_F(DesktopTest, ResultsOfAnotherSectionArePaledUntilACalculation) {
   EXPECT_TRUE(HasInk(Results()));
 
   // A family's command waits for the first change of its form.
-  Menu("mnup02");
+  desktop_->Act([&] { session_.Menu("mnup02"); });
   EXPECT_FALSE(HasInk(Results()));
   QTest::keyClicks(Window("p02").findChild<QListWidget*>(), "200");
   EXPECT_TRUE(HasInk(Results()));
