@@ -161,8 +161,11 @@ bool HasInk(Pane& pane) {
 TEST_F(DesktopTest, ResultsOfAnotherSectionArePaledUntilACalculation) {
   Load("10");
   desktop_->CloseForm("loading");
+  Main().activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
   EXPECT_TRUE(HasInk(Results()));
   Menu("mnuopt");
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Window("optroll")));
   EXPECT_TRUE(HasInk(Results()));
   On<QAbstractButton>(Window("optroll"), "cbp04").click();
   ASSERT_NE(On<QLabel>(Main(), "obeam").text().toStdString().find("IPE"), std::string::npos);
