@@ -118,7 +118,7 @@ bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
         }
       }
     });
-    window->adjustSize();
+    window->resize(window->sizeHint());
     ok = Shoot(*window, folder,
                QStringLiteral("form-%1-%2").arg(QString::fromStdString(form.name), theme)) &&
          ok;
