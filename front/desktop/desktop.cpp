@@ -125,11 +125,22 @@ void Desktop::Detach(FormBinder* binder) {
 void Desktop::Refresh() {
   ++busy_;
   SyncWindows();
+  CompareSection();
   for (auto& [name, binder] : binders_) {
     if (session_.IsOpen(name)) binder->Refresh();
   }
   emit Refreshed();
   --busy_;
+}
+
+void Desktop::CompareSection() {
+  const std::string section = session_.Text("korvane.obeam");
+  // The main window's own search composes its results anew.
+  const bool aside = !session_.OpenForms().empty() && session_.OpenForms().back() != "korvane";
+  awaits_ = aside && session_.Calculations() == calculation_ && section != section_;
+  if (awaits_) return;
+  section_ = section;
+  calculation_ = session_.Calculations();
 }
 
 void Desktop::SyncWindows() {

@@ -49,6 +49,9 @@ public:
   void Detach(FormBinder* binder);
   /// All windows show the session anew.
   void Refresh();
+  /// Whether a form has put another section in force and no calculation has followed yet: a
+  /// search of the optimiser, a family's command.
+  bool AwaitsCalculation() const { return awaits_; }
 
 signals:
   /// The session was shown anew.
@@ -60,6 +63,7 @@ signals:
 private:
   bool Leave(const std::string& key);
   void SyncWindows();
+  void CompareSection();
   void PlaceFocus();
   void Report(const std::string& step, const char* what);
 
@@ -68,6 +72,9 @@ private:
   bool ended_ = false;
   bool popup_ = false;  ///< the window in front was a dialog or message box
   std::string front_;
+  bool awaits_ = false;
+  std::string section_;   ///< that the last calculation was of
+  int calculation_ = -1;  ///< its number
   std::map<std::string, FormBinder*> binders_;
   std::map<std::string, FormWindow*> windows_;
   std::unique_ptr<MainWindow> main_;

@@ -16,6 +16,8 @@ namespace korvane {
 
 namespace {
 
+/// Size in ems at which the drawings of a plane's loads are read with ease.
+constexpr double kUsualWidth = 36, kUsualHeight = 18;
 /// Letters of the diagrams in ems of the window's font.
 constexpr double kLetters = 0.92;
 /// From this width on, in ems, the letters grow, up to so many times their size.
@@ -75,6 +77,10 @@ DiagramPane::DiagramPane(const Session& session, std::vector<std::string> contro
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::Base);
   setMinimumWidth(Ems(this, 18));
+}
+
+QSize DiagramPane::sizeHint() const {
+  return {Ems(this, kUsualWidth), Ems(this, kUsualHeight)};
 }
 
 std::vector<DiagramKind> DiagramPane::Wanted() const {

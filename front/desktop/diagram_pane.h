@@ -41,6 +41,7 @@ public:
   DiagramPane(const Session& session, std::vector<std::string> controls, QWidget* parent);
   void Refresh();
   /// The box of a control that is shown now; null when there is none.
+  QSize sizeHint() const override;
   DiagramBox* Box(const std::string& control) const;
 
 signals:

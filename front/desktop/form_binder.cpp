@@ -36,6 +36,12 @@ void ShowText(QLabel* label, const std::string& text) {
   if (label->text() != Q(text)) label->setText(Q(text));
 }
 
+bool IsReturn(const QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const int pressed = static_cast<const QKeyEvent*>(event)->key();
+  return pressed == Qt::Key_Return || pressed == Qt::Key_Enter;
+}
+
 }  // namespace
 
 FormBinder::FormBinder(Desktop& desktop, const Form& form, QWidget* root)
@@ -99,7 +105,11 @@ void FormBinder::BindEdit(Bound& bound, QLineEdit* edit) {
   bound.refresh = [this, edit, key = bound.key] {
     const Session& s = desktop_.session();
     const QString text = Q(s.Text(key));
-    if (edit->text() != text) edit->setText(text);
+    if (edit->text() != text) {
+      edit->setText(text);
+      // A long name is read from its beginning.
+      if (!edit->hasFocus()) edit->setCursorPosition(0);
+    }
     edit->setPalette(FieldPalette(root_->palette(), s.Green(key)));
   };
 }
@@ -107,6 +117,7 @@ void FormBinder::BindEdit(Bound& bound, QLineEdit* edit) {
 void FormBinder::BindButton(Bound& bound) {
   auto* button = qobject_cast<QAbstractButton*>(bound.widget);
   button->setAutoExclusive(false);
+  if (bound.control->returnKey) button->installEventFilter(this);
   connect(button, &QAbstractButton::clicked, this, [this, key = bound.key, button] {
     desktop_.Click(key);
     // Whatever the click did to the mark, the session says how it stands.
@@ -207,17 +218,15 @@ void FormBinder::TakeFocus(const std::string& control) {
 }
 
 bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
-  auto* edit = qobject_cast<QLineEdit*>(watched);
-  if (edit == nullptr || desktop_.Busy()) return QObject::eventFilter(watched, event);
-  const std::string key = form_.name + "." + edit->objectName().toStdString();
+  if (desktop_.Busy()) return QObject::eventFilter(watched, event);
+  const std::string key = form_.name + "." + watched->objectName().toStdString();
   Session& s = desktop_.session();
-  if (event->type() == QEvent::KeyPress) {
-    const int pressed = static_cast<QKeyEvent*>(event)->key();
-    if (pressed == Qt::Key_Return || pressed == Qt::Key_Enter) {
-      desktop_.Act([&] { s.Return(key); });
-      return true;
-    }
+  if (IsReturn(event)) {
+    desktop_.Act([&] { s.Return(key); });
+    return true;
   }
+  auto* edit = qobject_cast<QLineEdit*>(watched);
+  if (edit == nullptr) return QObject::eventFilter(watched, event);
   if (event->type() == QEvent::FocusIn) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
     if (reason == Qt::PopupFocusReason) return false;

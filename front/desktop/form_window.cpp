@@ -2,11 +2,14 @@
 #include "front/desktop/form_window.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "front/desktop/desktop.h"
 #include "front/desktop/diagram_pane.h"
 #include "front/desktop/form_binder.h"
+#include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
 #include "sections/profile_table.h"
 
@@ -20,7 +23,8 @@ LayOut LayOutOf(const std::string& form) {
   static const std::map<std::string, LayOut> own{
       {"loading", LayOutLoading},   {"endforce", LayOutEndForces},   {"optroll", LayOutOptimiser},
       {"database", LayOutDatabase}, {"bucklingcurve", LayOutCurves}, {"Pictures", LayOutPictures},
-      {"setup", LayOutSetup},       {"vipping", LayOutLateral}};
+      {"setup", LayOutSetup},       {"vipping", LayOutLateral},      {"bucklingy", LayOutCases},
+      {"bucklingz", LayOutCases}};
   if (const auto it = own.find(form); it != own.end()) return it->second;
   for (const Family& family : AllFamilies()) {
     if (form == family.form) return LayOutFamily;
@@ -41,7 +45,15 @@ FormWindow::FormWindow(Desktop& desktop, const Form& form, QWidget* parent)
   connect(&desktop, &Desktop::Refreshed, this, [this] {
     if (!isVisible()) return;
     for (DiagramPane* pane : findChildren<DiagramPane*>()) pane->Refresh();
-    for (Pane* pane : findChildren<Pane*>()) pane->update();
+    const bool awaits = desktop_.AwaitsCalculation();
+    for (Pane* pane : findChildren<Pane*>()) {
+      pane->SetPaled(awaits);
+      pane->update();
+    }
+    // The values of a family's form are those of the section before until a size is chosen.
+    for (ValueLabel* value : findChildren<ValueLabel*>()) {
+      value->setForegroundRole(awaits ? QPalette::Mid : QPalette::WindowText);
+    }
   });
 }
 
@@ -52,6 +64,28 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   } else {
     event->accept();
   }
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+  if (!placed_ && !event->spontaneous()) Place();
+  placed_ = true;
+  QDialog::showEvent(event);
+}
+
+void FormWindow::Place() {
+  const QRect room = screen()->availableGeometry();
+  const QWidget* main = parentWidget();
+  // The frame that the window manager gives the main window is what this window gets too.
+  const QSize frame = main->frameGeometry().size() - main->size();
+  QRect place(QPoint(), size() + frame);
+  if (form_.name == "setup") {
+    place.moveCenter(room.center());
+  } else {
+    // Over the diagrams: inputs and result lines stay in sight.
+    const int gap = Ems(this, 1);
+    place.moveBottomRight(main->frameGeometry().bottomRight() - QPoint(gap, gap));
+  }
+  move(std::max(room.left(), place.left()), std::max(room.top(), place.top()));
 }
 
 bool FormWindow::event(QEvent* event) {

@@ -23,12 +23,16 @@ public:
 
 protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   bool event(QEvent* event) override;
 
 private:
+  /// Where the window stands when it is shown for the first time.
+  void Place();
   Desktop& desktop_;
   const Form& form_;
   FormBinder* binder_;
+  bool placed_ = false;
 };
 
 // Layouts of forms that have one of their own; all others are stacked.
@@ -38,6 +42,7 @@ void LayOutOptimiser(WidgetMaker& maker, QWidget* window);
 void LayOutFamily(WidgetMaker& maker, QWidget* window);
 void LayOutStacked(WidgetMaker& maker, QWidget* window);
 void LayOutDatabase(WidgetMaker& maker, QWidget* window);
+void LayOutCases(WidgetMaker& maker, QWidget* window);  ///< bucklingy, bucklingz
 void LayOutCurves(WidgetMaker& maker, QWidget* window);
 void LayOutPictures(WidgetMaker& maker, QWidget* window);
 void LayOutSetup(WidgetMaker& maker, QWidget* window);

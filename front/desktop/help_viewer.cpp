@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QShortcut>
@@ -23,6 +24,7 @@
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "front/desktop/theme.h"
 
@@ -30,21 +32,24 @@ namespace korvane {
 
 namespace {
 
-/// Drawings are shown no wider, logical pixels.
+/// Pictures are shown no wider, logical pixels; in a narrow window no wider than the page.
 constexpr double kWidest = 660;
+constexpr double kLeastWidth = 160;
+/// White edge around a drawing.
+constexpr double kRim = 8;
 
 QSettings Store() {
   return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Korvane_ns"),
                    QStringLiteral("Korvane_ns"));
 }
 
-QImage Drawing(const QByteArray& file, double ratio) {
+QImage Drawing(const QByteArray& file, double ratio, double widest) {
   QSvgRenderer svg(file);
   const QSizeF own = svg.viewBoxF().size();
   // Section figures are square and stand beside their text: smaller than a diagram.
-  const double width = std::min(own.width() == own.height() ? 240.0 : own.width(), kWidest);
+  const double width =
+      std::min(own.width() == own.height() ? 240.0 : own.width(), widest - 2 * kRim);
   const QSizeF drawn = own * (width / own.width());
-  constexpr double kRim = 8;
   const QSizeF size = drawn + QSizeF(2 * kRim, 2 * kRim);
   QImage image((size * ratio).toSize(), QImage::Format_RGB32);
   image.setDevicePixelRatio(ratio);
@@ -54,11 +59,11 @@ QImage Drawing(const QByteArray& file, double ratio) {
   return image;
 }
 
-QImage Photo(const QByteArray& file, double ratio) {
+QImage Photo(const QByteArray& file, double ratio, double widest) {
   QImage image = QImage::fromData(file);
-  const int widest = static_cast<int>(kWidest * ratio);
-  if (image.width() > widest) {
-    image = image.scaledToWidth(widest, Qt::SmoothTransformation);
+  const int pixels = static_cast<int>(widest * ratio);
+  if (image.width() > pixels) {
+    image = image.scaledToWidth(pixels, Qt::SmoothTransformation);
     image.setDevicePixelRatio(ratio);
   }
   return image;
@@ -147,7 +152,12 @@ QVariant HelpPageView::loadResource(int type, const QUrl& name) {
   const QByteArray file = resource.toByteArray();
   if (type != QTextDocument::ImageResource || file.isEmpty()) return resource;
   const bool drawn = name.path().endsWith(QLatin1String(".svg"));
-  return drawn ? Drawing(file, devicePixelRatioF()) : Photo(file, devicePixelRatioF());
+  // Most pages are longer than the window.
+  const double bar = verticalScrollBar()->sizeHint().width();
+  const double room = width() - bar - 2 * document()->documentMargin();
+  const double widest = std::clamp(room, kLeastWidth, kWidest);
+  return drawn ? Drawing(file, devicePixelRatioF(), widest)
+               : Photo(file, devicePixelRatioF(), widest);
 }
 
 // --- Window -------------------------------------------------------------------------------------
@@ -160,11 +170,11 @@ HelpViewer::HelpViewer(const HelpBook& book) : book_(book) {
   split_->addWidget(Side());
   split_->addWidget(Reader());
   split_->setStretchFactor(1, 1);
-  split_->setSizes({Ems(this, 24), Ems(this, 56)});
+  split_->setSizes({Ems(this, 24), Ems(this, 72)});
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(split_);
-  resize(Ems(this, 82), Ems(this, 50));
+  resize(QSize(Ems(this, 98), Ems(this, 66)).boundedTo(screen()->availableSize() * 9 / 10));
   const QSettings store = Store();
   restoreGeometry(store.value(QStringLiteral("Help/geometry")).toByteArray());
   split_->restoreState(store.value(QStringLiteral("Help/split")).toByteArray());

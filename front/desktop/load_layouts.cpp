@@ -61,6 +61,16 @@ QString UnitOf(const WidgetMaker& maker, const std::string& name) {
   return QString::fromStdString(FindControl(maker.form(), name)->unit);
 }
 
+/// The tables beside it stay where they are when the widget comes and goes.
+void KeepRoom(QWidget* widget) {
+  QSizePolicy policy = widget->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget->setSizePolicy(policy);
+}
+
+/// Column of the selfweight in the table of factors, which is hidden without it.
+constexpr int kSelfweightColumn = 4;
+
 QGroupBox* Factors(WidgetMaker& maker) {
   QGroupBox* group = Group(QObject::tr("Load factors and axial loads"));
   Table(maker, group, {"P", "V1", "V2", QObject::tr("Selfweight")},
@@ -69,6 +79,13 @@ QGroupBox* Factors(WidgetMaker& maker) {
          {"N " + UnitOf(maker, "inp"), {"inp", "inv1", "inv2"}}});
   group->layout()->addWidget(maker.Make("slsfactor"));
   group->layout()->addWidget(maker.Make("check_selfweight"));
+  auto* grid = static_cast<QGridLayout*>(group->layout()->itemAt(0)->layout());
+  const auto selfweight = [grid](int row) {
+    return static_cast<QLabel*>(grid->itemAtPosition(row, kSelfweightColumn)->widget());
+  };
+  selfweight(0)->setProperty(kBelongsTo, QStringLiteral("ilfsw_ULS"));
+  selfweight(2)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  KeepRoom(selfweight(0));
   return group;
 }
 
@@ -122,7 +139,6 @@ void LayOutLoading(WidgetMaker& maker, QWidget* window) {
   auto* drawings = new QHBoxLayout;
   drawings->addWidget(Drawn(maker, {"picloadpn", "picloadzp", "picloadzv"}, window));
   drawings->addWidget(Drawn(maker, {"picloadvn", "picloadyp", "picloadyv"}, window));
-  drawings->itemAt(0)->widget()->setMinimumHeight(Ems(window, 20));
   all->addLayout(drawings, 1);
   auto* columns = new QHBoxLayout;
   auto* left = new QVBoxLayout;

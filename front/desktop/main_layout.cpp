@@ -80,7 +80,11 @@ QGroupBox* MaterialFrame(WidgetMaker& maker) {
   maker.FieldRow(grid, 1, "ifyk");
   maker.FieldRow(grid, 2, "ie");
   maker.FieldRow(grid, 1, "igammam1", 4);
-  grid->addWidget(Pair(maker, "ofyd"), 0, 4, 1, 3);
+  auto* strength = new QHBoxLayout;
+  strength->setSpacing(grid->horizontalSpacing());
+  strength->addWidget(Pair(maker, "ofyd"));
+  strength->addWidget(maker.Unit("ofyd"), 1);
+  grid->addLayout(strength, 0, 4, 1, 3);
   grid->setColumnStretch(3, 1);
   Inside(group)->addLayout(grid);
   return group;

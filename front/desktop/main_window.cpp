@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
@@ -142,7 +143,11 @@ void MainWindow::Refresh() {
   RefreshMenus();
   for (DiagramPane* plane : planes_) plane->Refresh();
   // The verdict is no control of the form.
-  for (Pane* pane : findChildren<Pane*>(QStringLiteral("verdict"))) pane->Refresh();
+  verdict_->Refresh();
+  // No result may be taken for one of a section that it was not calculated with.
+  for (Pane* pane : centralWidget()->findChildren<Pane*>()) {
+    pane->SetPaled(desktop_.AwaitsCalculation());
+  }
 }
 
 void MainWindow::ShowProgress(int done, int all) {
@@ -194,7 +199,9 @@ void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
 
 void MainWindow::RestoreSizes() {
   const QSettings store = Store();
-  resize(1280, 720);
+  // The first time most of the screen is taken, and never less than the smallest one offers.
+  const QSize room = screen()->availableSize() * 9 / 10;
+  resize(QSize(1760, 990).boundedTo(room).expandedTo(QSize(1280, 720)));
   restoreGeometry(store.value(QStringLiteral("Window/geometry")).toByteArray());
   for (QSplitter* splitter : splitters_) {
     splitter->restoreState(

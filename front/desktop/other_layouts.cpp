@@ -42,7 +42,31 @@ QHBoxLayout* PictureRow(WidgetMaker& maker, const std::string& prefix) {
   return row;
 }
 
+/// What a picture says, below it.
+QLabel* Legend(const std::string& tip, const QWidget* window) {
+  // A factor stays on one line.
+  auto* text = new QLabel(
+      QString::fromStdString(tip).replace(QStringLiteral(" = "), QStringLiteral("\u00a0=\u00a0")));
+  text->setWordWrap(true);
+  text->setMinimumWidth(Ems(window, 9));
+  text->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+  return text;
+}
+
 }  // namespace
+
+void LayOutCases(WidgetMaker& maker, QWidget* window) {
+  auto* all = new QVBoxLayout(window);
+  auto* grid = new QGridLayout;
+  int column = 0;
+  for (const Control* c : Beginning(maker, maker.form().name)) {
+    grid->addWidget(maker.Make(c->name), 0, column, Qt::AlignCenter);
+    grid->addWidget(Legend(c->tip, window), 1, column++);
+  }
+  all->addLayout(grid);
+  all->addStretch(1);
+  all->addLayout(maker.ButtonRow());
+}
 
 void LayOutOptimiser(WidgetMaker& maker, QWidget* window) {
   auto* all = new QVBoxLayout(window);
@@ -140,11 +164,7 @@ void LayOutPictures(WidgetMaker& maker, QWidget* window) {
       picture->setIcon(PictureOf(form, name));
       picture->setIconSize(QSize(qRound(height * kPictureRatio), height));
       grid->addWidget(picture, row, column, Qt::AlignCenter);
-      auto* text = new QLabel(QString::fromStdString(c.tip));
-      text->setWordWrap(true);
-      text->setMinimumWidth(Ems(window, 8));
-      text->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-      grid->addWidget(text, row + 1, column++);
+      grid->addWidget(Legend(c.tip, window), row + 1, column++);
     }
     row += 2;
   }

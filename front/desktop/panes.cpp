@@ -18,22 +18,40 @@
 
 namespace korvane {
 
+namespace {
+
+/// How far a paled pane is covered.
+constexpr double kVeil = 0.7;
+
+}  // namespace
+
 Pane::Pane(const Session& session, QWidget* parent) : QWidget(parent), session_(session) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 void Pane::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), palette().color(QPalette::Base));
+  painter.fillRect(rect(), palette().color(ground_));
   try {
     Draw(painter);
   } catch (const ArithmeticFault&) {
     // What can't be drawn stays away; the calculation tells what is wrong.
   }
+  if (paled_) {
+    QColor veil = palette().color(ground_);
+    veil.setAlphaF(kVeil);
+    painter.fillRect(rect(), veil);
+  }
   if (!hasFocus() || !framed_) return;
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
   painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
+void Pane::SetPaled(bool paled) {
+  if (paled_ == paled) return;
+  paled_ = paled;
+  update();
 }
 
 void Pane::focusInEvent(QFocusEvent* event) {
@@ -133,6 +151,7 @@ void FigurePane::Draw(QPainter& painter) {
 VerdictPane::VerdictPane(const Session& session, QWidget* parent) : Pane(session, parent) {
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   setObjectName(QStringLiteral("verdict"));
+  ground_ = QPalette::Window;
   Refresh();
 }
 
@@ -155,7 +174,6 @@ void VerdictPane::Refresh() {
 }
 
 void VerdictPane::Draw(QPainter& painter) {
-  painter.fillRect(rect(), palette().color(QPalette::Window));
   const QColor colour = ColourFor(role_, palette());
   QFont big = font();
   big.setPixelSize(Ems(this, 2.9));

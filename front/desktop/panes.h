@@ -19,6 +19,8 @@ public:
   explicit Pane(const Session& session, QWidget* parent = nullptr);
   /// Takes over what the session shows now.
   virtual void Refresh() { update(); }
+  /// A paled pane shows that what it draws doesn't hold at present.
+  void SetPaled(bool paled);
 
 signals:
   void Clicked();
@@ -37,9 +39,11 @@ protected:
   virtual QString ExportName() const { return objectName(); }
 
   const Session& session_;
+  QPalette::ColorRole ground_ = QPalette::Base;
 
 private:
   void Export(bool vector);
+  bool paled_ = false;
   bool framed_ = false;
 };
 
@@ -94,8 +98,10 @@ protected:
 
 private:
   View Composed() const;
-  /// Composes the lines anew and takes their sizes.
+  /// Composes the lines anew, fits their letters to the room and takes their sizes.
   void Measure();
+  /// The short lines take the letters that the pane around them has room for.
+  void FitLetters();
   void DrawLine(QPainter& painter, const ViewLine& line, double y);
   double RowHeight() const;
   QFont FontOf(const TextRun& run, bool fails) const;
@@ -103,6 +109,7 @@ private:
   double WidthOf(const ViewLine& line) const;
   Form form_;
   View view_;
+  double rows_ = 1;  ///< height of the lines, in rows
   double bars_ = 0;  ///< left end of the bars
 };
 

@@ -46,11 +46,14 @@ constexpr double kTabEms = 7.9;
 constexpr double kBarEms = 3;
 constexpr double kMostBarEms = 16;
 /// From this width on, in ems, the letters grow, up to so many times their size.
-constexpr double kWidePane = 70;
-constexpr double kMostLetters = 1.5;
+constexpr double kWidePane = 56;
+constexpr double kMostLetters = 2.2;
 /// Below this width they shrink, down to so much of their size.
 constexpr double kNarrowPane = 38;
 constexpr double kLeastLetters = 0.75;
+/// Height of a row in heights of its letters, and how far rows move together in a low pane.
+constexpr double kRow = 1.35;
+constexpr double kTightRow = 1.1;
 
 }  // namespace
 
@@ -65,7 +68,9 @@ QSize ResultPane::sizeHint() const {
 }
 
 double ResultPane::RowHeight() const {
-  return QFontMetricsF(font()).height() * 1.35;
+  const double letters = QFontMetricsF(font()).height();
+  if (form_ == Form::Long) return letters * kRow;
+  return std::clamp(height() / rows_, letters * kTightRow, letters * kRow);
 }
 
 View ResultPane::Composed() const {
@@ -92,17 +97,33 @@ View ResultPane::Composed() const {
 
 void ResultPane::Measure() {
   view_ = Composed();
-  double rows = 0.7;
+  rows_ = 1;
+  for (const ViewLine& line : view_) rows_ += line.advance;
+  FitLetters();
   bars_ = 0;
   for (const ViewLine& line : view_) {
-    rows += line.advance;
     if (HasRatio(line)) bars_ = std::max(bars_, WidthOf(line));
   }
   bars_ += Ems(this, 1.2);
   double widest = 0;
   for (const ViewLine& line : view_) widest = std::max(widest, WidthOf(line));
   setMinimumWidth(qRound(widest) + Ems(this, 1));
-  setMinimumHeight(qRound(rows * RowHeight()));
+  const double row = form_ == Form::Long ? kRow : kTightRow;
+  setMinimumHeight(qRound(rows_ * row * QFontMetricsF(font()).height()));
+}
+
+void ResultPane::FitLetters() {
+  if (form_ == Form::Long || parentWidget() == nullptr) return;
+  // The room is the parent's: the pane itself is never narrower than its lines.
+  QFont fitted = parentWidget()->font();
+  const double height = QFontMetricsF(fitted).height();
+  const double room = parentWidget()->width() / (height * 0.75);
+  const double rows = parentWidget()->height() / (height * kRow * rows_);
+  const double letters = room < kNarrowPane
+                             ? std::max(room / kNarrowPane, kLeastLetters)
+                             : std::clamp(std::min(room / kWidePane, rows), 1.0, kMostLetters);
+  fitted.setPointSizeF(fitted.pointSizeF() * letters);
+  setFont(fitted);
 }
 
 void ResultPane::Refresh() {
@@ -117,16 +138,6 @@ void ResultPane::Refresh() {
 
 void ResultPane::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  if (form_ == Form::Short && parentWidget() != nullptr) {
-    // The room is the parent's: the pane itself is never narrower than its lines.
-    QFont fitted = parentWidget()->font();
-    const double ems = QFontMetricsF(fitted).height() * 0.75;
-    const double room = parentWidget()->width() / ems;
-    const double letters = room < kNarrowPane ? std::max(room / kNarrowPane, kLeastLetters)
-                                              : std::max(room / kWidePane, 1.0);
-    fitted.setPointSizeF(fitted.pointSizeF() * std::min(letters, kMostLetters));
-    setFont(fitted);
-  }
   Measure();
 }
 

@@ -24,7 +24,7 @@ constexpr int kUsualDpi = 96;
 void Settle() {
   QElapsedTimer timer;
   timer.start();
-  while (!timer.hasExpired(60)) QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+  while (!timer.hasExpired(120)) QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
 }
 
 /// What makes these pictures different from the usual ones: scale and size of the letters.
@@ -118,7 +118,7 @@ bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
         }
       }
     });
-    window->adjustSize();
+    window->resize(window->sizeHint());
     ok = Shoot(*window, folder,
                QStringLiteral("form-%1-%2").arg(QString::fromStdString(form.name), theme)) &&
          ok;

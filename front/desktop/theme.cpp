@@ -4,7 +4,8 @@
 #include <QApplication>
 #include <QFontMetricsF>
 #include <QStyle>
-#include <QStyleFactory>
+
+#include "front/desktop/clear_style.h"
 
 namespace korvane {
 
@@ -52,7 +53,7 @@ Colour From(const QColor& c) {
 
 void ApplyTheme(Theme theme) {
   const bool systemDark = IsDark(QApplication::palette());
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new ClearStyle);
   const bool dark = theme == Theme::Dark || (theme == Theme::System && systemDark);
   QApplication::setPalette(Made(dark ? kDark : kLight));
 }

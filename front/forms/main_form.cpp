@@ -235,6 +235,7 @@ void AddInputs(std::vector<Control>& c) {
   c.push_back(Input("ie", "E =", young, "MPa", "Young's modulus, E >= 1000 MPa"));
   c.push_back(
       TextLabel("ofyd", [](const Session& s) { return "fd = " + s.Shown(s.st().fd, "#00.0"); }));
+  c.back().unit = "MPa";
   c.push_back(Input("igammam1", "gm1 =", MaterialFactorRule(), "", "Material factor, 0.5 to 1.5"));
 
   const auto buckling = [&](const char* name, const char* caption, float32 ProjectState::*factor,

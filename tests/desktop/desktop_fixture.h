@@ -80,9 +80,11 @@ protected:
 
   /// Types a text in place of what stands in the field, and a key after it.
   void TypeInto(QLineEdit& field, const char* text, Qt::Key end = Qt::Key_Return) {
+    // A window manager answers in its own time; keys before that go astray.
     field.window()->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(field.window()));
     field.setFocus();
-    QCoreApplication::processEvents();
+    EXPECT_TRUE(QTest::qWaitFor([&field] { return field.hasFocus(); }));
     field.selectAll();
     QTest::keyClicks(&field, QString::fromUtf8(text));
     QTest::keyClick(&field, end);

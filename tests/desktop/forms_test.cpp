@@ -146,6 +146,42 @@ TEST_F(DesktopTest, OptimiserMarksTheLightestRowAndTakesIt) {
   EXPECT_TRUE(On<QLabel>(Main(), "obeam").text().startsWith("IPE"));
 }
 
+/// Whether there is full ink anywhere on a pane, as in the letters of its lines.
+bool HasInk(Pane& pane) {
+  const QImage image = pane.grab().toImage();
+  const QColor ink = pane.palette().color(QPalette::Text);
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixelColor(x, y) == ink) return true;
+    }
+  }
+  return false;
+}
+
+TEST_F(DesktopTest, ResultsOfAnotherSectionArePaledUntilACalculation) {
+  Load("10");
+  desktop_->CloseForm("loading");
+  Main().activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
+  EXPECT_TRUE(HasInk(Results()));
+  Menu("mnuopt");
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Window("optroll")));
+  EXPECT_TRUE(HasInk(Results()));
+  On<QAbstractButton>(Window("optroll"), "cbp04").click();
+  ASSERT_NE(On<QLabel>(Main(), "obeam").text().toStdString().find("IPE"), std::string::npos);
+  EXPECT_FALSE(HasInk(Results()));
+  desktop_->CloseForm("optroll");
+  Main().activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
+  EXPECT_TRUE(HasInk(Results()));
+
+  // A family's command waits for the first change of its form.
+  desktop_->Act([&] { session_.Menu("mnup02"); });
+  EXPECT_FALSE(HasInk(Results()));
+  QTest::keyClicks(Window("p02").findChild<QListWidget*>(), "200");
+  EXPECT_TRUE(HasInk(Results()));
+}
+
 TEST_F(DesktopTest, WeldedSectionIsNotOptimised) {
   Menu("mnup21");
   Menu("mnuopt");

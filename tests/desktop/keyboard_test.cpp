@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program by keyboard alone: lists, the order of the Tab key, shortcuts, mnemonics, panes.
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -165,6 +166,29 @@ TEST_F(DesktopTest, SpaceOnTheFigureTurnsItsScale) {
   const int before = session_.st().FigureNotToScale;
   QTest::keyClick(&On<FigurePane>(Main(), "pic1"), Qt::Key_Space);
   EXPECT_EQ(int(session_.st().FigureNotToScale), 1 - before);
+}
+
+TEST_F(DesktopTest, ReturnOnTheSpringPictureTakesTheSpringWithinItsOwnRange) {
+  auto& picture = On<QAbstractButton>(Main(), "cbutt5");
+  picture.click();
+  // The field takes 0, the picture's Return key does not.
+  TypeInto(Field("ispring"), "0", Qt::Key_Tab);
+  EXPECT_TRUE(platform_.messages.empty());
+  picture.setFocus();
+  QTest::keyClick(&picture, Qt::Key_Return);
+  EXPECT_EQ(platform_.messages, std::vector<std::string>{" 1 < springstiffness 99 "});
+  EXPECT_TRUE(Field("ispring").hasFocus());
+  EXPECT_TRUE(IsGreen(Field("ispring")));
+
+  TypeInto(Field("ispring"), "40", Qt::Key_Tab);
+  picture.setFocus();
+  const int calculations = session_.Calculations();
+  QTest::keyClick(&picture, Qt::Key_Enter);
+  EXPECT_EQ(platform_.messages.size(), 1u);
+  EXPECT_EQ(session_.Calculations(), calculations + 1);
+  EXPECT_EQ(Field("ispring").text(), "40");
+  EXPECT_TRUE(picture.hasFocus());
+  EXPECT_TRUE(picture.isChecked());
 }
 
 TEST_F(DesktopTest, CopyKeyTakesTheResultLines) {
