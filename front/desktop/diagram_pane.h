@@ -40,8 +40,8 @@ public:
   /// controls: the picture boxes of the plane, from the top.
   DiagramPane(const Session& session, std::vector<std::string> controls, QWidget* parent);
   void Refresh();
-  /// The box of a control that is shown now; null when there is none.
   QSize sizeHint() const override;
+  /// The box of a control that is shown now; null when there is none.
   DiagramBox* Box(const std::string& control) const;
 
 signals:
