@@ -123,6 +123,12 @@ TEST(ScriptAction, CloseLeavesAFormUnlessItRefuses) {
   EXPECT_EQ(Output(loads + "enter iqt12 5\nclose loading\nshow il\n"), told + "il = 5.000\n");
 }
 
+TEST(ScriptAction, NothingFollowsTheEndOfTheProgram) {
+  for (const char* end : {"menu mnuexit\n", "close korvane\n"}) {
+    EXPECT_EQ(Output(std::string("show il\n") + end + "show ie\nno action\n"), "il = 5.000\n");
+  }
+}
+
 TEST(ScriptAction, SaveAndOpenAnswerTheirDialogs) {
   const TempFolder folder;
   const std::string file = folder / "a member.kvn";
