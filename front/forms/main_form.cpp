@@ -259,6 +259,7 @@ void AddInputs(std::vector<Control>& c) {
   ispring.enabled = [](const Session& s) {
     return s.st().SupportType == 3 || s.st().SupportType == 5;
   };
+  ispring.visible = ispring.enabled;
   c.push_back(ispring);
 
   Control limit = Input("idef_limit", "L/", DeflectionLimitRule([](Session& s) {
@@ -389,6 +390,8 @@ void AddPanes(std::vector<Control>& c) {
   c.push_back(Label("obuckltext", "Buckling curve:"));
   c.push_back(Label("obcauto", "Automatic choosen according to BSK Table 6:233"));
   c.push_back(Label("oblfactor", "Buckling length factor:"));
+  c.push_back(Label("ouaxis", "U-axis for L-profiles"));
+  c.push_back(Label("ovaxis", "V-axis for L-profiles"));
   c.push_back(TextLabel(
       "obeam", [](const Session& s) { return SectionTitle(s.st(), s.design().lib->catalogues); }));
   c.push_back(TextLabel("oweba", [](const Session& s) {
