@@ -211,7 +211,7 @@ private:
         if (run.atTab && text.size() < 10) text.resize(10, ' ');
         text += run.text;
       }
-      out_ << text << "\n";
+      out_ << session_.OnScreen(std::move(text)) << "\n";
     }
   }
 

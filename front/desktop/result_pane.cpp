@@ -92,6 +92,9 @@ View ResultPane::Composed() const {
 
 void ResultPane::Measure() {
   view_ = Composed();
+  for (ViewLine& line : view_) {
+    for (TextRun& run : line.runs) run.text = session_.OnScreen(std::move(run.text));
+  }
   double rows = 0.7;
   bars_ = 0;
   for (const ViewLine& line : view_) {

@@ -209,11 +209,8 @@ void AddValueLabels(int code, Values values, std::vector<Control>& c) {
                                    [&](const ShownValue& x) { return x.name == symbol; });
       return it == all.end() ? std::string() : WithUnit(*it, own);
     };
-    Control label = TextLabel(ValueControlName(symbol), [find](const Session& s) {
-      std::string text = find(s);
-      if (s.DecimalComma()) std::replace(text.begin(), text.end(), '.', ',');
-      return text;
-    });
+    Control label = TextLabel(ValueControlName(symbol),
+                              [find](const Session& s) { return s.OnScreen(find(s)); });
     label.caption = own.caption.empty() ? symbol + " =" : std::string(own.caption);
     label.visible = [find](const Session& s) { return !find(s).empty(); };
     c.push_back(std::move(label));

@@ -208,7 +208,7 @@ std::string ShortResults(const Session& s) {
   if (ShowsBuckling(d.st, d.forces.N)) {
     text += " | " + ViewText(BucklingShort(d.st, d.checks, d.buckling));
   }
-  return text;
+  return s.OnScreen(std::move(text));
 }
 
 void AddInputs(std::vector<Control>& c) {
@@ -412,8 +412,9 @@ void AddPanes(std::vector<Control>& c) {
   for (const char* name :
        {"pic21", "pic22", "picloadpn", "picloadzv", "picloadzp", "picmy", "picdz", "picloadyp",
         "picloadyv", "picloadvn", "picmz", "picdy", "pic_vipp", "pic_loadlevel"}) {
-    c.push_back(Surface(
-        name, [pane = std::string(name)](const Session& s) { return PaneText(s.design(), pane); }));
+    c.push_back(Surface(name, [pane = std::string(name)](const Session& s) {
+      return s.OnScreen(PaneText(s.design(), pane));
+    }));
   }
 }
 

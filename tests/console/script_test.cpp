@@ -350,5 +350,24 @@ TEST(ScriptDecimal, IsReadAndWrittenAsThePersonDoes) {
             "message: Input string mismatch \nfocus: il\n");
 }
 
+// A pinned beam with 10 kN/m over 5 m: My = 1.2*10*25/8, Vz = 1.2*10*5/2; HEA200, 42.3 kg/m.
+TEST(ScriptDecimal, IsThatOfEverythingShown) {
+  const std::string all =
+      "focus korvane\nshow picmy\nshow pic31\nresults\nclick de\nshow picresult\n"
+      "close detailedresult\nmenu mnuopt\nshow oweight1\nshow oname1\n";
+  const std::string point = Output(all), comma = Output(all, true);
+  for (const char* number : {" | 37.5 | ", "IR = 0.37  <  1.00 (0.50L; Ch 12.2.6)",
+                             " + 37.5/125.4 = ", "oweight1 = 42.3\n"}) {
+    EXPECT_NE(point.find(number), std::string::npos) << number;
+    EXPECT_EQ(comma.find(number), std::string::npos) << number;
+  }
+  for (const char* number : {" | 37,5 | ", "IR = 0,37  <  1,00 (0,50L; Ch 12.2.6)",
+                             " + 37,5/125,4 = ", "oweight1 = 42,3\n", "oname1 = HEA200\n"}) {
+    EXPECT_NE(comma.find(number), std::string::npos) << number;
+  }
+  // The result lines stand in the pane and, each on its own line, in the results.
+  EXPECT_NE(comma.find("N+My:     IR = 0,37  <  1,00"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace korvane
