@@ -353,6 +353,21 @@ std::optional<double> ParseNumber(std::string_view text, bool decimalComma) {
   return Value<double>(s);
 }
 
+std::string WithDecimalComma(std::string text) {
+  constexpr std::string_view kDigits = "0123456789.";
+  constexpr std::string_view kClause = "Ch ";
+  for (std::size_t at = text.find_first_of(kDigits); at != std::string::npos;) {
+    const std::size_t end = std::min(text.find_first_not_of(kDigits, at), text.size());
+    const std::string_view token(text.data() + at, end - at);
+    const auto point = token.find('.');
+    const bool inside = point != std::string_view::npos && point > 0 && point + 1 < token.size();
+    const bool clause = std::string_view(text).substr(0, at).ends_with(kClause);
+    if (inside && point == token.rfind('.') && !clause) text[at + point] = ',';
+    at = text.find_first_of(kDigits, end);
+  }
+  return text;
+}
+
 std::string ToUtf8(std::string_view bytes) {
   if (IsUtf8(bytes)) return std::string(bytes);
   std::string out;

@@ -46,6 +46,10 @@ bool BeginsWithNumber(std::string_view text);
 /// "Input string mismatch ".
 std::optional<double> ParseNumber(std::string_view text, bool decimalComma);
 
+/// A composed text with the decimal points of its numbers as commas. The numbers of clauses, which
+/// have several points or stand behind "Ch ", are none.
+std::string WithDecimalComma(std::string text);
+
 /// Bytes of a text file to UTF-8: valid UTF-8 stays, anything else is read as Windows-1252.
 std::string ToUtf8(std::string_view bytes);
 

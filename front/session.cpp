@@ -77,6 +77,10 @@ std::string Session::Shown(double value, const char* format) const {
   return text;
 }
 
+std::string Session::OnScreen(std::string text) const {
+  return decimalComma_ ? WithDecimalComma(std::move(text)) : text;
+}
+
 void Session::Refill(const std::string& form, const std::string& control) {
   const Form* f = FindForm(form);
   const Control* c = f == nullptr ? nullptr : FindControl(*f, control);

@@ -107,6 +107,8 @@ public:
   void FillMainWindow();
   /// A number as it is shown, with the platform's decimal mark.
   std::string Shown(double value, const char* format) const;
+  /// A text of the engine, its numbers with the platform's decimal mark.
+  std::string OnScreen(std::string text) const;
   void SetTitle(std::string title) { title_ = std::move(title); }
   const std::string& MainTitle() const { return title_; }
   /// The commands on files.

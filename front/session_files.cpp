@@ -54,7 +54,6 @@ void Session::PromoteEntry(int entry) {
 
 void Session::NewCommand() {
   NewProject(st(), folders_.program);
-  ReadOwnDefaults();
   ResetDatabase(database_);
   Calculate();
 }

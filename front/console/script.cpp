@@ -91,6 +91,9 @@ public:
     throw ScriptError("no action " + action + Hint(NearestWord(action, actions)));
   }
 
+  /// Whether the program has been left.
+  bool Ended() const { return session_.Ended(); }
+
   /// What the line that failed may have meant, for the end of its report.
   std::string Hint() const {
     if (named_ == Named::Form) return Hint(NearestForm(name_));
@@ -208,7 +211,7 @@ private:
         if (run.atTab && text.size() < 10) text.resize(10, ' ');
         text += run.text;
       }
-      out_ << text << "\n";
+      out_ << session_.OnScreen(std::move(text)) << "\n";
     }
   }
 
@@ -255,7 +258,7 @@ int RunScript(std::shared_ptr<const Library> library, bool decimalComma, std::is
               std::ostream& out, std::ostream& err) {
   Script script(std::move(library), decimalComma, out);
   std::string line;
-  for (int number = 1; std::getline(in, line); ++number) {
+  for (int number = 1; !script.Ended() && std::getline(in, line); ++number) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
     line = Trimmed(std::move(line));
     if (line.empty() || line.front() == '#') continue;

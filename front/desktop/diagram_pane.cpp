@@ -32,6 +32,24 @@ constexpr double kPenUnit = 0.5;
 /// Step of the arrow keys, a part of the length: from station to station.
 constexpr double kStep = 1.0 / 50;
 
+/// Draws with the decimal mark of the platform.
+class ScreenTarget : public PainterTarget {
+public:
+  ScreenTarget(QPainter& painter, const QWidget& pane, const Session& session)
+      : PainterTarget(painter, pane.width(), pane.height(), pane.rect(),
+                      DrawingColours(pane.palette())),
+        session_(session) {}
+
+protected:
+  void OnText(Point topLeft, const std::string& text, double width,
+              const TextStyle& style) override {
+    PainterTarget::OnText(topLeft, session_.OnScreen(text), width, style);
+  }
+
+private:
+  const Session& session_;
+};
+
 DiagramData DataOf(const Session& s) {
   const Design& d = s.design();
   return {d.st, d.beam, d.deflections, d.forces.N};
@@ -59,7 +77,7 @@ void DiagramBox::SetHairline(double relative) {
 }
 
 void DiagramBox::Draw(QPainter& painter) {
-  PainterTarget target(painter, width(), height(), rect(), DrawingColours(palette()));
+  ScreenTarget target(painter, *this, session_);
   const DiagramStyle style{letters_ / unit_, letters_ * kPenUnit / unit_};
   {
     const ScopedFrame frame(target, {0, 0, double(width()), double(height())},
@@ -116,7 +134,8 @@ void DiagramPane::Refresh() {
   if (!same) Rebuild(kinds);
   for (DiagramBox* box : boxes_) {
     const std::string control = box->objectName().toStdString();
-    box->setAccessibleName(QString::fromStdString(PaneText(session_.design(), control)));
+    box->setAccessibleName(
+        QString::fromStdString(session_.OnScreen(PaneText(session_.design(), control))));
     box->Refresh();
   }
   Arrange();
@@ -208,7 +227,7 @@ void DiagramPane::PointAt(const DiagramBox* box, double relative) {
   for (std::size_t k = 0; text.empty() && k < boxes_.size(); ++k) {
     text = ValueUnderPointer(session_.design(), boxes_[k]->objectName().toStdString(), relative);
   }
-  emit Pointed(QString::fromStdString(text));
+  emit Pointed(QString::fromStdString(session_.OnScreen(std::move(text))));
 }
 
 }  // namespace korvane

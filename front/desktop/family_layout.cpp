@@ -8,7 +8,7 @@
 #include "front/desktop/form_window.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
-#include "front/forms/forms.h"
+#include "front/forms/family_fields.h"
 #include "sections/profile_table.h"
 #include "sections/shown_values.h"
 
@@ -23,10 +23,10 @@ int CodeOf(const std::string& form) {
   return 0;
 }
 
-/// Whether one of the values has the caption, as "Wely =", in the form of the family.
-bool Among(int code, const ShownValues& values, const std::string& caption) {
+/// Whether one of the values stands in the control.
+bool Among(const ShownValues& values, const std::string& control) {
   return std::any_of(values.begin(), values.end(),
-                     [&](const ShownValue& v) { return ValueCaption(code, v.name) == caption; });
+                     [&](const ShownValue& v) { return ValueControlName(v.name) == control; });
 }
 
 QGroupBox* Values(WidgetMaker& maker, const QString& title,
@@ -49,8 +49,7 @@ QGroupBox* Values(WidgetMaker& maker, const QString& title,
 
 void LayOutFamily(WidgetMaker& maker, QWidget* window) {
   ProjectState st;
-  const int code = CodeOf(maker.form().name);
-  st.ProfileType = code;
+  st.ProfileType = CodeOf(maker.form().name);
   st.p103_sub = 2;
   const SectionRecord none;
   const ShownValues properties = Properties(st, none);
@@ -63,10 +62,10 @@ void LayOutFamily(WidgetMaker& maker, QWidget* window) {
       list = c.name;
     } else if (!value) {
       if (c.kind != Kind::Surface) others.push_back(&c);
-    } else if (c.name == "osclass" || Among(code, capacities, c.caption)) {
+    } else if (c.name.starts_with("osclass") || Among(capacities, c.name)) {
       caps.push_back(&c);
     } else {
-      (Among(code, properties, c.caption) ? props : dims).push_back(&c);
+      (Among(properties, c.name) ? props : dims).push_back(&c);
     }
   }
   auto* all = new QVBoxLayout(window);

@@ -102,18 +102,22 @@ QGroupBox* ColumnFrame(WidgetMaker& maker, std::function<int()> caseY, std::func
     const char* field;
     const char* picture;
     const char* letter;
+    const char* angle;  // the axis of an angle section
     QString name;
     std::function<int()> code;
   };
   for (const Axis& axis :
-       {Axis{"ibly", "cbuttbucklingy", "obcy", QStringLiteral("Y"), std::move(caseY)},
-        Axis{"iblz", "cbuttbucklingz", "obcz", QStringLiteral("Z"), std::move(caseZ)}}) {
+       {Axis{"ibly", "cbuttbucklingy", "obcy", "ouaxis", QStringLiteral("Y"), std::move(caseY)},
+        Axis{"iblz", "cbuttbucklingz", "obcz", "ovaxis", QStringLiteral("Z"), std::move(caseZ)}}) {
     auto* name = new QLabel(axis.name);
     name->setProperty(kBelongsTo, QString::fromUtf8(axis.field));
     name->setToolTip(QString::fromStdString(FindControl(maker.form(), axis.field)->caption));
     grid->addWidget(name, row, 0, Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(maker.Make(axis.field), row, 1);
     grid->addWidget(maker.MakePicture(axis.picture, axis.code), row, 2);
+    auto* angle = Pair(maker, axis.angle);
+    angle->setForegroundRole(QPalette::PlaceholderText);
+    grid->addWidget(angle, row, 3);
     auto* letter = Pair(maker, axis.letter);
     letter->setAlignment(Qt::AlignCenter);
     grid->addWidget(letter, row++, 4);

@@ -97,6 +97,9 @@ View ResultPane::Composed() const {
 
 void ResultPane::Measure() {
   view_ = Composed();
+  for (ViewLine& line : view_) {
+    for (TextRun& run : line.runs) run.text = session_.OnScreen(std::move(run.text));
+  }
   rows_ = 1;
   for (const ViewLine& line : view_) rows_ += line.advance;
   FitLetters();

@@ -171,8 +171,9 @@ void AddLoadLevels(std::vector<Control>& c) {
   c.back().visible = [](const Session& s) { return s.st().LoadLevel == 4; };
 }
 
-std::string MomentText(const Session& s, double M) {
-  return s.Shown(M, "0.0") + " kNm";
+/// The value of the segment method stands a blank further in.
+std::string MomentText(const Session& s, double M, const char* ahead = "") {
+  return ahead + s.Shown(M, "0.0") + " kNm";
 }
 
 Form LateralForm() {
@@ -205,8 +206,9 @@ Form LateralForm() {
   c.push_back(CFactor("ic3", "C3 =", &ProjectState::C3i, &LtbResults::C3, 0, " 0 <= C3i <= 4 "));
   c.push_back(FrameOf("frlevel", "Loadlevel"));
   AddLoadLevels(c);
-  c.push_back(
-      TextLabel("omdb", [](const Session& s) { return MomentText(s, s.design().ltb.Mdb); }));
+  c.push_back(TextLabel("omdb", [](const Session& s) {
+    return MomentText(s, s.design().ltb.Mdb, TypesFactors(s) ? "" : " ");
+  }));
   c.push_back(
       TextLabel("omdbmin", [](const Session& s) { return MomentText(s, s.design().ltb.Mdb_min); }));
   c.push_back(TextLabel("osegment", [](const Session& s) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "core/text.h"
 #include "front/forms/family_fields.h"
 #include "front/forms/forms.h"
 #include "front/session.h"
@@ -125,7 +126,9 @@ constexpr std::pair<std::string_view, std::string_view> kCapacityNames[] = {
     {"Vdy", "ovryd"},   {"Mud1", "omrud1"},    {"Mud2", "omrud2"},       {"Mud3", "omrud3"},
     {"Mvd1", "omrvd1"}, {"Mvd2", "omrvd2"},    {"Mvd3", "omrvd3"}};
 
-std::string ControlName(std::string_view symbol) {
+}  // namespace
+
+std::string ValueControlName(std::string_view symbol) {
   for (const auto& [capacity, control] : kCapacityNames) {
     if (capacity == symbol) return std::string(control);
   }
@@ -138,15 +141,54 @@ std::string ControlName(std::string_view symbol) {
   return name;
 }
 
-/// Labels of the forms that are not the symbol of the value.
+namespace {
+
+/// How a form labels a value otherwise than the printed page does; an empty member leaves that of
+/// the page.
 struct FormLabel {
-  int code;
+  int first, last;  ///< of the families
   std::string_view symbol;
-  const char* caption;  ///< empty: the form has no label for the value
+  std::string_view caption, format, unit;
 };
-constexpr FormLabel kFormLabels[] = {{10, "Ncrd", "Ncd ="}, {11, "Ncrd", "Ncd ="},
-                                     {11, "Vdz", "Vzd ="},  {11, "Vdy", "Vyd ="},
-                                     {22, "Ix", ""},        {26, "Ntd", "Ntrd ="}};
+constexpr FormLabel kFormLabels[] = {
+    {6, 9, "h", {}, "##0", {}},
+    {6, 9, "b", {}, "##0", {}},
+    {10, 11, "Ncrd", "Ncd =", {}, {}},
+    {11, 11, "Vdz", "Vzd =", {}, {}},
+    {11, 11, "Vdy", "Vyd =", {}, {}},
+    {26, 26, "Ntd", "Ntrd =", {}, {}},
+    {22, 56, "ez-el", {}, {}, "mm (elastic)"},
+    {22, 56, "ez-pl", {}, {}, "mm (plastic)"},
+    {22, 56, "Weffy1c", "Weffy1 =", {}, "mm3 (c)"},
+    {22, 56, "Weffy1t", "Weffy1 =", {}, "mm3 (t)"},
+    {22, 56, "Weffy2c", "Weffy2=", {}, "mm3 (c)"},
+    {22, 56, "Weffy2t", "Weffy2=", {}, "mm3 (t)"},
+    {22, 56, "MdyTop", "Mdy =", {}, {}},
+    {22, 56, "MdyBottom", "Mdy =", {}, {}},
+};
+
+FormLabel FormLabelOf(int code, std::string_view symbol) {
+  for (const FormLabel& label : kFormLabels) {
+    if (label.symbol == symbol && code >= label.first && code <= label.last) return label;
+  }
+  return {};
+}
+
+std::string WithUnit(const ShownValue& v, const FormLabel& label) {
+  const std::string value = label.format.empty() ? v.text : Format(v.value, label.format);
+  return value + " " + std::string(label.unit.empty() ? v.unit : label.unit);
+}
+
+/// The class with one flange compressed stands ahead of the moment that the section carries then.
+void AddSideClass(std::string_view symbol, std::vector<Control>& c) {
+  const bool top = symbol == "MdyTop";
+  if (!top && symbol != "MdyBottom") return;
+  c.push_back(TextLabel(top ? "osclass1" : "osclass2", [top](const Session& s) {
+    const SectionRecord& rec = s.design().rec;
+    return std::to_string(int(top ? rec.classTop : rec.classBottom));
+  }));
+  c.back().caption = top ? "Top flange in compression" : "Bottom flange in compression";
+}
 
 using Values = ShownValues (*)(const ProjectState&, const SectionRecord&);
 
@@ -158,33 +200,40 @@ void AddValueLabels(int code, Values values, std::vector<Control>& c) {
   const SectionRecord none;
   for (const ShownValue& v : values(st, none)) {
     const std::string symbol(v.name);
-    const std::string caption = ValueCaption(code, symbol);
-    if (caption.empty()) continue;
-    const auto find = [values, symbol](const Session& s) {
+    if (code == 22 && symbol == "Ix") continue;  // on the page alone
+    AddSideClass(symbol, c);
+    const FormLabel own = FormLabelOf(code, symbol);
+    const auto find = [values, symbol, own](const Session& s) {
       const ShownValues all = values(s.st(), s.design().rec);
       const auto it = std::find_if(all.begin(), all.end(),
                                    [&](const ShownValue& x) { return x.name == symbol; });
-      return it == all.end() ? std::string() : it->text + " " + std::string(it->unit);
+      return it == all.end() ? std::string() : WithUnit(*it, own);
     };
-    Control label = TextLabel(ControlName(symbol), [find](const Session& s) {
-      std::string text = find(s);
-      if (s.DecimalComma()) std::replace(text.begin(), text.end(), '.', ',');
-      return text;
-    });
-    label.caption = caption;
+    Control label = TextLabel(ValueControlName(symbol),
+                              [find](const Session& s) { return s.OnScreen(find(s)); });
+    label.caption = own.caption.empty() ? symbol + " =" : std::string(own.caption);
     label.visible = [find](const Session& s) { return !find(s).empty(); };
     c.push_back(std::move(label));
   }
 }
 
+/// The class, unless the sides have one each; the T section's says itself what it is.
+void AddClassLabel(int code, std::vector<Control>& c) {
+  const auto sides = [](const Control& control) { return control.name == "osclass1"; };
+  if (std::any_of(c.begin(), c.end(), sides)) return;
+  const std::string words = code == 26 ? "Sectionclass : " : "";
+  c.push_back(TextLabel(
+      "osclass", [words](const Session& s) { return words + ClassText(s.st(), s.design().rec); }));
+  c.back().caption = words.empty() ? "Sectionclass:" : " ";
+}
+
 void AddCommon(int code, const char* form, std::vector<Control>& c) {
   AddValueLabels(code, Dimensions, c);
   AddValueLabels(code, Properties, c);
-  // The form of typed constants has no labels for capacities.
-  if (code != 41) AddValueLabels(code, Capacities, c);
-  c.push_back(
-      TextLabel("osclass", [](const Session& s) { return ClassText(s.st(), s.design().rec); }));
-  c.back().caption = "Sectionclass:";
+  if (code != 41) {  // the general profile shows no capacities, and its class is chosen
+    AddValueLabels(code, Capacities, c);
+    AddClassLabel(code, c);
+  }
   Control figure;
   figure.name = "pic1";
   figure.kind = Kind::Surface;
@@ -247,13 +296,6 @@ Form FamilyForm(const Family& family) {
 }
 
 }  // namespace
-
-std::string ValueCaption(int code, std::string_view symbol) {
-  for (const FormLabel& label : kFormLabels) {
-    if (label.code == code && label.symbol == symbol) return label.caption;
-  }
-  return std::string(symbol) + " =";
-}
 
 void AddFamilyForms(std::vector<Form>& forms) {
   for (const Family& family : AllFamilies()) forms.push_back(FamilyForm(family));

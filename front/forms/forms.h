@@ -2,8 +2,6 @@
 // The tables of all forms, one unit a group, and the rules that several forms share.
 #pragma once
 
-#include <string>
-#include <string_view>
 #include <vector>
 
 #include "checks/results.h"
@@ -18,9 +16,6 @@ void AddSetupForms(std::vector<Form>& forms);     ///< setup, detailedresult, Mo
 void AddOptimiserForm(std::vector<Form>& forms);
 void AddDatabaseForm(std::vector<Form>& forms);
 void AddFamilyForms(std::vector<Form>& forms);
-
-/// The label before a shown value on the form of a family, "Wely ="; empty where the form has none.
-std::string ValueCaption(int code, std::string_view symbol);
 
 // Rules that stand once and are used by more than one form.
 FieldRule YieldRule();

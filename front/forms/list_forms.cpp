@@ -68,7 +68,9 @@ void OpenRows(Session& s) {
 
 Control RowField(const std::string& name, int row, std::string OptimiserRowView::*member) {
   return TextLabel(name + std::to_string(row), [row, member](const Session& s) {
-    return s.rows()[static_cast<std::size_t>(row)].view.*member;
+    const std::string& text = s.rows()[static_cast<std::size_t>(row)].view.*member;
+    // Names hold the sizes as the catalogues write them.
+    return member == &OptimiserRowView::name ? text : s.OnScreen(text);
   });
 }
 

@@ -208,7 +208,7 @@ std::string ShortResults(const Session& s) {
   if (ShowsBuckling(d.st, d.forces.N)) {
     text += " | " + ViewText(BucklingShort(d.st, d.checks, d.buckling));
   }
-  return text;
+  return s.OnScreen(std::move(text));
 }
 
 void AddInputs(std::vector<Control>& c) {
@@ -260,6 +260,7 @@ void AddInputs(std::vector<Control>& c) {
   ispring.enabled = [](const Session& s) {
     return s.st().SupportType == 3 || s.st().SupportType == 5;
   };
+  ispring.visible = ispring.enabled;
   c.push_back(ispring);
 
   Control limit = Input("idef_limit", "L/", DeflectionLimitRule([](Session& s) {
@@ -390,6 +391,8 @@ void AddPanes(std::vector<Control>& c) {
   c.push_back(Label("obuckltext", "Buckling curve:"));
   c.push_back(Label("obcauto", "Automatic choosen according to BSK Table 6:233"));
   c.push_back(Label("oblfactor", "Buckling length factor:"));
+  c.push_back(Label("ouaxis", "U-axis for L-profiles"));
+  c.push_back(Label("ovaxis", "V-axis for L-profiles"));
   c.push_back(TextLabel(
       "obeam", [](const Session& s) { return SectionTitle(s.st(), s.design().lib->catalogues); }));
   c.push_back(TextLabel("oweba", [](const Session& s) {
@@ -410,8 +413,9 @@ void AddPanes(std::vector<Control>& c) {
   for (const char* name :
        {"pic21", "pic22", "picloadpn", "picloadzv", "picloadzp", "picmy", "picdz", "picloadyp",
         "picloadyv", "picloadvn", "picmz", "picdy", "pic_vipp", "pic_loadlevel"}) {
-    c.push_back(Surface(
-        name, [pane = std::string(name)](const Session& s) { return PaneText(s.design(), pane); }));
+    c.push_back(Surface(name, [pane = std::string(name)](const Session& s) {
+      return s.OnScreen(PaneText(s.design(), pane));
+    }));
   }
 }
 

@@ -71,7 +71,7 @@ std::string LongResults(const Session& s) {
   if (ShowsBuckling(d.st, d.forces.N)) {
     text += " | " + ViewText(BucklingLong(d.st, d.checks, d.buckling, breaks));
   }
-  return text;
+  return s.OnScreen(std::move(text));
 }
 
 Form DetailForm() {

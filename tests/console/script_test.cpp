@@ -123,6 +123,12 @@ TEST(ScriptAction, CloseLeavesAFormUnlessItRefuses) {
   EXPECT_EQ(Output(loads + "enter iqt12 5\nclose loading\nshow il\n"), told + "il = 5.000\n");
 }
 
+TEST(ScriptAction, NothingFollowsTheEndOfTheProgram) {
+  for (const char* end : {"menu mnuexit\n", "close korvane\n"}) {
+    EXPECT_EQ(Output(std::string("show il\n") + end + "show ie\nno action\n"), "il = 5.000\n");
+  }
+}
+
 TEST(ScriptAction, SaveAndOpenAnswerTheirDialogs) {
   const TempFolder folder;
   const std::string file = folder / "a member.kvn";
@@ -342,6 +348,25 @@ TEST(ScriptDecimal, IsReadAndWrittenAsThePersonDoes) {
   EXPECT_EQ(Output("enter il 2.5\nshow il\nenter il abc\nenter il 3,5m\n", true),
             "il = 2,500\nmessage: Input string mismatch \nfocus: il\n"
             "message: Input string mismatch \nfocus: il\n");
+}
+
+// A pinned beam with 10 kN/m over 5 m: My = 1.2*10*25/8, Vz = 1.2*10*5/2; HEA200, 42.3 kg/m.
+TEST(ScriptDecimal, IsThatOfEverythingShown) {
+  const std::string all =
+      "focus korvane\nshow picmy\nshow pic31\nresults\nclick de\nshow picresult\n"
+      "close detailedresult\nmenu mnuopt\nshow oweight1\nshow oname1\n";
+  const std::string point = Output(all), comma = Output(all, true);
+  for (const char* number : {" | 37.5 | ", "IR = 0.37  <  1.00 (0.50L; Ch 12.2.6)",
+                             " + 37.5/125.4 = ", "oweight1 = 42.3\n"}) {
+    EXPECT_NE(point.find(number), std::string::npos) << number;
+    EXPECT_EQ(comma.find(number), std::string::npos) << number;
+  }
+  for (const char* number : {" | 37,5 | ", "IR = 0,37  <  1,00 (0,50L; Ch 12.2.6)",
+                             " + 37,5/125,4 = ", "oweight1 = 42,3\n", "oname1 = HEA200\n"}) {
+    EXPECT_NE(comma.find(number), std::string::npos) << number;
+  }
+  // The result lines stand in the pane and, each on its own line, in the results.
+  EXPECT_NE(comma.find("N+My:     IR = 0,37  <  1,00"), std::string::npos);
 }
 
 }  // namespace

@@ -330,6 +330,24 @@ TEST(ToUtf8, ReadsOtherBytesAsWindows1252) {
   for (const auto& [bytes, text] : cases) EXPECT_EQ(ToUtf8(bytes), text);
 }
 
+TEST(WithDecimalComma, TakesTheNumbersAndLeavesTheClauses) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"", ""},
+      {"0.37", "0,37"},
+      {"IR = 120.0/1737.3 + 1.10*37.5/125.4 = ", "IR = 120,0/1737,3 + 1,10*37,5/125,4 = "},
+      {"  <  1.00 (0.50L; Ch 12.2.6)", "  <  1,00 (0,50L; Ch 12.2.6)"},
+      {"  <  1.00 (0.25L; Ch 12.2.6/12.2.8)", "  <  1,00 (0,25L; Ch 12.2.6/12.2.8)"},
+      {"  < 250  (Ch 11.7)", "  < 250  (Ch 11.7)"},
+      {" At: x= 1.00/2.50 (m)", " At: x= 1,00/2,50 (m)"},
+      {"-2.6", "-2,6"},
+      {"3.692E+7 mm4", "3,692E+7 mm4"},
+      {"L/476", "L/476"},
+      {"Search . . . 5.", "Search . . . 5."},
+      {".5 kN", ".5 kN"},
+  };
+  for (const auto& [point, comma] : cases) EXPECT_EQ(WithDecimalComma(point), comma);
+}
+
 // A numeric locale with a decimal comma must not reach the engine; machines without that locale
 // still check the conversions under the one they have.
 TEST(Text, KnowsNoLocale) {

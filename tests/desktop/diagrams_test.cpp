@@ -2,6 +2,7 @@
 // The diagrams of the main window: the command that draws them, values under the pointer, export.
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDir>
@@ -12,7 +13,9 @@
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QSplitter>
+#include <QSvgGenerator>
 
+#include "front/desktop/desktop_platform.h"
 #include "front/desktop/diagram_pane.h"
 #include "tests/desktop/desktop_fixture.h"
 
@@ -189,6 +192,40 @@ TEST_F(DiagramsTest, ResultLinesAreCopiedAsText) {
   const QString text = QApplication::clipboard()->text();
   EXPECT_EQ(text, ResultText());
   EXPECT_TRUE(text.contains("IR = "));
+}
+
+// A pinned beam with 10 kN/m over 5 m: My = 1.2*10*25/8 in the middle, Vz = 1.2*10*5/2.
+TEST(DecimalComma, IsThatOfTheDrawnPanes) {
+  const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
+  const QTemporaryDir folder;
+  DesktopPlatform platform;
+  Session session(library, platform, true, Folders{library->folder, folder.path().toStdString()});
+  session.Start();
+  session.Focus("korvane");
+  const ResultPane results(session, ResultPane::Form::Short);
+  EXPECT_TRUE(results.Lines().join('\n').contains("IR = 0,37  <  1,00 (0,50L; Ch 12.2.6)"));
+
+  DiagramPane plane(session, {"picmy"}, nullptr);
+  plane.resize(600, 400);
+  plane.Refresh();
+  DiagramBox* box = plane.Box("picmy");
+  ASSERT_NE(box, nullptr);
+  EXPECT_TRUE(box->accessibleName().contains("37,5"));
+  QSignalSpy pointed(&plane, &DiagramPane::Pointed);
+  QTest::keyClick(box, Qt::Key_End);
+  ASSERT_FALSE(pointed.isEmpty());
+  EXPECT_EQ(pointed.last().first().toString(), " x = 5,000 m  My = 0,0 kNm  Vz = -30,0 kN");
+
+  QBuffer drawn;
+  ASSERT_TRUE(drawn.open(QIODevice::WriteOnly));
+  {
+    QSvgGenerator generator;
+    generator.setOutputDevice(&drawn);
+    generator.setSize(box->size());
+    box->render(&generator);
+  }
+  EXPECT_TRUE(drawn.data().contains("37,5"));
+  EXPECT_FALSE(drawn.data().contains(">37.5"));
 }
 
 }  // namespace

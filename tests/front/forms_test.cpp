@@ -100,6 +100,14 @@ TEST(Lateral, RestraintPointsHideTheFactors) {
   EXPECT_NE(r.session.Text("osegment").find("L/4"), std::string::npos);
 }
 
+TEST(Lateral, TheMomentOfASegmentStandsABlankFurtherIn) {
+  Running r;
+  r.session.Click("cbuttlateral");
+  EXPECT_EQ(r.session.Text("omdb"), r.session.Text("omdbmin"));
+  r.session.Select("Cbo", 1);  // halves of equal moment
+  EXPECT_EQ(r.session.Text("omdb"), " " + r.session.Text("omdbmin"));
+}
+
 TEST(Curves, StayAsChosenByHandUntilTheProfilesMenuOpens) {
   Running r;
   r.session.Click("Command1");

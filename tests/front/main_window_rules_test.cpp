@@ -166,6 +166,7 @@ TEST(EnabledState, TheSpringAndTheLoadLevelAreShownWhereTheyCount) {
   for (int support = 0; support <= 5; ++support) {
     r.session.Click("cbutt" + std::to_string(support));
     EXPECT_EQ(r.session.Enabled("ispring"), support == 3 || support == 5) << support;
+    EXPECT_EQ(r.session.Visible("ispring"), support == 3 || support == 5) << support;
     EXPECT_EQ(r.session.Text("ispring"), "50");
   }
   EXPECT_FALSE(r.session.Visible("oza"));
@@ -222,6 +223,34 @@ TEST(Defaults, AnAllowableFactorBelowOneFailsWhatPassedBefore) {
   EXPECT_EQ(strict.session.design().checks.lineSection.colour, 4);
   EXPECT_NE(usual.session.Text("korvane.pic31").find("IR = 0.95  <  1.00"), std::string::npos);
   EXPECT_EQ(usual.session.design().checks.lineSection.colour, 2);
+}
+
+TEST(Defaults, OfOnesOwnAreReadAtTheStartAndLeftAloneByNew) {
+  const TempFolder folder;
+  Running first(false, Folders{{}, folder.Path()});
+  first.session.Menu("mnusetup");
+  first.session.Enter("igammam1", "1.25");
+  first.session.Enter("iufa", "0.9");
+  first.session.Select("cbofyk", 2);
+  first.session.Click("Command2");
+
+  Running r(false, Folders{{}, folder.Path()});
+  EXPECT_EQ(r.st().gammam1, float32(1.25));
+  EXPECT_EQ(r.st().iufa, float32(0.9));
+  EXPECT_EQ(r.st().MaterialIndex, 2);
+  r.session.Enter("igammam1", "1.05");
+  r.session.Menu("mnunew");
+  EXPECT_EQ(r.st().gammam1, float32(1.05));
+  EXPECT_EQ(r.st().iufa, 1.0);
+  EXPECT_EQ(r.st().MaterialIndex, 5);
+}
+
+TEST(Labels, OfTheColumnDataTellTheAxes) {
+  const Running r;
+  EXPECT_EQ(r.session.Text("obuckltext"), "Buckling curve:");
+  EXPECT_EQ(r.session.Text("oblfactor"), "Buckling length factor:");
+  EXPECT_EQ(r.session.Text("ouaxis"), "U-axis for L-profiles");
+  EXPECT_EQ(r.session.Text("ovaxis"), "V-axis for L-profiles");
 }
 
 TEST(DeflectionLimit, SearchesAnewAndNeverCalculates) {
