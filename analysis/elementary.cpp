@@ -161,6 +161,7 @@ DeflectionPart LineDeflection(Case support, double L, double Kq) {
       p.right = {{3 * Kq * L3 * L / 24, -Kq * L3 / 6, 0, 0, Kq / 24}, true};
       break;
   }
+  p.left = p.right;  // where the length is negative, every station lies before 0
   return p;
 }
 
