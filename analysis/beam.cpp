@@ -168,10 +168,10 @@ void PlanePoints(const ProjectState& st, const PlaneModel& model, Plane plane,
     const double x = st.L * results.pt_x[j];
     Force f = model.At(x);
     if (results.pt_x[j] == 1) {
-      // At exactly x = L a pinned member's moment load on the right branch counts in full.
-      for (const ForcePart& p : model.Parts()) {
-        if (p.endMoment != 0 && !(x < p.a)) f.M += p.endMoment - p.right.M(x);
-      }
+      // At exactly x = L the right branches are their end values: a sum of rounded polynomials
+      // would leave crumbs where the moment is 0, and a pinned member's moment load counts in full.
+      f.M = 0;
+      for (const ForcePart& p : model.Parts()) f.M += p.LeftAt(x) ? p.left.M(x) : p.endMoment;
     }
     out.M_pt[j] = f.M;
     out.V_pt[j] = f.V;

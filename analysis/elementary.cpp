@@ -35,6 +35,7 @@ ForcePart LineForces(Case support, double L, double q) {
   p.VL = b.v0 + b.v1 * L;
   p.M0 = b.m0;
   p.ML = support == kPropped ? -q * L * L / 8 : support == kFixed ? b.m0 : 0;
+  p.endMoment = p.ML;
   return p;
 }
 
@@ -76,6 +77,7 @@ ForcePart PointForces(Case support, double L, double P, double a, bool inclusive
   p.VL = RB;
   p.M0 = MA;
   p.ML = MB;
+  p.endMoment = MB;
   return p;
 }
 
@@ -102,6 +104,7 @@ ForcePart MomentForces(Case support, double L, double Mo, double a) {
       V = (3 * al * al - 3) * Mo / (2 * L);
       p.M0 = a == 0 ? Mo : 0;
       p.ML = (3 * al * al - 1) * Mo / 2;
+      p.endMoment = p.ML;
       break;
     case kFixed: {
       const double be = (L - a) / L;
@@ -109,6 +112,7 @@ ForcePart MomentForces(Case support, double L, double Mo, double a) {
       M0 = -(al * al + 2 * be * be - 1) * Mo;
       p.M0 = M0;
       p.ML = (2 * al * al + be * be - 1) * Mo;
+      p.endMoment = p.ML;
       break;
     }
     case kCantilever:
@@ -133,6 +137,7 @@ ForcePart Scaled(ForcePart p, double w) {
   p.VL *= w;
   p.M0 *= w;
   p.ML *= w;
+  p.endMoment *= w;
   return p;
 }
 
@@ -156,6 +161,7 @@ DeflectionPart LineDeflection(Case support, double L, double Kq) {
       p.right = {{3 * Kq * L3 * L / 24, -Kq * L3 / 6, 0, 0, Kq / 24}, true};
       break;
   }
+  p.left = p.right;  // where the length is negative, every station lies before 0
   return p;
 }
 
@@ -319,7 +325,7 @@ void CollectForces(const ProjectState& st, const PlaneLoads& loads, PartList<For
       [&](double M, double a) {
         add([&](Case c) {
           ForcePart p = MomentForces(c, L, M, a);
-          if (st.SupportType != 0) p.endMoment = 0;
+          if (c == kPinned && st.SupportType != 0) p.endMoment = 0;
           if (spring3 && c == kPinned) {  // no end moments here, whatever the position
             p.M0 = 0;
             p.ML = 0;

@@ -35,7 +35,7 @@ struct ForcePart {
   bool inclusive = false;  ///< x = a belongs to the left branch
   ForceBranch left, right;
   double V0 = 0, VL = 0, M0 = 0, ML = 0;
-  double endMoment = 0;  ///< what a moment load gives at a point at exactly x = L
+  double endMoment = 0;  ///< the right branch's moment at a point at exactly x = L, no rounding
 
   bool LeftAt(double x) const { return x < a || (inclusive && x == a); }
   const ForceBranch& At(double x) const { return LeftAt(x) ? left : right; }

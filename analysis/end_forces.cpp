@@ -12,17 +12,17 @@ using Ends = Indexed<float32, 1, 2>;
 
 void Line(const Ends& ends, StationValues& station, PointValues& points, float32& max,
           float32& min) {
-  const double step = (ends[2] - ends[1]) / 50;
+  const double rise = ends[2] - ends[1];
   max = ends[1];
   min = ends[1];
   for (int i = 0; i <= 50; ++i) {
-    station[i] = ends[1] + i * step;
+    station[i] = ends[1] + i * rise / 50;  // so that the last station is the second end's value
     if (station[i] > max) max = station[i];
     if (station[i] < min) min = station[i];
   }
   points[0] = ends[1];
   points[10] = ends[2];
-  for (int j = 1; j <= 9; ++j) points[j] = points[j - 1] + (ends[2] - ends[1]) / 10;
+  for (int j = 1; j <= 9; ++j) points[j] = points[j - 1] + rise / 10;
 }
 
 double Factor(const Ends& M) {

@@ -54,14 +54,13 @@ void DistributeItems(const ProjectState& st, const GroupFactors& f, WorkingLoads
 }
 
 void Combine(const ProjectState& st, const GroupFactors& f, double selfWeight, WorkingLoads& w) {
-  double qz = 0;
-  double qy = 0;
+  // The sums are working fields of single precision: every load added rounds them.
+  w.z.q = 0;
+  w.y.q = 0;
   for (const LineLoad& l : kLineLoads) {
-    (st.*l.yz == 0 ? qy : qz) += f.Of(st.*l.pv) * (st.*l.q);
+    (st.*l.yz == 0 ? w.y : w.z).q += f.Of(st.*l.pv) * (st.*l.q);
   }
-  if (st.SelfWeight == 1) qz += selfWeight;
-  w.z.q = qz;
-  w.y.q = qy;
+  if (st.SelfWeight == 1) w.z.q += selfWeight;
   DistributeItems(st, f, w);
 }
 

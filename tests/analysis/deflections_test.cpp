@@ -237,6 +237,17 @@ TEST(Deflections, NoLengthIsAnArithmeticFault) {
   }
 }
 
+// A file can hold a length that no form accepts: the line load's formulas are even in the length.
+TEST(Deflections, ANegativeLengthStillCarriesTheLineLoad) {
+  for (const int support : {0, 1, 2, 4}) {
+    SCOPED_TRACE(support);
+    const Deflections forward = Deflected(LineLoaded(support));
+    const Deflections backward = Deflected(LineLoaded(support, -6));
+    EXPECT_GT(forward.DeflZ[25], 1);
+    EXPECT_NEAR(backward.DeflZ[25], forward.DeflZ[25], 1e-5);
+  }
+}
+
 TEST(Deflections, ASectionWithoutStiffnessIsAnArithmeticFault) {
   EXPECT_THROW(Deflected(LineLoaded(0), 0), ArithmeticFault);
 }

@@ -127,6 +127,18 @@ TEST(EndForces, ExtremesStartAtTheFirstStation) {
   EXPECT_EQ(r.My_gov, 100);
 }
 
+TEST(EndForces, TheLastStationIsTheSecondEndToTheLastBit) {
+  for (const double M : {0.1, 0.8, 6.4, 7.8, 33.3, 161.9}) {
+    SCOPED_TRACE(M);
+    ProjectState st = EndLoaded();
+    st.My_end[1] = M;
+    st.My_end[2] = 0;
+    const BeamResults r = Analysed(st);
+    EXPECT_EQ(r.z.M[50], 0);
+    EXPECT_EQ(r.z.M_min, 0);
+  }
+}
+
 TEST(EndForces, EqualEndMomentsAreBothExtremes) {
   for (const double M : {40.0, -40.0}) {
     SCOPED_TRACE(M);

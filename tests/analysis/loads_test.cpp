@@ -102,6 +102,23 @@ TEST(Combinations, AllLineLoadsOfADirectionAddWithTheirOwnFactors) {
   EXPECT_EQ(w.y.q, 1250);
 }
 
+TEST(Combinations, LineLoadsAreRoundedToSinglePrecisionOneByOne) {
+  ProjectState st = FactoredMember();
+  st.lfp_uls = 1;
+  st.q1 = 16777216;  // 2^24: one more is lost in single precision
+  st.q2 = 1;
+  st.q3 = -16777216;
+  st.SelfWeight = 1;
+  WorkingLoads w;
+  CombineUls(st, 0, w);
+  EXPECT_EQ(w.z.q, 0);
+  CombineSls(st, 50, w);
+  EXPECT_EQ(w.z.q, 0.5);
+  st.q3 = 0;
+  CombineSls(st, 50, w);
+  EXPECT_EQ(w.z.q, 16777216);
+}
+
 TEST(Combinations, TrapezoidsFollowTheirDirection) {
   for (int t = 1; t <= 3; ++t) {
     SCOPED_TRACE(t);

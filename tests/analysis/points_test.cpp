@@ -192,6 +192,24 @@ TEST(PointAtTheFarEnd, OnlyTheMomentLoadHasTheRule) {
   EXPECT_NEAR(MomentAtFarPoint(st, 6), -45, 1e-4);
 }
 
+/// A stiffened plate under loads that only sag has no hogging moment, not even a rounding error.
+TEST(PointAtTheFarEnd, HasNoCrumbsOfAMoment) {
+  for (const double P : {0.7, 3.3, 17.9, 61.3, 104.7}) {
+    for (const double a : {0.31, 1.7, 2.9, 4.43}) {
+      SCOPED_TRACE(std::to_string(P) + " kN at " + std::to_string(a));
+      ProjectState st = BareMember(0, 4.97);
+      st.ProfileType = 52;
+      PutPoint(st, 1, P, a);
+      PutPoint(st, 2, P / 3, a / 2);
+      PutTrapezoid(st, 1, P, 2 * P, 0.3, a + 0.2);
+      EXPECT_EQ(MomentAtFarPoint(st, 4.97), 0);
+      st.cp_mode = 1;
+      st.cp_x[1] = 4.97;
+      EXPECT_EQ(Analysed(st).My_gov, 0);
+    }
+  }
+}
+
 TEST(PointAtTheFarEnd, JustBeforeItTheCurveIsTheMembersOwn) {
   ProjectState st = BareMember(0, 6);
   PutMoment(st, 1, 36, 2);
