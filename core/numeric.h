@@ -20,6 +20,16 @@ public:
   explicit ArithmeticFault(const std::string& what) : std::runtime_error(what) {}
 };
 
+/// Refuses a value that a field can't hold, by the name of its cause: a division by zero where
+/// the floating-point flags show one, an invalid operation for what is no number, else overflow.
+[[noreturn, gnu::cold, gnu::noinline]] inline void RefuseValue(double v, const char* overflow) {
+  const bool divided = !std::isfinite(v) && std::fetestexcept(FE_DIVBYZERO) != 0;
+  std::feclearexcept(FE_DIVBYZERO | FE_INVALID | FE_OVERFLOW);
+  throw ArithmeticFault(divided         ? "division by zero"
+                        : std::isnan(v) ? "invalid operation"
+                                        : overflow);
+}
+
 /// IEEE single precision value. Reads as double, so formulas run in double precision;
 /// assigning rounds, and throws ArithmeticFault (leaving the value as it was) when the result
 /// is not finite or too large for single precision.
@@ -40,7 +50,7 @@ private:
   static constexpr float Checked(double v) {
     // The largest double that still rounds to a finite single.
     constexpr double largest = 3.4028235677973366e38;
-    if (!(v > -largest && v < largest)) throw ArithmeticFault("single precision overflow");
+    if (!(v > -largest && v < largest)) RefuseValue(v, "single precision overflow");
     return static_cast<float>(v);
   }
   float value_ = 0.0F;
@@ -68,7 +78,7 @@ public:
 private:
   static constexpr double Checked(double v) {
     constexpr double largest = std::numeric_limits<double>::max();
-    if (!(v >= -largest && v <= largest)) throw ArithmeticFault("double precision overflow");
+    if (!(v >= -largest && v <= largest)) RefuseValue(v, "double precision overflow");
     return v;
   }
   double value_ = 0.0;

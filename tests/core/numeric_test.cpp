@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cfenv>
 #include <cmath>
 #include <limits>
+#include <string>
 
 namespace korvane {
 namespace {
@@ -87,6 +89,29 @@ TEST(Number, RefusesWhatIsNotFinite) {
 TEST(Number, TakesTheLargestDouble) {
   const double largest = std::numeric_limits<double>::max();
   EXPECT_EQ(static_cast<double>(number(largest)), largest);
+}
+
+// The text of the fault that storing a value gives.
+template <class T>
+std::string FaultOf(double v) {
+  try {
+    T x;
+    x = v;
+  } catch (const ArithmeticFault& fault) {
+    return fault.what();
+  }
+  return "stored";
+}
+
+TEST(ArithmeticFault, NamesTheCauseOfWhatCannotBeStored) {
+  volatile double zero = 0.0;
+  std::feclearexcept(FE_ALL_EXCEPT);
+  EXPECT_EQ(FaultOf<float32>(1.0 / zero), "division by zero");
+  EXPECT_EQ(FaultOf<float32>(zero / zero), "invalid operation");
+  EXPECT_EQ(FaultOf<float32>(1e39), "single precision overflow");
+  EXPECT_EQ(FaultOf<number>(-1.0 / zero), "division by zero");
+  EXPECT_EQ(FaultOf<number>(std::sqrt(zero - 1)), "invalid operation");
+  EXPECT_EQ(FaultOf<number>(kInfinity), "double precision overflow");
 }
 
 TEST(Int16, HoldsItsRange) {
