@@ -64,12 +64,13 @@ void TwoFlangeWarping(double H, SectionRecord& rec) {
   const double hs = H - rec.tf1 / 2 - rec.tf2 / 2;
   rec.Iw = I1 * I2 * hs * hs / (I1 + I2);
   const double betafTop = I1 / (I1 + I2);
+  const double betafBottom = I2 / (I1 + I2);
   rec.betafTop = betafTop;
-  rec.betafBottom = I2 / (I1 + I2);
+  rec.betafBottom = betafBottom;
   rec.zs = betafTop * hs + rec.tf2 / 2 - (H - rec.ezel);
   const auto zj = [hs](double betaf) { return (betaf > 0.5 ? 0.4 : 0.5) * (2 * betaf - 1) * hs; };
-  rec.zjTop = zj(rec.betafTop);
-  rec.zjBottom = zj(rec.betafBottom);
+  rec.zjTop = zj(betafTop);
+  rec.zjBottom = zj(betafBottom);
 }
 
 void LoadSingleI(const ProjectState& st, const Catalogues&, SectionRecord& rec) {

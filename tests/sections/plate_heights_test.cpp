@@ -45,5 +45,19 @@ TEST(PlateHeights, ShearCentreNearTheElasticAxisKeepsItsDigits) {
   EXPECT_NEAR(double(m.rec.zs), -0.1210834, 1e-5);
 }
 
+TEST(PlateHeights, AsymmetryOfNearlyEqualFlangesKeepsItsDigits) {
+  Made m(22);
+  m.st.p22_h = 1000;
+  m.st.p22_b = 300;
+  m.st.p22_b2 = 299.9;
+  m.st.p22_tw = 12;
+  m.st.p22_tf1 = 20;
+  m.st.p22_tf2 = 20;
+  m.Load();
+  // 0.4 and 0.5 times (2*betaf - 1)*hs, with the share of the flange not rounded to single.
+  EXPECT_NEAR(double(m.rec.zjTop), 0.1960446, 2e-6);
+  EXPECT_NEAR(double(m.rec.zjBottom), -0.2450558, 2e-6);
+}
+
 }  // namespace
 }  // namespace korvane::testing
