@@ -16,10 +16,11 @@ void LoadWeldedI(const ProjectState& st, const Catalogues&, SectionRecord& rec) 
   rec.tw = st.p21_tw;
   rec.tf = st.p21_tf;
   rec.r = 0;  // welds count as no radius in every formula
-  rec.hw = rec.h - 2 * rec.tf;
+  const double web = rec.h - 2 * rec.tf;
+  rec.hw = web;
   RectList list;
   list.Add(Rect{rec.b, rec.tf, 0, 0});
-  list.Add(Rect{rec.tw, rec.hw, (rec.b - rec.tw) / 2, rec.tf});
+  list.Add(Rect{rec.tw, web, (rec.b - rec.tw) / 2, rec.tf});
   list.Add(Rect{rec.b, rec.tf, 0, rec.h - rec.tf});
   const SumResult sum = SectionSum(list);
   rec.A = sum.A;
@@ -62,12 +63,14 @@ void TwoFlangeWarping(double H, SectionRecord& rec) {
   const double I2 = std::pow(rec.b2, 3) * rec.tf2 / 12;
   const double hs = H - rec.tf1 / 2 - rec.tf2 / 2;
   rec.Iw = I1 * I2 * hs * hs / (I1 + I2);
-  rec.betafTop = I1 / (I1 + I2);
-  rec.betafBottom = I2 / (I1 + I2);
-  rec.zs = rec.betafTop * hs + rec.tf2 / 2 - (H - rec.ezel);
+  const double betafTop = I1 / (I1 + I2);
+  const double betafBottom = I2 / (I1 + I2);
+  rec.betafTop = betafTop;
+  rec.betafBottom = betafBottom;
+  rec.zs = betafTop * hs + rec.tf2 / 2 - (H - rec.ezel);
   const auto zj = [hs](double betaf) { return (betaf > 0.5 ? 0.4 : 0.5) * (2 * betaf - 1) * hs; };
-  rec.zjTop = zj(rec.betafTop);
-  rec.zjBottom = zj(rec.betafBottom);
+  rec.zjTop = zj(betafTop);
+  rec.zjBottom = zj(betafBottom);
 }
 
 void LoadSingleI(const ProjectState& st, const Catalogues&, SectionRecord& rec) {
@@ -80,11 +83,12 @@ void LoadSingleI(const ProjectState& st, const Catalogues&, SectionRecord& rec) 
   rec.b = rec.b1;
   rec.tf = rec.tf1;
   rec.r = 0;
-  rec.hw = rec.h - rec.tf1 - rec.tf2;
+  const double web = rec.h - rec.tf1 - rec.tf2;  // not rounded, so that no gap opens
+  rec.hw = web;
   rec.d = rec.hw;
   RectList list;
   list.Add(Rect{rec.b1, rec.tf1, (rec.b2 - rec.b1) / 2, rec.h - rec.tf1});
-  list.Add(Rect{rec.tw, rec.hw, (rec.b2 - rec.tw) / 2, rec.tf2});
+  list.Add(Rect{rec.tw, web, (rec.b2 - rec.tw) / 2, rec.tf2});
   list.Add(Rect{rec.b2, rec.tf2, 0, 0});
   const SumResult sum = SectionSum(list);
   rec.A = sum.A;
@@ -113,8 +117,8 @@ void EffectiveModuli(const ProjectState& st, const RemovedFlange& top, const Rem
                      double webs, double H, double depth, bool fullStripInertia,
                      SectionRecord& rec) {
   const auto bend = [&](const RemovedFlange& flange, double z) {
-    return ReduceInBending({rec.A, rec.Iy, z, flange.t, flange.area, flange.momentArea, webs,
-                            depth, rec.d / rec.tw, st.IgnoreWebBuckling == 1, fullStripInertia},
+    return ReduceInBending({rec.A, rec.Iy, z, flange.t, flange.area, flange.momentArea, webs, depth,
+                            rec.d / rec.tw, st.IgnoreWebBuckling == 1, fullStripInertia},
                            st.epsilon);
   };
   const BentSection topCompressed = bend(top, rec.ezel);

@@ -19,12 +19,13 @@ void LoadBox(const ProjectState& st, const Catalogues&, SectionRecord& rec) {
   rec.tf = st.p23_tf;
   rec.r = 0;
   const double a = st.p23_a;
-  rec.hw = rec.h - 2 * rec.tf;
+  const double web = rec.h - 2 * rec.tf;  // not rounded, so that no gap opens
+  rec.hw = web;
   rec.d = rec.hw;
   RectList list;
   list.Add(Rect{rec.b, rec.tf, 0, rec.h - rec.tf});
-  list.Add(Rect{rec.tw, rec.hw, a, rec.tf});
-  list.Add(Rect{rec.tw, rec.hw, rec.b - a - rec.tw, rec.tf});
+  list.Add(Rect{rec.tw, web, a, rec.tf});
+  list.Add(Rect{rec.tw, web, rec.b - a - rec.tw, rec.tf});
   list.Add(Rect{rec.b, rec.tf, 0, 0});
   const SumResult sum = SectionSum(list);
   rec.A = sum.A;
@@ -85,13 +86,14 @@ void LoadHsqSymmetric(const ProjectState& st, const Catalogues&, SectionRecord& 
   rec.tf2 = st.p24_tf2;
   const double a = st.p24_a;
   const double top = rec.b - 2 * (st.p24_c + a);
-  rec.hw = rec.h - rec.tf1;
+  const double web = rec.h - rec.tf1;
+  rec.hw = web;
   rec.d = rec.hw;
   rec.cm = rec.b - 2 * (a + rec.tw);
   rec.co = a;
   RectList list;
   list.Add(Rect{top, rec.tf1, 0, rec.h - rec.tf1 + rec.tf2});
-  list.Add(Rect{2 * rec.tw, rec.hw, a, rec.tf2});
+  list.Add(Rect{2 * rec.tw, web, a, rec.tf2});
   list.Add(Rect{rec.b, rec.tf2, 0, 0});
   DeriveTwoWebs(st, list, rec.h + rec.tf2, 2 * (rec.tf2 + rec.h) + 2 * rec.b, rec);
 }
@@ -106,13 +108,14 @@ void LoadHsqOneSided(const ProjectState& st, const Catalogues&, SectionRecord& r
   rec.tf2 = st.p25_tf2;
   const double a = st.p25_a;
   const double c = st.p25_c;
-  rec.hw = rec.h - rec.tf1;
+  const double web = rec.h - rec.tf1;
+  rec.hw = web;
   rec.d = rec.hw;
   rec.cm = rec.b1 - 2 * rec.tw;
   rec.co = rec.b2 - rec.b1 - a;
   RectList list;
   list.Add(Rect{rec.b1 - 2 * c, rec.tf1, a + c, rec.h - rec.tf1 + rec.tf2});
-  list.Add(Rect{2 * rec.tw, rec.hw, a, rec.tf2});
+  list.Add(Rect{2 * rec.tw, web, a, rec.tf2});
   list.Add(Rect{rec.b2, rec.tf2, 0, 0});
   DeriveTwoWebs(st, list, rec.h + rec.tf2, 2 * (rec.tf2 + rec.h) + 2 * rec.b2, rec);
 }
@@ -126,13 +129,14 @@ void LoadBoxUnequal(const ProjectState& st, const Catalogues&, SectionRecord& re
   rec.tf1 = st.p27_tf1;
   rec.tf2 = st.p27_tf2;
   const double a = st.p27_a;
-  rec.hw = rec.h - rec.tf1 - rec.tf2;
+  const double web = rec.h - rec.tf1 - rec.tf2;
+  rec.hw = web;
   rec.d = rec.hw;
   rec.cm = a - rec.tw;
   rec.co = (rec.b2 - a - rec.tw) / 2;
   RectList list;
   list.Add(Rect{rec.b1, rec.tf1, (rec.b2 - rec.b1) / 2, rec.h - rec.tf1});
-  list.Add(Rect{2 * rec.tw, rec.hw, (rec.b2 - 2 * rec.tw) / 2, rec.tf2});
+  list.Add(Rect{2 * rec.tw, web, (rec.b2 - 2 * rec.tw) / 2, rec.tf2});
   list.Add(Rect{rec.b2, rec.tf2, 0, 0});
   DeriveTwoWebs(st, list, rec.h, 2 * rec.b2 + 2 * rec.b1 + 2 * rec.h - 2 * (rec.tw + a), rec);
 }

@@ -19,11 +19,12 @@ void LoadT(const ProjectState& st, const Catalogues&, SectionRecord& rec) {
   rec.b = st.p26_b;
   rec.tw = st.p26_tw;
   rec.tf = st.p26_tf;
-  rec.hw = rec.h - rec.tf;
+  const double web = rec.h - rec.tf;
+  rec.hw = web;
   rec.c = (rec.b - rec.tw) / 2;
   RectList list;
-  list.Add(Rect{rec.b, rec.tf, 0, rec.hw});
-  list.Add(Rect{rec.tw, rec.hw, rec.c, 0});
+  list.Add(Rect{rec.b, rec.tf, 0, web});
+  list.Add(Rect{rec.tw, web, rec.c, 0});
   const SumResult sum = SectionSum(list);
   rec.A = sum.A;
   rec.Iy = sum.Iy;
