@@ -220,6 +220,8 @@ std::string SegmentText(int g, int n) {
 void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f, SectionRecord& rec,
                        BeamResults& beam, LtbResults& ltb) {
   const int n = st.LtbSegments;
+  // Only a file can hold it; without a segment every moment would pass.
+  if (n < 0) throw ArithmeticFault("restraint points below 0");
   const StationValues& M = beam.z.M;
   ltb.Mdb = 1E16;
   ltb.Mdb_min = 1E16;

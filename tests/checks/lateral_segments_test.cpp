@@ -67,6 +67,14 @@ TEST_F(Segments, EndForcesWithoutRestraintsAreOneSegment) {
   EXPECT_EQ(st.LtbCriticalSegment, 0);
 }
 
+// A damaged file may say so; no segment would be left that could fail.
+TEST_F(Segments, FewerThanNoRestraintPointsStopTheCalculation) {
+  StraightMoments(10, 10);
+  for (const int points : {-1, -2, -32768}) {
+    EXPECT_THROW(Run(1, points), ArithmeticFault) << points;
+  }
+}
+
 TEST_F(Segments, EndMomentRatioIsTheSmallerOverTheLarger) {
   st.AnalysisMode = 0;
   StraightMoments(10, -40);  // r = -0.25, C1 = 2.281
