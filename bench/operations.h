@@ -12,13 +12,13 @@ struct Operations {
 };
 
 inline constexpr std::array<Operations, 7> kOperations{{
-    {"calculate_default", 3728},
-    {"calculate_full", 14797},
-    {"calculate_silent", 3725},
-    {"search_all", 2056384},
-    {"analysis_full", 11456},
-    {"naive_full", 315425},
-    {"naive_full_loads_only", 147940},
+    {"calculate_default", 3739},
+    {"calculate_full", 14936},
+    {"calculate_silent", 3736},
+    {"search_all", 2057192},
+    {"analysis_full", 11595},
+    {"naive_full", 315428},
+    {"naive_full_loads_only", 147943},
 }};
 
 }  // namespace korvane

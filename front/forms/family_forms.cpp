@@ -185,7 +185,7 @@ void AddSideClass(std::string_view symbol, std::vector<Control>& c) {
   if (!top && symbol != "MdyBottom") return;
   c.push_back(TextLabel(top ? "osclass1" : "osclass2", [top](const Session& s) {
     const SectionRecord& rec = s.design().rec;
-    return std::to_string(int(top ? rec.classTop : rec.classBottom));
+    return "class " + std::to_string(int(top ? rec.classTop : rec.classBottom));
   }));
   c.back().caption = top ? "Top flange in compression" : "Bottom flange in compression";
 }

@@ -91,8 +91,8 @@ TEST(FormLabels, EachSideTellsItsOwnClass) {
   Running r;
   r.session.Menu("mnu52");
   r.session.Focus("korvane");
-  EXPECT_EQ(r.session.Text("p52.osclass1"), "4");
-  EXPECT_EQ(r.session.Text("p52.osclass2"), "1");
+  EXPECT_EQ(r.session.Text("p52.osclass1"), "class 4");
+  EXPECT_EQ(r.session.Text("p52.osclass2"), "class 1");
   EXPECT_EQ(FindControl(*FindForm("p52"), "osclass"), nullptr);
 }
 
