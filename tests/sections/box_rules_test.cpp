@@ -11,8 +11,10 @@ namespace korvane {
 namespace {
 
 using testing::ExpectClose;
+using testing::ExpectEffective;
 using testing::kFd;
 using testing::Made;
+using testing::ThinHsq;
 
 const double kEps = std::sqrt(235.0 / 355);
 
@@ -157,30 +159,6 @@ TEST(Hsq, StockyShearAlongYIsShownByTheShareOfTheWidth) {
 }
 
 // ---- effective section: plates so thin that every part is reduced, worked out part by part
-
-struct Effective {
-  double Weffy1c, Weffy2t, Weffy2c, Weffy1t, Aeff;
-};
-
-void ExpectEffective(const SectionRecord& rec, const Effective& e) {
-  ExpectClose(rec.Weffy1c, e.Weffy1c, "Weffy1c");
-  ExpectClose(rec.Weffy2t, e.Weffy2t, "Weffy2t");
-  ExpectClose(rec.Weffy2c, e.Weffy2c, "Weffy2c");
-  ExpectClose(rec.Weffy1t, e.Weffy1t, "Weffy1t");
-  ExpectClose(rec.Aeff, e.Aeff, "Aeff");
-}
-
-Made ThinHsq() {
-  Made m(24);
-  m.st.p24_h = 800.0;
-  m.st.p24_b = 900.0;
-  m.st.p24_tw = 5.0;
-  m.st.p24_tf1 = 8.0;
-  m.st.p24_tf2 = 10.0;
-  m.st.p24_a = 160.0;
-  m.st.p24_c = 4.0;
-  return m;
-}
 
 // A 21496, Iy 2.446300E9, ez 323.259. Top: 570/8 at k = 4, rho 0.5561, webs 0.4706. Bottom: 570/10,
 // rho 0.6661, two outstands 160/10 at k = 0.43, rho 0.7497, webs 0.6552.

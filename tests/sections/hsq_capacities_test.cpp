@@ -13,6 +13,7 @@ namespace {
 using testing::ExpectClose;
 using testing::kFd;
 using testing::Made;
+using testing::ThinHsq;
 
 // ---- class
 
@@ -116,19 +117,6 @@ TEST(UnequalBox, TheOutstandsOfTheTopFlangeAreNotTested) {
 }
 
 // ---- capacities
-
-/// Plates so thin that every part of them is reduced.
-Made ThinHsq() {
-  Made m(24);
-  m.st.p24_h = 800.0;
-  m.st.p24_b = 900.0;
-  m.st.p24_tw = 5.0;
-  m.st.p24_tf1 = 8.0;
-  m.st.p24_tf2 = 10.0;
-  m.st.p24_a = 160.0;
-  m.st.p24_c = 4.0;
-  return m;
-}
 
 TEST(Hsq, ClassFourTakesTheSmallerEffectiveModulusOfEachSide) {
   Made m = ThinHsq();

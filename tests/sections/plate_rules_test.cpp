@@ -11,22 +11,11 @@ namespace korvane {
 namespace {
 
 using testing::ExpectClose;
+using testing::ExpectEffective;
 using testing::kFd;
 using testing::Made;
 
 constexpr int kPlates[] = {51, 52, 53, 54, 55, 56};
-
-struct Effective {
-  double Weffy1c, Weffy2t, Weffy2c, Weffy1t, Aeff;
-};
-
-void ExpectEffective(const SectionRecord& rec, const Effective& e) {
-  ExpectClose(rec.Weffy1c, e.Weffy1c, "Weffy1c");
-  ExpectClose(rec.Weffy2t, e.Weffy2t, "Weffy2t");
-  ExpectClose(rec.Weffy2c, e.Weffy2c, "Weffy2c");
-  ExpectClose(rec.Weffy1t, e.Weffy1t, "Weffy1t");
-  ExpectClose(rec.Aeff, e.Aeff, "Aeff");
-}
 
 // ---- dimensions
 

@@ -32,6 +32,24 @@ inline double Rho(double ratio, double eps, double k) {
   return lam > 0.673 ? (lam - 0.22) / lam / lam : 1;
 }
 
+/// Yield stress for which a plate of this slenderness stands at `limit` times eps.
+inline double YieldFor(double ratio, double limit) {
+  return 235 / std::pow(ratio / limit, 2);
+}
+
+/// Moduli of the two sides of a section in class 4, mm3, and its area, mm2.
+struct Effective {
+  double Weffy1c, Weffy2t, Weffy2c, Weffy1t, Aeff;
+};
+
+inline void ExpectEffective(const SectionRecord& rec, const Effective& e) {
+  ExpectClose(rec.Weffy1c, e.Weffy1c, "Weffy1c");
+  ExpectClose(rec.Weffy2t, e.Weffy2t, "Weffy2t");
+  ExpectClose(rec.Weffy2c, e.Weffy2c, "Weffy2c");
+  ExpectClose(rec.Weffy1t, e.Weffy1t, "Weffy1t");
+  ExpectClose(rec.Aeff, e.Aeff, "Aeff");
+}
+
 /// The steps of ComputeSection for a state, without a member around it.
 struct Made {
   explicit Made(int type) { st.ProfileType = type; }
@@ -66,5 +84,18 @@ struct Made {
     family().sectionClass(st, f, rec);
   }
 };
+
+/// An HSQ with plates so thin that every part of them is reduced.
+inline Made ThinHsq() {
+  Made m(24);
+  m.st.p24_h = 800.0;
+  m.st.p24_b = 900.0;
+  m.st.p24_tw = 5.0;
+  m.st.p24_tf1 = 8.0;
+  m.st.p24_tf2 = 10.0;
+  m.st.p24_a = 160.0;
+  m.st.p24_c = 4.0;
+  return m;
+}
 
 }  // namespace korvane::testing
