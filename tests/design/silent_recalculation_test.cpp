@@ -2,31 +2,12 @@
 // The optimiser's calculation: its own order of the steps, no text and no memory taken.
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <cstdlib>
 #include <memory>
-#include <new>
 #include <string>
 
 #include "designs.h"
 #include "sections/profile_table.h"
-
-namespace {
-std::atomic<long> allocations = 0;
-}
-
-// Not inlined: the compiler would take the pair of malloc and free behind them for a mismatch.
-[[gnu::noinline]] void* operator new(std::size_t size) {
-  ++allocations;
-  if (void* p = std::malloc(size ? size : 1)) return p;
-  throw std::bad_alloc();
-}
-[[gnu::noinline]] void operator delete(void* p) noexcept {
-  std::free(p);
-}
-[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
-  std::free(p);
-}
+#include "tests/allocations.h"
 
 namespace korvane {
 namespace {

@@ -64,4 +64,18 @@ struct Running {
   Session session;
 };
 
+/// The choices by which the form shows and enables every field that it has.
+inline void ShowEveryField(const std::string& form, ProjectState& st) {
+  if (form == "endstiff") st.WebStiffener = 1;
+  if (form == "chpoints") {
+    st.cp_mode = 1;
+    st.cp_count = 3;
+  }
+  if (form == "vipping") {
+    st.LateralBucklingCase = 5;
+    st.CFactorManual = 1;
+    st.LoadLevel = 4;
+  }
+}
+
 }  // namespace korvane::testing

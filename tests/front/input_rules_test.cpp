@@ -39,16 +39,7 @@ void Prepare(Running& r, const std::string& form, const std::string& control) {
   if (form == "korvane") return;
   if (form == "optroll") st.ResultView = 1;
   st.check_slend = 1;
-  if (form == "endstiff") st.WebStiffener = 1;
-  if (form == "chpoints") {
-    st.cp_mode = 1;
-    st.cp_count = 3;
-  }
-  if (form == "vipping") {
-    st.LateralBucklingCase = 5;
-    st.CFactorManual = 1;
-    st.LoadLevel = 4;
-  }
+  testing::ShowEveryField(form, st);
   if (form[0] == 'p') st.ProfileType = std::stoi(form.substr(1));
   r.session.Show(form);
 }

@@ -79,16 +79,7 @@ void Prepare(Running& r, const std::string& form, const std::string& control) {
     if (control == "oza") st.LoadLevel = 4;
     return;
   }
-  if (form == "endstiff") st.WebStiffener = 1;
-  if (form == "chpoints") {
-    st.cp_mode = 1;
-    st.cp_count = 3;
-  }
-  if (form == "vipping") {
-    st.LateralBucklingCase = 5;
-    st.CFactorManual = 1;
-    st.LoadLevel = 4;
-  }
+  testing::ShowEveryField(form, st);
   if (form == "loading") st.SelfWeight = 1;
   if (form == "bucklingcurve") st.ManualBucklingCurves = 1;
   if (form == "setup") st.check_slend = 1;

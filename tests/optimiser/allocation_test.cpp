@@ -2,28 +2,11 @@
 // A search takes no memory: no text is composed and no list grows while it runs.
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <cstdlib>
-#include <new>
+#include <memory>
+#include <string>
 
 #include "searches.h"
-
-namespace {
-std::atomic<long> allocations = 0;
-}
-
-// Not inlined: the compiler would take the pair of malloc and free behind them for a mismatch.
-[[gnu::noinline]] void* operator new(std::size_t size) {
-  ++allocations;
-  if (void* p = std::malloc(size ? size : 1)) return p;
-  throw std::bad_alloc();
-}
-[[gnu::noinline]] void operator delete(void* p) noexcept {
-  std::free(p);
-}
-[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
-  std::free(p);
-}
+#include "tests/allocations.h"
 
 namespace korvane {
 namespace {
