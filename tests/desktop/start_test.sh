@@ -4,8 +4,9 @@
 # and ends well when its window is closed.
 set -u
 own=$(mktemp -d)
+# Without -noreset the server starts anew, and refuses clients, when the first one asking leaves.
 exec 7<>"$own/number"
-Xvfb -displayfd 7 -screen 0 1600x1000x24 -nolisten tcp >/dev/null 2>&1 &
+Xvfb -displayfd 7 -noreset -screen 0 1600x1000x24 -nolisten tcp >/dev/null 2>&1 &
 display=$!
 trap 'kill $display 2>/dev/null; rm -rf "$own"' EXIT
 for _ in $(seq 100); do [ -s "$own/number" ] && break; sleep 0.1; done
