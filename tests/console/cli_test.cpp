@@ -9,6 +9,7 @@
 #include "core/calculation.h"
 #include "core/project_fields.h"
 #include "core/project_file.h"
+#include "places.h"
 #include "run_program.h"
 #include "sections/profile_table.h"
 #include "sections/section_fields.h"

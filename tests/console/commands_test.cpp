@@ -11,6 +11,7 @@
 #include "front/console/data_folder.h"
 #include "front/console/more_commands.h"
 #include "front/console/terminal.h"
+#include "places.h"
 #include "projects.h"
 
 namespace korvane {

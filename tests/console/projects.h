@@ -9,6 +9,7 @@
 #include "../core/temp_folder.h"
 #include "core/calculation.h"
 #include "core/project_file.h"
+#include "places.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
@@ -27,8 +28,8 @@ inline void PutProject(const std::string& path,
   PutFile(path, ProjectText(design.st));
 }
 
-/// count (up to 1,000) projects p000.kvn, p001.kvn, ... of all families, with lengths and loads of their own:
-/// some pass and some fail.
+/// count (up to 1,000) projects p000.kvn, p001.kvn, ... of all families, with lengths and loads of
+/// their own: some pass and some fail.
 inline void PutProjects(const TempFolder& folder, int count) {
   const auto families = AllFamilies();
   for (int i = 0; i < count; ++i) {

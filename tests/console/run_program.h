@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "../core/temp_folder.h"
+#include "places.h"
 
 namespace korvane {
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "front/form_table.h"
+#include "places.h"
 #include "projects.h"
 #include "run_program.h"
 

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <string>
 
+#include "places.h"
 #include "sections/readprofiles.h"
 
 namespace korvane::testing {

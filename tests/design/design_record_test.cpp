@@ -8,6 +8,8 @@
 
 #include <fstream>
 
+#include "places.h"
+
 namespace korvane {
 namespace {
 

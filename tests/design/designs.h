@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/calculation.h"
+#include "places.h"
 
 namespace korvane {
 

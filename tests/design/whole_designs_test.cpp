@@ -10,6 +10,7 @@
 #include "example_figures.h"
 #include "family_figures.h"
 #include "figures.h"
+#include "places.h"
 #include "sections/profile_table.h"
 
 namespace korvane {

@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "front/desktop/help_viewer.h"
+#include "places.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace korvane {

@@ -15,6 +15,7 @@
 #include <QToolButton>
 
 #include "front/desktop/diagram_pane.h"
+#include "places.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace korvane {

@@ -15,6 +15,7 @@
 #include "front/desktop/main_window.h"
 #include "front/desktop/panes.h"
 #include "front/desktop/theme.h"
+#include "places.h"
 
 namespace korvane {
 

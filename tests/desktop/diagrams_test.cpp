@@ -17,6 +17,7 @@
 
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/diagram_pane.h"
+#include "places.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace korvane {

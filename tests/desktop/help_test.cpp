@@ -14,6 +14,7 @@
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/help_desk.h"
 #include "front/desktop/help_viewer.h"
+#include "places.h"
 #include "sections/profile_table.h"
 #include "tests/desktop/desktop_fixture.h"
 #include "tools/help_tables.h"

@@ -10,6 +10,7 @@
 
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/own_folder.h"
+#include "places.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace korvane {

@@ -8,6 +8,7 @@
 
 #include "core/project_file.h"
 #include "front/desktop/desktop_platform.h"
+#include "places.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace korvane {

@@ -10,6 +10,7 @@
 #include <QSpinBox>
 
 #include "front/desktop/desktop_platform.h"
+#include "places.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace korvane {

@@ -10,6 +10,7 @@
 #include "front/desktop/desktop.h"
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/main_window.h"
+#include "places.h"
 
 namespace korvane {
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/project_file.h"
+#include "places.h"
 #include "tests/core/own_process.h"
 #include "tests/front/damage_support.h"
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "front/session.h"
+#include "places.h"
 
 namespace korvane::testing {
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "places.h"
 #include "sections/profile_table.h"
 #include "tests/core/temp_folder.h"
 #include "tests/front/front_support.h"

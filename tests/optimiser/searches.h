@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "optimiser/optimize.h"
+#include "places.h"
 
 namespace korvane {
 

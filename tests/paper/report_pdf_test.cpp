@@ -9,6 +9,7 @@
 
 #include "core/files.h"
 #include "front/console/run_design.h"
+#include "places.h"
 #include "sections/profile_table.h"
 #include "sections/shown_values.h"
 
@@ -50,7 +51,7 @@ protected:
   std::string TextOf(const char* kind) {
     const std::string pdf = (folder_ / kind).string() + ".pdf";
     OutputOf(std::string(KORVANE_CLI) + " report " + project_ + " --data " + KORVANE_SOURCE_DIR +
-        "/data --kind " + kind + " -o " + pdf);
+             "/data --kind " + kind + " -o " + pdf);
     return Squeezed(OutputOf("pdftotext -layout " + pdf + " -"));
   }
   std::string project_;
@@ -84,7 +85,7 @@ TEST_P(ReportPdf, HoldsTheSectionAndTheChecks) {
 TEST_P(ReportPdf, CarriesItsTitleAndTheProject) {
   const std::string pdf = (folder_ / "both.pdf").string();
   OutputOf(std::string(KORVANE_CLI) + " report " + project_ + " --data " + KORVANE_SOURCE_DIR +
-      "/data --kind both -o " + pdf);
+           "/data --kind both -o " + pdf);
   const std::string info = OutputOf("pdfinfo " + pdf);
   EXPECT_NE(info.find("Title:"), std::string::npos);
   EXPECT_NE(info.find("Section and Stability Control"), std::string::npos);

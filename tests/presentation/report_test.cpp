@@ -5,6 +5,7 @@
 
 #include "checks/results.h"
 #include "core/calculation.h"
+#include "places.h"
 #include "presentation/aprint.h"
 #include "presentation/recording_target.h"
 #include "sections/profile_table.h"

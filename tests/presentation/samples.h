@@ -8,6 +8,7 @@
 
 #include "analysis/beam.h"
 #include "analysis/deflections.h"
+#include "places.h"
 #include "presentation/grafik.h"
 #include "presentation/recording_target.h"
 #include "sections/profile_table.h"

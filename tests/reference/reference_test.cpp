@@ -12,6 +12,7 @@
 
 #include "front/console/design_json.h"
 #include "front/console/run_design.h"
+#include "places.h"
 
 namespace korvane {
 namespace {

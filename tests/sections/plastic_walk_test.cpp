@@ -9,6 +9,7 @@
 
 #include "core/calculation.h"
 #include "core/numeric.h"
+#include "places.h"
 #include "sections/section_sum.h"
 
 namespace korvane {

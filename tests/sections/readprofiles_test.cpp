@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "places.h"
+
 namespace korvane {
 namespace {
 

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "core/calculation.h"
+#include "places.h"
 #include "sections/profile_table.h"
 
 namespace korvane::testing {

@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <new>
 
+#include "places.h"
 #include "random_person.h"
 
 namespace {

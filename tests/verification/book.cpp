@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "case.h"
+#include "places.h"
 
 namespace korvane::verification {
 

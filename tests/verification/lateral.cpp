@@ -5,6 +5,7 @@
 #include "analysis/loads.h"
 #include "case.h"
 #include "core/calculation.h"
+#include "places.h"
 
 namespace korvane::verification {
 

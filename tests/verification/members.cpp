@@ -7,6 +7,7 @@
 
 #include "analysis/loads.h"
 #include "case.h"
+#include "places.h"
 
 namespace korvane::verification {
 
