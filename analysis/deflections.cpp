@@ -31,6 +31,12 @@ void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,
     const double x = (i / 50.0) * L;
     set(i, sums.AtStation(i, x).At(x, L));
   }
+  if (L < 0 && last == 50) {
+    // Every station lies before the loads then; the free end takes the tip values all the same.
+    DeflectionSum tip;
+    for (const DeflectionPart& p : parts) tip.Add(p.right.mirrored ? p.right : p.At(L));
+    set(50, tip.At(L, L));
+  }
 }
 
 void ComputeDeflections(const ProjectState& st, const WorkingLoads& loads, double Iy, double Iz,

@@ -33,7 +33,8 @@ const std::array<double, 3>* ModeConstants(int support) {
 }  // namespace
 
 void ModalAnalysisRun(const ProjectState& st, double S, double Iy, ModalResults& out) {
-  out.ModalMass = 102 * ModalLineLoad(st) + S;
+  // The load record counts in load mode only.
+  out.ModalMass = (st.AnalysisMode == 1 ? 102 * ModalLineLoad(st) : 0) + S;
   const std::array<double, 3>* constants = ModeConstants(st.SupportType);
   if (constants == nullptr) return;
   const double EI = Iy * st.E * 1E-6;

@@ -55,12 +55,10 @@ double LengthFactorOfCase(int bucklingCase) {
   }
 }
 
-void ChooseBucklingCurves(const SectionRecord& rec, ProjectState& st) {
-  const auto choose = [&st](int y, int z) {
-    st.BucklingCurveY = y;
-    st.BucklingCurveZ = z;
-  };
-  switch (st.ProfileType) {
+std::optional<CurvePair> AutomaticCurves(int profileType, const SectionRecord& rec,
+                                         const ProjectState& st) {
+  using Pair = CurvePair;
+  switch (profileType) {
     case 1:
     case 2:
     case 3:
@@ -68,8 +66,8 @@ void ChooseBucklingCurves(const SectionRecord& rec, ProjectState& st) {
     case 15: {
       // Compared in single precision.
       const bool deep = float32(1.2 * rec.b) < rec.h;
-      if (st.fyk > 440) return deep ? choose(a0, a0) : choose(a, a);
-      return deep ? choose(a, b) : choose(b, c);
+      if (st.fyk > 440) return deep ? Pair{a0, a0} : Pair{a, a};
+      return deep ? Pair{a, b} : Pair{b, c};
     }
     case 5:
     case 16:
@@ -77,25 +75,47 @@ void ChooseBucklingCurves(const SectionRecord& rec, ProjectState& st) {
     case 11:
     case 26:
     case 28:
-      return choose(c, c);
+      return Pair{c, c};
     case 6:
     case 7:
-      return choose(a, a);
+      return Pair{a, a};
     case 8:
     case 9:
-      return choose(b, b);
+      return Pair{b, b};
     case 21:
     case 22:
-      return rec.tmax <= 40 ? choose(b, c) : choose(c, d);
+      return rec.tmax <= 40 ? Pair{b, c} : Pair{c, d};
     case 23: {
       // The stockier plates of a hot welded box take the weaker curve.
       const bool stocky = rec.b / rec.tf < 30 && rec.h / rec.tw < 30;
-      return st.BoxWeld == 0 && stocky ? choose(c, c) : choose(b, b);
+      return st.BoxWeld == 0 && stocky ? Pair{c, c} : Pair{b, b};
     }
     case 31:
-      return st.TubeKind != 0 ? choose(a, a) : choose(b, b);
+      return st.TubeKind != 0 ? Pair{a, a} : Pair{b, b};
     default:
-      return;
+      return std::nullopt;
+  }
+}
+
+std::optional<CurvePair> CurvesOfLikeSections(int profileType, const SectionRecord& rec,
+                                              const ProjectState& st) {
+  switch (profileType) {
+    case 101:
+    case 102:
+      return AutomaticCurves(1, rec, st);
+    case 103:
+      return AutomaticCurves(5, rec, st);
+    case 41:
+      return CurvePair{c, c};  // a section of any shape
+    default:
+      return std::nullopt;
+  }
+}
+
+void ChooseBucklingCurves(const SectionRecord& rec, ProjectState& st) {
+  if (const auto curves = AutomaticCurves(st.ProfileType, rec, st)) {
+    st.BucklingCurveY = curves->y;
+    st.BucklingCurveZ = curves->z;
   }
 }
 

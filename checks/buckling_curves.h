@@ -2,6 +2,8 @@
 // Buckling curves: imperfection factors, letters and the automatic choice.
 #pragma once
 
+#include <optional>
+
 #include "core/project_state.h"
 #include "sections/section_record.h"
 
@@ -22,6 +24,22 @@ const char* AngleCurveLetter(int curve);
 /// Buckling length factor of end condition case 1 to 5 (0: no buckling); case 6 is typed in and
 /// has none, which reads as -1.
 double LengthFactorOfCase(int bucklingCase);
+
+/// Indices of the curves about y and z.
+struct CurvePair {
+  int y, z;
+};
+
+/// The curves that a family's row chooses by proportions (mm) and fyk (MPa); none for a family
+/// without a row.
+std::optional<CurvePair> AutomaticCurves(int profileType, const SectionRecord& rec,
+                                         const ProjectState& st);
+
+/// For a family without a row of its own but with a buckling control: the curves that the row of
+/// like sections would choose (British sections those of the European shapes, the general profile
+/// curve c).
+std::optional<CurvePair> CurvesOfLikeSections(int profileType, const SectionRecord& rec,
+                                              const ProjectState& st);
 
 /// Sets BucklingCurveY and BucklingCurveZ by family, proportions (mm) and fyk (MPa); families
 /// without a rule keep theirs.

@@ -42,14 +42,16 @@ SizeList SizesOf(const ProjectState& st) {
     case 54:
       return {true, Cat::HP, st.p54_index};
     case 101:
+      if (st.p101_sub == 1) return {true, Cat::UB, st.p101_idx1};
       if (st.p101_sub == 2) return {true, Cat::UC, st.p101_idx2};
       if (st.p101_sub == 3) return {true, Cat::UBP, st.p101_idx3};
-      return {true, Cat::UB, st.p101_idx1};
+      return {};  // no dimension step, so no name either
     case 102:
       return {true, Cat::J, st.p102_idx};
     case 103:
+      if (st.p103_sub == 1) return {true, Cat::PFC, st.p103_idx1};
       if (st.p103_sub == 2) return {true, Cat::CH, st.p103_idx2};
-      return {true, Cat::PFC, st.p103_idx1};
+      return {};
     default:
       return {};
   }

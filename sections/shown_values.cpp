@@ -54,7 +54,8 @@ constexpr std::array kItems{
   Item{"Ntd", &R::Ntd, kForce, "kN"}, Item{"Ncd", &R::Ncrdshown, kForce, "kN"},
   Item{"Ncrd", &R::Ncrd, kForce, "kN"},
   Item{"Mdy", &R::Mdyshown, kForce, "kNm"}, Item{"Mdz", &R::Mdzshown, kForce, "kNm"},
-  Item{"MdyTop", &R::MdyTop, kForce, "kNm"}, Item{"MdyBottom", &R::MdyBottom, kForce, "kNm"},
+  Item{"MdyTop", &R::MdyTopshown, kForce, "kNm"},
+  Item{"MdyBottom", &R::MdyBottomshown, kForce, "kNm"},
   Item{"MdyWork", &R::Mdy, kForce, "kNm"}, Item{"MdzWork", &R::Mdz, kForce, "kNm"},
   Item{"Vdz", &R::Vdzshown, kForce, "kN"}, Item{"Vdy", &R::Vdyshown, kForce, "kN"},
   Item{"VdzWork", &R::Vdz, kForce, "kN"}, Item{"VdyWork", &R::Vdy, kForce, "kN"},
@@ -79,6 +80,7 @@ constexpr const char* kPlateDimensions = "h b1 b2 tw tf1 tf2 ez-el ez-pl S g";
 // clang-format on
 
 Lists ListsOf(int profileType, int britishChannel) {
+  if (FindFamily(profileType) == nullptr) return {"", "", ""};
   switch (profileType) {
     case 5:
       return {"h b tw tf r e es S g", kIProperties, kICapacities};
@@ -187,8 +189,8 @@ std::string ClassText(const ProjectState& st, const SectionRecord& rec) {
     case SectionControlKind::SingleSymmetric:
     case SectionControlKind::Plate:
     case SectionControlKind::None:
-      return std::to_string(int(rec.classTop)) + " (top), " + std::to_string(int(rec.classBottom)) +
-             " (bottom)";
+      return std::to_string(int(rec.classTopshown)) + " (top), " +
+             std::to_string(int(rec.classBottomshown)) + " (bottom)";
     default:
       break;
   }

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "core/project_fields.h"
+#include "sections/profile_table.h"
 #include "sections/section_fields.h"
 
 namespace korvane {
@@ -122,15 +123,34 @@ ordered_json Checks(const CheckResults& c) {
           {"lineSlenderness", Line(c.lineSlenderness)}};
 }
 
+ordered_json VerdictJson(const Design& d) {
+  const Verdict v = VerdictOf(d);
+  ordered_json notes = ordered_json::array();
+  for (const Note& note : v.notes) {
+    const NoteKind& kind = KindOf(note.code);
+    notes.push_back({{"code", kind.word},
+                     {"severity", SeverityWord(kind.severity)},
+                     {"text", NoteText(note, d.lib->catalogues)}});
+  }
+  return {{"standing", StandingWord(v.standing)},
+          {"sls", ServiceabilityWord(v.sls)},
+          {"IR", v.IR},
+          {"governing", GoverningLabel(v)},
+          {"notes", std::move(notes)}};
+}
+
 }  // namespace
 
 std::string DesignJson(const Design& d, const std::optional<std::string>& fault) {
   ordered_json json;
   json["fault"] = fault ? ordered_json(*fault) : ordered_json(nullptr);
+  json["verdict"] = VerdictJson(d);
   ordered_json& state = json["state"];
   ForEachField(d.st, [&](const char* name, const auto& field) { state[name] = Value(field); });
   ordered_json& section = json["section"];
-  ForEachSectionField(d.rec,
+  // Of an unknown family no section was loaded: what the record holds is another one's.
+  const SectionRecord none;
+  ForEachSectionField(FindFamily(d.st.ProfileType) == nullptr ? none : d.rec,
                       [&](const char* name, const auto& field) { section[name] = Value(field); });
   json["analysis"] = Analysis(d);
   json["deflection"] = Deflection(d.deflections);

@@ -91,7 +91,8 @@ int RunReport(const Arguments& a) {
   job.title += " - " + design.st.iproj + " - " + design.st.iident;
   job.attachmentName = fs::path(a.file).filename().string();
   job.attachment = ProjectText(design.st);
-  return Finish(job);
+  if (const int status = Finish(job)) return status;
+  return StatusOf(VerdictOf(design));
 }
 
 /// What can be drawn, and the diagrams behind a word.
