@@ -126,12 +126,11 @@ private:
     Hold("Vy", "Vdy", y.V_pt[i], rec_.Vdy);
     const auto [Mu, Mv] = ToPrincipal(z.M_pt[i], y.M_pt[i], rec_.alfadeg);
     // The heel of an equal angle lies on the axis u and has no capacity about it.
-    const double Mud = rec_.Mud2 == 0 ? std::min<double>(rec_.Mud1, rec_.Mud3)
-                                      : std::min({double(rec_.Mud1), double(rec_.Mud2),
-                                                  double(rec_.Mud3)});
+    const double Mud = rec_.Mud2 == 0
+                           ? std::min<double>(rec_.Mud1, rec_.Mud3)
+                           : std::min({double(rec_.Mud1), double(rec_.Mud2), double(rec_.Mud3)});
     Hold("Mu", "Mud", Mu, Mud);
-    Hold("Mv", "Mvd", Mv,
-         std::min({double(rec_.Mvd1), double(rec_.Mvd2), double(rec_.Mvd3)}));
+    Hold("Mv", "Mvd", Mv, std::min({double(rec_.Mvd1), double(rec_.Mvd2), double(rec_.Mvd3)}));
   }
 
   void Lateral() {

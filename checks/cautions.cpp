@@ -118,9 +118,9 @@ void CFactorsUnused(const Family& family, const Finished& d, NoteList& notes) {
   if (!LateralMomentActs(family, d)) return;
   const char* why = family.sectionControl == SectionControlKind::Plate
                         ? "a plate with stiffener has no C factors"
-                    : st.AnalysisMode != 1  ? "end forces give the factors by segment"
-                    : st.LtbSegments != 0   ? "restraint points give the factors by segment"
-                                            : nullptr;
+                    : st.AnalysisMode != 1 ? "end forces give the factors by segment"
+                    : st.LtbSegments != 0  ? "restraint points give the factors by segment"
+                                           : nullptr;
   if (why != nullptr) {
     notes.Add({NoteCode::CFactorsUnused, {st.C1i, st.C2i, st.C3i, d.ltb.C1, d.ltb.C3}, why});
   }

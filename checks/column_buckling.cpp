@@ -75,8 +75,9 @@ void ClassifyMember(const Family& family, const ProjectState& st, const BeamResu
   family.capacities(st, f, rec);
 }
 
-void MomentFactorsOf(const Family& family, bool ownKlt, const ProjectState& st, const BeamResults& beam,
-                     const SectionForces& f, const SectionRecord& rec, BucklingResults& b) {
+void MomentFactorsOf(const Family& family, bool ownKlt, const ProjectState& st,
+                     const BeamResults& beam, const SectionForces& f, const SectionRecord& rec,
+                     BucklingResults& b) {
   const bool plastic = rec.class_ <= 2 && st.BendingCapacityMode == 0;
   const double Wely = family.buckling == BucklingKind::SingleSymmetric
                           ? std::min<double>(rec.Wely1, rec.Wely2)

@@ -29,10 +29,11 @@ struct History {
   /// The input as the calculation left it that removed something; another input than this one
   /// ends the note.
   std::shared_ptr<const ProjectState> afterRemoval;
-  int ltbOffBy = 0;  ///< family whose calculation switched lateral buckling off; 0: none did
+  int ltbOffBy = 0;   ///< family whose calculation switched lateral buckling off; 0: none did
   Origin b, tf, tf2;  ///< of the record's fields
   Origin klt, curves;
-  std::string stoppedIn;  ///< step of the arithmetic failure; empty when the calculation went through
+  std::string
+      stoppedIn;  ///< step of the arithmetic failure; empty when the calculation went through
 };
 
 }  // namespace korvane

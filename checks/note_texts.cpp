@@ -202,8 +202,8 @@ std::string NoteText(const Note& n, const Catalogues& cat) {
     case C::LengthNotPositive:
       return "The length " + Format(n.v[0], "#0.000") + " m isn't above 0.";
     case C::ForceUnread:
-      return word + " = " + F1(n.v[0]) + " " + n.other + " acts and this family's control doesn't " +
-             "read it.";
+      return word + " = " + F1(n.v[0]) + " " + n.other +
+             " acts and this family's control doesn't " + "read it.";
     case C::RemovedBeyondCapacity:
       return "The loads removed alone give " + Ratio(n.v[0]) +
              " of what the section can carry elastically.";

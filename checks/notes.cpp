@@ -136,9 +136,9 @@ void NoteList::Add(const Note& note) {
     notes_[count_++] = note;
     return;
   }
-  const auto least = std::min_element(
-      notes_.begin(), notes_.end(),
-      [](const Note& a, const Note& b) { return a.Weight() < b.Weight(); });
+  const auto least =
+      std::min_element(notes_.begin(), notes_.end(),
+                       [](const Note& a, const Note& b) { return a.Weight() < b.Weight(); });
   if (least->Weight() < note.Weight()) *least = note;
 }
 

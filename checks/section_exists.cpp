@@ -4,7 +4,6 @@
 #include <array>
 #include <cmath>
 
-
 namespace korvane {
 
 namespace {
@@ -18,10 +17,14 @@ struct Part {
   double (*value)(const State&);
 };
 
-#define KORVANE_TYPED(family, field, words) \
-  Part{family, words, [](const State& s) -> double { return s.field; }}
-#define KORVANE_REST(family, rest, words) \
-  Part{family, words, [](const State& s) -> double { return rest; }}
+#define KORVANE_TYPED(family, field, words)                         \
+  Part {                                                            \
+    family, words, [](const State& s) -> double { return s.field; } \
+  }
+#define KORVANE_REST(family, rest, words)                        \
+  Part {                                                         \
+    family, words, [](const State& s) -> double { return rest; } \
+  }
 
 // clang-format off
 constexpr std::array kTyped{

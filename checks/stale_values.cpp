@@ -14,8 +14,7 @@ namespace korvane {
 namespace {
 
 /// Adds the note where the value in force or the family's own decides the greatest ratio.
-void Report(const Finished& d, double IR, double inForce, double own, Note note,
-            NoteList& notes) {
+void Report(const Finished& d, double IR, double inForce, double own, Note note, NoteList& notes) {
   const double change = std::fabs(own - inForce);
   if (!(change > 0.005 * std::max(own, inForce)) || std::max(own, inForce) < IR) return;
   note.code = own > d.st.iufa ? NoteCode::StaleFieldFails : NoteCode::StaleField;
@@ -60,8 +59,8 @@ void Klt(const Family& family, const Finished& d, double IR, NoteList& notes) {
   SectionRecord rec = d.rec;
   BucklingResults b = d.buckling;
   CheckResults out;
-  BucklingControlWith({d.st.BucklingCurveY, d.st.BucklingCurveZ, true}, family, d.st, d.beam,
-                      d.ltb, f, rec, b, out);
+  BucklingControlWith({d.st.BucklingCurveY, d.st.BucklingCurveZ, true}, family, d.st, d.beam, d.ltb,
+                      f, rec, b, out);
   Note note;
   note.v = {d.buckling.klt, b.klt};
   note.word = "klt";

@@ -47,9 +47,9 @@ bool Printed(const Finished& d, Governing check) {
     case Governing::CombinedY:
       return buckling && (c.textY == T::Combined || c.textZ == T::SingleCombined);
     case Governing::CombinedZ:
-      return buckling && (c.textY == T::CombinedAngle || c.textZ == T::Lateral ||
-                          c.textZ == T::SingleLateral ||
-                          (c.textY == T::Combined && c.textZ == T::None));
+      return buckling &&
+             (c.textY == T::CombinedAngle || c.textZ == T::Lateral || c.textZ == T::SingleLateral ||
+              (c.textY == T::Combined && c.textZ == T::None));
     case Governing::None:
       break;
   }
@@ -58,11 +58,14 @@ bool Printed(const Finished& d, Governing check) {
 
 void FindGoverning(const Finished& d, Verdict& v) {
   const CheckResults& c = d.checks;
-  const std::pair<Governing, double> checks[] = {
-      {Governing::Section, c.IRsection},     {Governing::Vz, c.IRvz},
-      {Governing::Vy, c.IRvy},               {Governing::Lateral, c.IRlateral},
-      {Governing::Ny, c.IRny},               {Governing::Nz, c.IRnz},
-      {Governing::CombinedY, c.IRcombinedY}, {Governing::CombinedZ, c.IRcombinedZ}};
+  const std::pair<Governing, double> checks[] = {{Governing::Section, c.IRsection},
+                                                 {Governing::Vz, c.IRvz},
+                                                 {Governing::Vy, c.IRvy},
+                                                 {Governing::Lateral, c.IRlateral},
+                                                 {Governing::Ny, c.IRny},
+                                                 {Governing::Nz, c.IRnz},
+                                                 {Governing::CombinedY, c.IRcombinedY},
+                                                 {Governing::CombinedZ, c.IRcombinedZ}};
   double most = 0;
   for (const auto& [check, ratio] : checks) {
     const bool better = ratio > most || (ratio == most && ratio > 0 && v.hidden);
@@ -189,8 +192,8 @@ void Voids(const Family& family, const Finished& d, NoteList& notes) {
   }
   if (!(d.st.L > 0)) notes.Add({NoteCode::LengthNotPositive, {d.st.L}});
   if (family.sectionControl == SectionControlKind::None) {
-    notes.Add({NoteCode::NoControl, {d.beam.z.M_max, d.beam.z.M_min, d.rec.MdyTop,
-                                     d.rec.MdyBottom}});
+    notes.Add(
+        {NoteCode::NoControl, {d.beam.z.M_max, d.beam.z.M_min, d.rec.MdyTop, d.rec.MdyBottom}});
   }
 }
 
@@ -274,10 +277,10 @@ std::string GoverningLabel(const Verdict& v) {
     case Governing::CombinedY:
       return v.buckling == BucklingKind::SingleSymmetric ? "buckling N+My" : "buckling N+My+Mz";
     case Governing::CombinedZ:
-      return angle                                              ? "buckling N+Mu+Mv"
-             : v.buckling == BucklingKind::Tube                 ? "buckling N+My+Mz"
-             : v.buckling == BucklingKind::SingleSymmetric      ? "lateral and buckling N+My"
-                                                                : "lateral and buckling N+My+Mz";
+      return angle                                         ? "buckling N+Mu+Mv"
+             : v.buckling == BucklingKind::Tube            ? "buckling N+My+Mz"
+             : v.buckling == BucklingKind::SingleSymmetric ? "lateral and buckling N+My"
+                                                           : "lateral and buckling N+My+Mz";
     case Governing::None:
       break;
   }

@@ -30,10 +30,10 @@ struct Verdict {
   double IR = 0;     ///< greatest ratio of all checks, printed or not
   double limit = 0;  ///< iufa
   Governing governing = Governing::None;
-  Term term = Term::None;               ///< of Governing::Section
+  Term term = Term::None;                      ///< of Governing::Section
   BucklingKind buckling = BucklingKind::None;  ///< the family's, for the label
-  bool hidden = false;                  ///< no printed line shows the greatest ratio
-  NoteList notes;                       ///< most severe first
+  bool hidden = false;                         ///< no printed line shows the greatest ratio
+  NoteList notes;                              ///< most severe first
 
   bool Passes() const { return standing == Standing::Passes; }
 };

@@ -49,8 +49,8 @@ Removal RemovalOf(const ProjectState& st) {
   if (family == nullptr) return Removal::Nothing;
   const bool loads = st.AnalysisMode == 1;
   if (family->sectionControl == SectionControlKind::T) {
-    const bool ends = AnyEnd(st.My_end) || AnyEnd(st.Mz_end) || AnyEnd(st.Vy_end) ||
-                      AnyEnd(st.Vz_end);
+    const bool ends =
+        AnyEnd(st.My_end) || AnyEnd(st.Mz_end) || AnyEnd(st.Vy_end) || AnyEnd(st.Vz_end);
     const bool any = AnyLineLoad(st, false) || AnyTrapezoid(st, 3, false) ||
                      AnyPointItem(st, false) || st.SelfWeight != 0;
     return (loads ? any : ends) ? Removal::Transverse : Removal::Nothing;

@@ -213,8 +213,8 @@ enum class Strip { Settled, Whole };
 BentSection TipCompressed(const ProjectState& st, const SectionRecord& rec, Strip strip) {
   const double z = rec.h - rec.ezel;
   const double psi = -(rec.hw - z) / z;
-  const double rho = EffectiveWidth(rec.d / rec.tw, st.epsilon, OutstandFactor(psi),
-                                    st.IgnoreWebBuckling == 1);
+  const double rho =
+      EffectiveWidth(rec.d / rec.tw, st.epsilon, OutstandFactor(psi), st.IgnoreWebBuckling == 1);
   const double w = (1 - rho) * z;
   const double A2 = rec.A - rec.tw * w;
   const double e = (z * rec.A - rec.tw * w * w / 2) / A2;
@@ -253,8 +253,8 @@ double FlatTipCapacity(const ProjectState& st, const SectionRecord& rec) {
 int FlatClassByCompression(const ProjectState& st, const SectionForces& f,
                            const SectionRecord& rec) {
   const auto [plate, tip] = StressesOfFlat(f, rec);
-  const int flat = TipClass(rec.d / rec.tw, tip / (tip - plate), OutstandFactor(plate / tip),
-                            st.epsilon);
+  const int flat =
+      TipClass(rec.d / rec.tw, tip / (tip - plate), OutstandFactor(plate / tip), st.epsilon);
   return GoverningClass(st, flat, 1);
 }
 

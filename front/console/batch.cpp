@@ -75,8 +75,8 @@ std::vector<Chunk> Chunks(std::size_t files, int threads) {
 std::string Totals(const BatchCounts& counts) {
   return std::to_string(counts.All()) + " projects: " + std::to_string(counts.pass) + " pass, " +
          std::to_string(counts.fail) + " fail, " + std::to_string(counts.notChecked) +
-         " not checked, " + std::to_string(counts.fault) +
-         " arithmetic failures, " + std::to_string(counts.unread) + " unreadable\n";
+         " not checked, " + std::to_string(counts.fault) + " arithmetic failures, " +
+         std::to_string(counts.unread) + " unreadable\n";
 }
 
 }  // namespace

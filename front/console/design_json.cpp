@@ -149,13 +149,13 @@ std::string DesignJson(const Design& d, const std::optional<std::string>& fault)
   ForEachField(d.st, [&](const char* name, const auto& field) { state[name] = Value(field); });
   ordered_json& section = json["section"];
   // Of an unknown family no section was loaded: what the record holds is another one's.
-  const SectionRecord none;
-  ForEachSectionField(FindFamily(d.st.ProfileType) == nullptr ? none : d.rec,
+  const bool known = FindFamily(d.st.ProfileType) != nullptr;
+  ForEachSectionField(known ? d.rec : SectionRecord{},
                       [&](const char* name, const auto& field) { section[name] = Value(field); });
   json["analysis"] = Analysis(d);
-  json["deflection"] = Deflection(d.deflections);
-  json["modal"] = {{"ModalMass", Value(d.modal.ModalMass)},
-                   {"ModalFreq", Value(d.modal.ModalFreq)}};
+  json["deflection"] = Deflection(known ? d.deflections : Deflections{});
+  const ModalResults modal = known ? d.modal : ModalResults{};
+  json["modal"] = {{"ModalMass", Value(modal.ModalMass)}, {"ModalFreq", Value(modal.ModalFreq)}};
   json["ltb"] = Ltb(d);
   json["buckling"] = Buckling(d.buckling);
   json["checks"] = Checks(d.checks);

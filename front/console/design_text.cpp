@@ -173,7 +173,8 @@ std::string DesignText(const Design& d, bool colour) {
     AddView(out, BucklingLong(d.st, d.checks, d.buckling, tooLong), colour);
   }
   out += "\n";
-  if (d.st.AnalysisMode == 1) {
+  // Of an unknown family no section bends.
+  if (d.st.AnalysisMode == 1 && FindFamily(d.st.ProfileType) != nullptr) {
     AddDeflection(out, d, "z", d.deflections.DeflZ_max, d.deflections.DeflZ_min);
     AddDeflection(out, d, "y", d.deflections.DeflY_max, d.deflections.DeflY_min);
   }
