@@ -29,7 +29,7 @@ std::string PutColumn(const TempFolder& folder, const std::function<void(Project
   EXPECT_EQ(OpenProject(kColumn, st), FileResult::Ok);
   change(st);
   std::string path = folder / "member.kvn";
-  EXPECT_EQ(SaveProject(path, st), FileResult::Ok);
+  EXPECT_TRUE(SaveProject(path, st));
   return path;
 }
 
