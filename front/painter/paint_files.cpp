@@ -7,6 +7,7 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
+#include <array>
 #include <memory>
 
 #include "front/painter/painter_target.h"
@@ -15,18 +16,23 @@ namespace korvane {
 
 namespace {
 
-/// Fonts need an application; a program without one gets its own, on no display.
-std::unique_ptr<QGuiApplication> ApplicationWhereNone() {
-  if (QCoreApplication::instance() != nullptr) return nullptr;
-  // Remarks about the session's folders are none of a console program's business.
-  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-  static int argc = 3;
-  static char name[] = "korvane";
-  static char option[] = "-platform";
-  static char platform[] = "offscreen";
-  static char* argv[] = {name, option, platform, nullptr};
-  return std::make_unique<QGuiApplication>(argc, argv);
-}
+/// Fonts need an application; a program without one gets its own, on no display. Qt takes its
+/// words out of the arguments, so that each application needs its own.
+class ApplicationWhereNone {
+public:
+  ApplicationWhereNone() {
+    if (QCoreApplication::instance() != nullptr) return;
+    // Remarks about the session's folders are none of a console program's business.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    application_ = std::make_unique<QGuiApplication>(count_, words_.data());
+  }
+
+private:
+  std::string name_ = "korvane", option_ = "-platform", platform_ = "offscreen";
+  std::array<char*, 4> words_{name_.data(), option_.data(), platform_.data(), nullptr};
+  int count_ = 3;
+  std::unique_ptr<QGuiApplication> application_;
+};
 
 void DrawPage(QPainter& painter, const PaintJob& job, std::size_t page, const QRectF& device) {
   PainterTarget target(painter, job.width, job.height, device, Palette::Light());
@@ -71,7 +77,7 @@ std::string PaintPng(const PaintJob& job, QIODevice& bytes) {
 }  // namespace
 
 std::string PaintIntoMemory(const PaintJob& job, std::string& bytes) {
-  const auto application = ApplicationWhereNone();
+  const ApplicationWhereNone application;
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   const std::string error =

@@ -165,7 +165,8 @@ TEST(Program, WritesANewProjectThatDesignsCleanly) {
   EXPECT_TRUE(json::parse(run.output).at("fault").is_null());
   const ProgramRun refused = RunProgram({"new", "-o", "/no/such/folder/fresh.kvn"});
   EXPECT_EQ(refused.status, 2);
-  EXPECT_EQ(refused.errors, "can't save file - /no/such/folder/fresh.kvn\n");
+  EXPECT_EQ(refused.errors,
+            "can't save file - /no/such/folder/fresh.kvn\nThe folder doesn't exist.\n");
 }
 
 TEST(Program, SaysWhenItsOutputFindsAFullDisk) {

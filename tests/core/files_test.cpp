@@ -347,6 +347,7 @@ TEST(WriteFile, LeavesTheOldFileWhereTheUserMayNotWrite) {
   const TempFolder folder;
   fs::create_directory(folder / "locked");
   PutFile(folder / "locked/file", "old");
+  ASSERT_EQ(::chmod((folder / "locked/file").c_str(), 0666), 0);
   PutFile(folder / "protected", "old");
   ASSERT_EQ(::chmod((folder / "locked").c_str(), 0555), 0);
   ASSERT_EQ(::chmod((folder / "protected").c_str(), 0444), 0);
