@@ -18,7 +18,8 @@ const Curve& CurveOf(int index) {
   return kCurves[index >= 0 && index < 4 ? static_cast<std::size_t>(index) : 4];
 }
 
-enum : int { a0, a, b, c, d };
+/// Numbers of the curves.
+enum : int { kA0, kA, kB, kC, kD };
 
 }  // namespace
 
@@ -27,7 +28,7 @@ double ImperfectionFactor(int curve) {
 }
 
 double AngleImperfectionFactor(int curve) {
-  return curve >= 0 && curve <= 2 ? CurveOf(curve + 1).alfa : CurveOf(d).alfa;
+  return curve >= 0 && curve <= 2 ? CurveOf(curve + 1).alfa : CurveOf(kD).alfa;
 }
 
 const char* CurveLetter(int curve) {
@@ -35,7 +36,7 @@ const char* CurveLetter(int curve) {
 }
 
 const char* AngleCurveLetter(int curve) {
-  return curve >= 0 && curve <= 2 ? CurveOf(curve + 1).letter : CurveOf(d).letter;
+  return curve >= 0 && curve <= 2 ? CurveOf(curve + 1).letter : CurveOf(kD).letter;
 }
 
 double LengthFactorOfCase(int bucklingCase) {
@@ -55,65 +56,39 @@ double LengthFactorOfCase(int bucklingCase) {
   }
 }
 
-std::optional<CurvePair> AutomaticCurves(int profileType, const SectionRecord& rec,
-                                         const ProjectState& st) {
+std::optional<CurvePair> CurvesOf(CurveRule rule, const SectionRecord& rec,
+                                  const ProjectState& st) {
   using Pair = CurvePair;
-  switch (profileType) {
-    case 1:
-    case 2:
-    case 3:
-    case 4:
-    case 15: {
+  switch (rule) {
+    case CurveRule::RolledI: {
       // Compared in single precision.
       const bool deep = float32(1.2 * rec.b) < rec.h;
-      if (st.fyk > 440) return deep ? Pair{a0, a0} : Pair{a, a};
-      return deep ? Pair{a, b} : Pair{b, c};
+      if (st.fyk > 440) return deep ? Pair{kA0, kA0} : Pair{kA, kA};
+      return deep ? Pair{kA, kB} : Pair{kB, kC};
     }
-    case 5:
-    case 16:
-    case 10:
-    case 11:
-    case 26:
-    case 28:
-      return Pair{c, c};
-    case 6:
-    case 7:
-      return Pair{a, a};
-    case 8:
-    case 9:
-      return Pair{b, b};
-    case 21:
-    case 22:
-      return rec.tmax <= 40 ? Pair{b, c} : Pair{c, d};
-    case 23: {
+    case CurveRule::WeldedI:
+      return rec.tmax <= 40 ? Pair{kB, kC} : Pair{kC, kD};
+    case CurveRule::WeldedBox: {
       // The stockier plates of a hot welded box take the weaker curve.
       const bool stocky = rec.b / rec.tf < 30 && rec.h / rec.tw < 30;
-      return st.BoxWeld == 0 && stocky ? Pair{c, c} : Pair{b, b};
+      return st.BoxWeld == 0 && stocky ? Pair{kC, kC} : Pair{kB, kB};
     }
-    case 31:
-      return st.TubeKind != 0 ? Pair{a, a} : Pair{b, b};
-    default:
-      return std::nullopt;
+    case CurveRule::Tube:
+      return st.TubeKind != 0 ? Pair{kA, kA} : Pair{kB, kB};
+    case CurveRule::A:
+      return Pair{kA, kA};
+    case CurveRule::B:
+      return Pair{kB, kB};
+    case CurveRule::C:
+      return Pair{kC, kC};
+    case CurveRule::Kept:
+      break;
   }
+  return std::nullopt;
 }
 
-std::optional<CurvePair> CurvesOfLikeSections(int profileType, const SectionRecord& rec,
-                                              const ProjectState& st) {
-  switch (profileType) {
-    case 101:
-    case 102:
-      return AutomaticCurves(1, rec, st);
-    case 103:
-      return AutomaticCurves(5, rec, st);
-    case 41:
-      return CurvePair{c, c};  // a section of any shape
-    default:
-      return std::nullopt;
-  }
-}
-
-void ChooseBucklingCurves(const SectionRecord& rec, ProjectState& st) {
-  if (const auto curves = AutomaticCurves(st.ProfileType, rec, st)) {
+void ChooseBucklingCurves(CurveRule rule, const SectionRecord& rec, ProjectState& st) {
+  if (const auto curves = CurvesOf(rule, rec, st)) {
     st.BucklingCurveY = curves->y;
     st.BucklingCurveZ = curves->z;
   }

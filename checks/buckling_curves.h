@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "core/project_state.h"
-#include "sections/section_record.h"
+#include "sections/profile_table.h"
 
 namespace korvane {
 
@@ -30,19 +30,12 @@ struct CurvePair {
   int y, z;
 };
 
-/// The curves that a family's row chooses by proportions (mm) and fyk (MPa); none for a family
-/// without a row.
-std::optional<CurvePair> AutomaticCurves(int profileType, const SectionRecord& rec,
-                                         const ProjectState& st);
+/// The curves that a rule chooses by proportions (mm) and fyk (MPa); none for CurveRule::Kept.
+/// Table 11.
+std::optional<CurvePair> CurvesOf(CurveRule rule, const SectionRecord& rec, const ProjectState& st);
 
-/// For a family without a row of its own but with a buckling control: the curves that the row of
-/// like sections would choose (British sections those of the European shapes, the general profile
-/// curve c).
-std::optional<CurvePair> CurvesOfLikeSections(int profileType, const SectionRecord& rec,
-                                              const ProjectState& st);
-
-/// Sets BucklingCurveY and BucklingCurveZ by family, proportions (mm) and fyk (MPa); families
-/// without a rule keep theirs.
-void ChooseBucklingCurves(const SectionRecord& rec, ProjectState& st);
+/// Sets BucklingCurveY and BucklingCurveZ by the family's rule, the proportions (mm) and fyk (MPa);
+/// a family without a rule keeps those in force. Table 11.
+void ChooseBucklingCurves(CurveRule rule, const SectionRecord& rec, ProjectState& st);
 
 }  // namespace korvane

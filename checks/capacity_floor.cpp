@@ -7,7 +7,6 @@
 
 #include "checks/section_control.h"
 #include "sections/elements.h"
-#include "sections/p31bas.h"
 
 namespace korvane {
 
@@ -18,16 +17,17 @@ public:
   Walk(const Family& family, const Finished& d)
       : family_(family), d_(d), f_(d.forces), rec_(d.rec) {
     // The class of the general profile is typed; the buckling control overwrites it.
-    if (family.sectionClass == GeneralClass) rec_.class_ = d.st.p41_option;
+    if (family.givenConstants) rec_.class_ = d.st.p41_option;
   }
 
   CapacityFloor Run() {
     Axial();
-    switch (family_.sectionControl) {
+    switch (family_.routines.sectionControl) {
       case SectionControlKind::None:
       case SectionControlKind::T:
         break;
-      case SectionControlKind::Angle:
+      case SectionControlKind::EqualAngle:
+      case SectionControlKind::UnequalAngle:
         ForEachPoint([this](int i) { Angle(i); });
         break;
       case SectionControlKind::SingleSymmetric:
@@ -68,7 +68,7 @@ private:
 
   void Axial() {
     const double N = f_.N;
-    if (N == 0 || family_.sectionControl == SectionControlKind::None) return;
+    if (N == 0 || family_.routines.sectionControl == SectionControlKind::None) return;
     x_ = d_.beam.pt_x[0];
     Hold("N", N > 0 ? "Ncd" : "Ntd", N, N > 0 ? rec_.Ncrd : rec_.Ntd);
     if (N > 0 && d_.checks.bucklingRan) Hold("N", "Xmin*Ncd", N, d_.buckling.NXmin);
@@ -76,8 +76,8 @@ private:
 
   void Classify() {
     f_.Ncl = f_.N;
-    family_.sectionClass(d_.st, f_, rec_);
-    family_.capacities(d_.st, f_, rec_);
+    family_.routines.sectionClass(d_.st, f_, rec_);
+    family_.routines.capacities(d_.st, f_, rec_);
   }
 
   void BothAxes(int i) {
@@ -103,7 +103,7 @@ private:
 
   /// A tube's capacity that shear takes wholly away is set to 1 to keep its ratio finite.
   double Sheared(double Mvd, double V, double Vd) const {
-    const bool gone = family_.sectionControl == SectionControlKind::Tube && V > 0.5 * Vd &&
+    const bool gone = family_.routines.sectionControl == SectionControlKind::Tube && V > 0.5 * Vd &&
                       ShearShare(V, Vd) >= 1;
     return gone ? 0 : Mvd;
   }
@@ -134,8 +134,10 @@ private:
   }
 
   void Lateral() {
-    const bool plate = family_.sectionControl == SectionControlKind::Plate;
-    if (!family_.lateral || d_.st.LateralTorsionalBuckling != 1 || d_.beam.MyAbsMax == 0) return;
+    const bool plate = family_.routines.sectionControl == SectionControlKind::Plate;
+    if (family_.lateral.method == LateralMethod::None || d_.st.LateralTorsionalBuckling != 1 ||
+        d_.beam.MyAbsMax == 0)
+      return;
     if (plate && !(d_.beam.My_gov < 0)) return;
     x_ = 0;
     Hold("My", "Mdb", d_.beam.My_gov, d_.ltb.Mdb);

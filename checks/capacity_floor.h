@@ -4,6 +4,7 @@
 #pragma once
 
 #include "checks/verdict.h"
+#include "sections/profile_table.h"
 
 namespace korvane {
 

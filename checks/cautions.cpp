@@ -9,7 +9,6 @@
 #include "sections/elements.h"
 #include "sections/p05bas.h"
 #include "sections/p22bas.h"
-#include "sections/p31bas.h"
 #include "sections/p51bas.h"
 
 namespace korvane {
@@ -24,15 +23,15 @@ double AxialShare(const Finished& d) {
 
 /// Hogging: the web's or flat's class by the side that is compressed.
 void ClassByTensionSide(const Family& family, const Finished& d, double IR, NoteList& notes) {
-  const bool flat = family.sectionClass == FlatStiffenerClass;
-  if (!flat && family.sectionClass != SingleClass) return;
+  const bool flat = family.routines.sectionClass == FlatStiffenerClass;
+  if (!flat && family.routines.sectionClass != SingleClass) return;
   const double M = d.beam.z.M_min;
   if (!(M < 0)) return;
   SectionForces f = d.forces;
   SectionRecord rec = d.rec;
   f.My = M;
   f.Ncl = f.N;
-  family.sectionClass(d.st, f, rec);
+  family.routines.sectionClass(d.st, f, rec);
   const int used = rec.classBottom;
   const int compressed =
       flat ? FlatClassByCompression(d.st, f, rec) : BottomClassByCompression(d.st, f, rec);
@@ -49,13 +48,13 @@ void ClassByTensionSide(const Family& family, const Finished& d, double IR, Note
 }
 
 void StripOfFlat(const Family& family, const Finished& d, double IR, NoteList& notes) {
-  if (family.sectionClass != FlatStiffenerClass) return;
+  if (family.routines.sectionClass != FlatStiffenerClass) return;
   const double M = d.beam.z.M_min;
   if (!(M < 0)) return;
   SectionForces f = d.forces;
   SectionRecord rec = d.rec;
   f.My = M;
-  family.sectionClass(d.st, f, rec);
+  family.routines.sectionClass(d.st, f, rec);
   if (rec.classBottom != 4) return;
   SideCapacities(d.st, 1, rec);
   const double whole = FlatTipCapacity(d.st, rec);
@@ -97,14 +96,15 @@ double StiffenerIz(const SectionRecord& rec) {
 }
 
 void TrippingWithPlate(const Family& family, const Finished& d, double IR, NoteList& notes) {
-  const bool plate = family.sectionControl == SectionControlKind::Plate;
-  if (!plate || family.sectionClass == FlatStiffenerClass) return;
+  const bool plate = family.routines.sectionControl == SectionControlKind::Plate;
+  if (!plate || family.routines.sectionClass == FlatStiffenerClass) return;
   if (d.st.LateralTorsionalBuckling != 1 || !(d.beam.My_gov < 0) || d.ltb.Mdb == 0) return;
   SectionRecord rec = d.rec;
   const double Lmm = d.ltb.Lk * 1000;
-  const double used = PlateReduction(d.st, rec, Lmm).chiLT;
+  const LateralMethod method = family.lateral.method;
+  const double used = PlateReduction(method, d.st, rec, Lmm).chiLT;
   rec.Iz = StiffenerIz(rec);
-  const double own = PlateReduction(d.st, rec, Lmm).chiLT;
+  const double own = PlateReduction(method, d.st, rec, Lmm).chiLT;
   if (!(own > 0) || !(own < used)) return;
   const double ratio = std::fabs(d.beam.My_gov / d.ltb.Mdb) * used / own;
   if (ratio > IR * kMatters) {
@@ -116,7 +116,7 @@ void CFactorsUnused(const Family& family, const Finished& d, NoteList& notes) {
   const ProjectState& st = d.st;
   if (st.CFactorManual != 1 || st.LateralTorsionalBuckling != 1) return;
   if (!LateralMomentActs(family, d)) return;
-  const char* why = family.sectionControl == SectionControlKind::Plate
+  const char* why = family.routines.sectionControl == SectionControlKind::Plate
                         ? "a plate with stiffener has no C factors"
                     : st.AnalysisMode != 1 ? "end forces give the factors by segment"
                     : st.LtbSegments != 0  ? "restraint points give the factors by segment"
@@ -127,13 +127,13 @@ void CFactorsUnused(const Family& family, const Finished& d, NoteList& notes) {
 }
 
 bool IsChannel(const Family& family) {
-  return family.sectionClass == ChannelClass;
+  return family.routines.sectionClass == ChannelClass;
 }
 
 /// The interaction with exponents on a channel or a typed section of unknown shape.
 void ExponentMode(const Family& family, const Finished& d, NoteList& notes) {
   if (d.st.SectionControlMode == 0 || d.checks.ClassGoverning > 2) return;
-  const bool general = family.sectionClass == GeneralClass;
+  const bool general = family.givenConstants;
   if (!general && !IsChannel(family)) return;
   const int acting = (d.forces.N != 0) + (d.beam.MyAbsMax != 0) + (d.beam.MzAbsMax != 0);
   if (acting < 2) return;
@@ -157,30 +157,30 @@ void BucklingIgnored(const Family& family, const Finished& d, NoteList& notes) {
     notes.Add({NoteCode::BucklingIgnored, {double(with), double(without)}, which});
     return true;
   };
-  if (family.sectionClass != nullptr) {
-    const bool sides = family.sectionControl == SectionControlKind::SingleSymmetric ||
-                       family.sectionControl == SectionControlKind::Plate;
+  if (family.routines.sectionClass != nullptr) {
+    const bool sides = family.routines.sectionControl == SectionControlKind::SingleSymmetric ||
+                       family.routines.sectionControl == SectionControlKind::Plate;
     f.Ncl = f.N;
     for (const double My : {double(d.beam.z.M_max), double(d.beam.z.M_min)}) {
       if (!sides || My == 0) continue;
       f.My = My;
-      family.sectionClass(st, f, rec);
+      family.routines.sectionClass(st, f, rec);
       const int with = My > 0 ? rec.classTop : rec.classBottom;
-      family.sectionClass(counted, f, rec);
+      family.routines.sectionClass(counted, f, rec);
       if (differs(with, My > 0 ? rec.classTop : rec.classBottom)) return;
     }
     if (!sides && d.checks.section.term != Term::None) {
       f.My = d.checks.section.My;
       f.Mz = d.checks.section.Mz;
-      family.sectionClass(st, f, rec);
+      family.routines.sectionClass(st, f, rec);
       const int with = rec.class_;
-      family.sectionClass(counted, f, rec);
+      family.routines.sectionClass(counted, f, rec);
       if (differs(with, rec.class_)) return;
     }
   }
   if (!(d.forces.N > 0)) return;
   rec = d.rec;
-  family.effective(counted, rec);
+  family.routines.effective(counted, rec);
   if (rec.Aeff < d.rec.Aeff * 0.999) {
     notes.Add({NoteCode::BucklingIgnored, {0, 0, d.rec.Aeff, rec.Aeff}, which});
   }
@@ -198,8 +198,8 @@ void NegativeMomentFactors(const Finished& d, NoteList& notes) {
 }  // namespace
 
 bool LateralMomentActs(const Family& family, const Finished& d) {
-  if (!family.lateral || d.beam.MyAbsMax == 0) return false;
-  return family.sectionControl != SectionControlKind::Plate || d.beam.My_gov < 0;
+  if (family.lateral.method == LateralMethod::None || d.beam.MyAbsMax == 0) return false;
+  return family.routines.sectionControl != SectionControlKind::Plate || d.beam.My_gov < 0;
 }
 
 void AddSectionCautions(const Family& family, const Finished& d, double IR, NoteList& notes) {

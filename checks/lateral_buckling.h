@@ -27,7 +27,8 @@ SegmentFactors FactorsOfSegment(double r, double k);
 struct PlateReduced {
   double lamLT, chiLT;
 };
-PlateReduced PlateReduction(const ProjectState& st, const SectionRecord& rec, double Lmm);
+PlateReduced PlateReduction(LateralMethod method, const ProjectState& st, const SectionRecord& rec,
+                            double Lmm);
 
 /// C1, C2, C3 of one shape of the moment diagram.
 struct CFactors {

@@ -41,8 +41,7 @@ std::string OriginText(const Origin& o, const Catalogues& cat) {
   if (family == nullptr) return "the project file or the start";
   ProjectState st;
   st.ProfileType = o.family;
-  st.p101_sub = o.series;
-  st.p103_sub = o.series;
+  if (family->sub != nullptr) st.*family->sub = o.series;
   const SizeList sizes = SizesOf(st);
   if (!sizes.hasCatalogue || o.row < 0 || o.row >= ListLength(sizes.catalogue)) {
     return Caption(*family);

@@ -140,9 +140,8 @@ WrongInput FirstWrong(const Parts& parts, const State& st, int family, double le
 
 }  // namespace
 
-bool UnknownSeries(const ProjectState& st) {
-  if (st.ProfileType == 101) return st.p101_sub < 1 || st.p101_sub > 3;
-  return st.ProfileType == 103 && st.p103_sub != 1 && st.p103_sub != 2;
+bool UnknownSeries(const Family& family, const ProjectState& st) {
+  return family.sub != nullptr && CatalogueOfSub(family, st.*family.sub) == nullptr;
 }
 
 WrongInput ImpossiblePart(const ProjectState& st, const SectionRecord& rec) {

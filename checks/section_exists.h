@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/project_state.h"
-#include "sections/section_record.h"
+#include "sections/profile_table.h"
 
 namespace korvane {
 
@@ -22,6 +22,6 @@ WrongInput ImpossiblePart(const ProjectState& st, const SectionRecord& rec);
 WrongInput InputOfFailure(const ProjectState& st);
 
 /// The series of a British section is none of the program's, so that no section is loaded.
-bool UnknownSeries(const ProjectState& st);
+bool UnknownSeries(const Family& family, const ProjectState& st);
 
 }  // namespace korvane

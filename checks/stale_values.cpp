@@ -41,7 +41,7 @@ double BucklingInForce(const CheckResults& c) {
 void Curves(const Family& family, const Finished& d, double IR, NoteList& notes) {
   const ProjectState& st = d.st;
   if (!d.checks.bucklingRan || st.ManualBucklingCurves != 0) return;
-  const auto own = CurvesOfLikeSections(st.ProfileType, d.rec, st);
+  const auto own = CurvesOf(family.likeCurves, d.rec, st);
   if (!own || (own->y == st.BucklingCurveY && own->z == st.BucklingCurveZ)) return;
   const double ratio = BucklingRatio(family, d, {own->y, own->z, false});
   Note note;
@@ -53,7 +53,7 @@ void Curves(const Family& family, const Finished& d, double IR, NoteList& notes)
 }
 
 void Klt(const Family& family, const Finished& d, double IR, NoteList& notes) {
-  if (family.buckling != BucklingKind::SingleSymmetric || !d.checks.bucklingRan) return;
+  if (family.routines.buckling != BucklingKind::SingleSymmetric || !d.checks.bucklingRan) return;
   if (d.beam.MyAbsMax == 0) return;
   SectionForces f = d.forces;
   SectionRecord rec = d.rec;
@@ -71,7 +71,7 @@ void Klt(const Family& family, const Finished& d, double IR, NoteList& notes) {
 /// A flat bar has no flanges; the rectangle's own interaction is M*(1 - n^2), and shear takes
 /// from it what shear takes.
 void Flanges(const Family& family, const Finished& d, double IR, NoteList& notes) {
-  if (family.sectionControl != SectionControlKind::FlatBar) return;
+  if (family.routines.sectionControl != SectionControlKind::FlatBar) return;
   const bool exact = d.st.SectionControlMode != 0;
   const double N = d.forces.N;
   SectionForces f = d.forces;
@@ -85,7 +85,7 @@ void Flanges(const Family& family, const Finished& d, double IR, NoteList& notes
     f.Vy = std::fabs(d.beam.y.V_pt[i]);
     const bool sheared = f.Mz != 0 && f.Vy > 0.5 * rec.Vdy;
     if (!sheared && !(exact && N != 0 && (f.My != 0 || f.Mz != 0))) continue;
-    family.capacities(d.st, f, rec);
+    family.routines.capacities(d.st, f, rec);
     const double n = N == 0 ? 0 : std::fabs(N / (N > 0 ? rec.Ncrd : rec.Ntd));
     const double Mvdz = sheared ? rec.Mdz * (1 - ShearShare(f.Vy, rec.Vdy)) : double(rec.Mvdz);
     const double left = exact ? 1 - n * n : 1;
@@ -106,14 +106,14 @@ void Flanges(const Family& family, const Finished& d, double IR, NoteList& notes
 
 /// The thickness that chooses the yield stress of a T may be another section's.
 void ThicknessOfT(const Family& family, const Finished& d, double IR, NoteList& notes) {
-  if (family.sectionControl != SectionControlKind::T) return;
+  if (family.routines.sectionControl != SectionControlKind::T) return;
   const double own = std::max<double>(d.rec.tf, d.rec.tw);
   if ((d.rec.tmax > 40) == (own > 40)) return;
   ProjectState st = d.st;
   SectionRecord rec = d.rec;
   SetMaterial(d.materials, own, st);
   if (st.fyk == d.st.fyk) return;
-  family.effective(st, rec);
+  family.routines.effective(st, rec);
   const double N = std::fabs(d.forces.N);
   double ratio = N / (d.forces.N > 0 ? rec.Ncrd : rec.Ntd);
   if (d.checks.bucklingRan) {

@@ -87,7 +87,8 @@ void Slenderness(const Finished& d, NoteList& notes) {
       notes.Add({NoteCode::SlendernessExceeded, {slenderness, d.st.islend_limit}, axis});
     }
   };
-  const bool angle = d.rec.Iu > 0 && FindFamily(d.st.ProfileType)->buckling == BucklingKind::Angle;
+  const bool angle =
+      d.rec.Iu > 0 && FindFamily(d.st.ProfileType)->routines.buckling == BucklingKind::Angle;
   look(angle ? "u" : "y", d.st.bly, d.buckling.LyOverI);
   look(angle ? "v" : "z", d.st.blz, d.buckling.LzOverI);
 }
@@ -111,13 +112,13 @@ void UnreadForces(const Family& family, const Finished& d, NoteList& notes) {
   const auto unread = [&](const char* force, double size, const char* unit) {
     if (size != 0) notes.Add({NoteCode::ForceUnread, {size}, force, unit});
   };
-  const SectionControlKind kind = family.sectionControl;
+  const SectionControlKind kind = family.routines.sectionControl;
   if (kind == SectionControlKind::SingleSymmetric || kind == SectionControlKind::Plate) {
     unread("Mz", d.beam.MzAbsMax, "kNm");
     unread("Vy", Size(d.beam.y.V_max, d.beam.y.V_min), "kN");
   }
   // End forces keep the axial force in the input, and the checks of these sections drop it.
-  if (IsPlateType(d.st.ProfileType) && d.st.AnalysisMode != 1) unread("N", d.st.Ne, "kN");
+  if (family.clearsN && d.st.AnalysisMode != 1) unread("N", d.st.Ne, "kN");
 }
 
 /// The elastic ratio of one force on the section as it stands, without any check of stability.
@@ -180,9 +181,8 @@ void Deflection(const Finished& d, Verdict& v) {
 
 /// What makes the figures void, whatever they are.
 void Voids(const Family& family, const Finished& d, NoteList& notes) {
-  if (UnknownSeries(d.st)) {
-    notes.Add({NoteCode::UnknownSeries,
-               {double(d.st.ProfileType == 101 ? d.st.p101_sub : d.st.p103_sub)}});
+  if (UnknownSeries(family, d.st)) {
+    notes.Add({NoteCode::UnknownSeries, {double(d.st.*family.sub)}});
   }
   if (const WrongInput w = ImpossiblePart(d.st, d.rec); w.Set()) {
     notes.Add({NoteCode::SectionImpossible, {w.value}, w.words});
@@ -191,7 +191,7 @@ void Voids(const Family& family, const Finished& d, NoteList& notes) {
     notes.Add({NoteCode::UnknownSupport, {double(d.st.SupportType)}});
   }
   if (!(d.st.L > 0)) notes.Add({NoteCode::LengthNotPositive, {d.st.L}});
-  if (family.sectionControl == SectionControlKind::None) {
+  if (family.routines.sectionControl == SectionControlKind::None) {
     notes.Add(
         {NoteCode::NoControl, {d.beam.z.M_max, d.beam.z.M_min, d.rec.MdyTop, d.rec.MdyBottom}});
   }
@@ -209,7 +209,7 @@ Standing StandingOf(const NoteList& notes) {
 }
 
 void JudgeFinished(const Family& family, const Finished& d, Verdict& v) {
-  v.buckling = family.buckling;
+  v.buckling = family.routines.buckling;
   NoteList& notes = v.notes;
   Guarded([&] { FindGoverning(d, v); });
   Voids(family, d, notes);

@@ -12,9 +12,11 @@
 #include "checks/history.h"
 #include "checks/notes.h"
 #include "core/setupbas.h"
-#include "sections/profile_table.h"
+#include "sections/section_record.h"
 
 namespace korvane {
+
+enum class BucklingKind;
 
 /// Standing of the ultimate limit state.
 enum class Standing { Passes, Fails, NotChecked, Stopped };
@@ -30,10 +32,10 @@ struct Verdict {
   double IR = 0;     ///< greatest ratio of all checks, printed or not
   double limit = 0;  ///< iufa
   Governing governing = Governing::None;
-  Term term = Term::None;                      ///< of Governing::Section
-  BucklingKind buckling = BucklingKind::None;  ///< the family's, for the label
-  bool hidden = false;                         ///< no printed line shows the greatest ratio
-  NoteList notes;                              ///< most severe first
+  Term term = Term::None;   ///< of Governing::Section
+  BucklingKind buckling{};  ///< the family's, for the label
+  bool hidden = false;      ///< no printed line shows the greatest ratio
+  NoteList notes;           ///< most severe first
 
   bool Passes() const { return standing == Standing::Passes; }
 };

@@ -48,7 +48,7 @@ Removal RemovalOf(const ProjectState& st) {
   const Family* family = FindFamily(st.ProfileType);
   if (family == nullptr) return Removal::Nothing;
   const bool loads = st.AnalysisMode == 1;
-  if (family->sectionControl == SectionControlKind::T) {
+  if (family->routines.sectionControl == SectionControlKind::T) {
     const bool ends =
         AnyEnd(st.My_end) || AnyEnd(st.Mz_end) || AnyEnd(st.Vy_end) || AnyEnd(st.Vz_end);
     const bool any = AnyLineLoad(st, false) || AnyTrapezoid(st, 3, false) ||
@@ -61,8 +61,8 @@ Removal RemovalOf(const ProjectState& st) {
                      AnyTrapezoid(st, 2, true) || AnyPointItem(st, true);
     return any ? Removal::AxialAndY : Removal::Nothing;
   }
-  const bool drops = family->sectionControl == SectionControlKind::SingleSymmetric ||
-                     family->sectionControl == SectionControlKind::None;
+  const bool drops = family->routines.sectionControl == SectionControlKind::SingleSymmetric ||
+                     family->routines.sectionControl == SectionControlKind::None;
   return drops && (AnyEnd(st.Mz_end) || AnyEnd(st.Vy_end)) ? Removal::EndY : Removal::Nothing;
 }
 
@@ -108,12 +108,14 @@ bool SameInput(ProjectState a, const ProjectState& b) {
 
 Origin Here(const ProjectState& st) {
   const SizeList sizes = SizesOf(st);
-  return {st.ProfileType, st.ProfileType == 101 ? int(st.p101_sub) : int(st.p103_sub),
-          sizes.hasCatalogue ? sizes.row : -1};
+  const Family* family = FindFamily(st.ProfileType);
+  const bool series = family != nullptr && family->sub != nullptr;
+  return {st.ProfileType, series ? int(st.*family->sub) : 0, sizes.hasCatalogue ? sizes.row : -1};
 }
 
 bool WritesFlangeWidth(const Family& f) {
-  return f.load != LoadFlatBar && f.sectionControl != SectionControlKind::Tube && f.code != 41;
+  return f.load != LoadFlatBar && f.routines.sectionControl != SectionControlKind::Tube &&
+         !f.givenConstants;
 }
 
 }  // namespace
@@ -143,15 +145,15 @@ void RememberOrigins(Design& d) {
   const Origin here = Here(d.st);
   if (WritesFlangeWidth(*family)) {
     h.b = here;
-    if (family->sectionControl != SectionControlKind::Angle) h.tf = here;
+    if (family->routines.buckling != BucklingKind::Angle) h.tf = here;
   }
-  if (family->sectionControl == SectionControlKind::SingleSymmetric ||
-      family->sectionControl == SectionControlKind::Plate ||
-      family->sectionControl == SectionControlKind::None) {
+  if (family->routines.sectionControl == SectionControlKind::SingleSymmetric ||
+      family->routines.sectionControl == SectionControlKind::Plate ||
+      family->routines.sectionControl == SectionControlKind::None) {
     h.tf2 = here;
   }
-  if (d.checks.bucklingRan && HasKlt(family->buckling)) h.klt = here;
-  if (d.st.ManualBucklingCurves == 0 && AutomaticCurves(family->code, d.rec, d.st)) {
+  if (d.checks.bucklingRan && HasKlt(family->routines.buckling)) h.klt = here;
+  if (d.st.ManualBucklingCurves == 0 && family->curves != CurveRule::Kept) {
     h.curves = here;
   }
 }

@@ -226,8 +226,8 @@ void BendingNominalCapacities(const ProjectState& st, const Family& family, Sect
   f.My = 10;
   f.Mz = 0;
   f.Ncl = 0;
-  family.sectionClass(st, f, rec);
-  family.capacities(st, f, rec);
+  family.routines.sectionClass(st, f, rec);
+  family.routines.capacities(st, f, rec);
   rec.classTopshown = rec.classTop;
   rec.classBottomshown = rec.classBottom;
   rec.MdyTopshown = rec.MdyTop;
@@ -239,8 +239,8 @@ void SingleNominalCapacities(const ProjectState& st, const Family& family, Secti
   BendingNominalCapacities(st, family, f, rec);
   f.My = 0;
   f.Ncl = 10;
-  family.sectionClass(st, f, rec);
-  family.capacities(st, f, rec);
+  family.routines.sectionClass(st, f, rec);
+  family.routines.capacities(st, f, rec);
   rec.Ncrdshown = rec.Ncrd;
 }
 
