@@ -178,7 +178,7 @@ void BucklingIgnored(const Family& family, const Finished& d, NoteList& notes) {
       if (differs(with, rec.class_)) return;
     }
   }
-  if (!(d.forces.N > 0)) return;
+  if (!(d.forces.N > 0) || family.routines.effective == nullptr) return;
   rec = d.rec;
   family.routines.effective(counted, rec);
   if (rec.Aeff < d.rec.Aeff * 0.999) {
