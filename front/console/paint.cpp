@@ -9,7 +9,7 @@
 #include <filesystem>
 #include <iostream>
 
-#include "front/console/data_folder.h"
+#include "front/data_folder.h"
 #include "front/console/exit_status.h"
 #include "front/console/run_design.h"
 #include "front/painter/paint_files.h"

@@ -8,8 +8,7 @@
 #include <QTimer>
 #include <cstdio>
 
-#include "front/console/data_folder.h"
-#include "front/console/script.h"
+#include "front/data_folder.h"
 #include "front/desktop/desktop.h"
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/help_desk.h"
@@ -17,6 +16,7 @@
 #include "front/desktop/own_folder.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
+#include "front/locale.h"
 
 namespace {
 

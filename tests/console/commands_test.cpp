@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "front/console/data_folder.h"
+#include "front/data_folder.h"
 #include "front/console/more_commands.h"
 #include "front/console/terminal.h"
 #include "places.h"
