@@ -239,10 +239,8 @@ FileResult OpenProject(const std::string& path, ProjectState& st) {
   return ReadProject(*bytes, st);
 }
 
-FileResult SaveProject(const std::string& path, const ProjectState& st) {
-  bool notFound = false;
-  if (WriteFileAtomically(path, ProjectText(st), &notFound)) return FileResult::Ok;
-  return notFound ? FileResult::NotFound : FileResult::OtherError;
+WriteResult SaveProject(const std::string& path, const ProjectState& st, const WriteRules& rules) {
+  return WriteFile(path, ProjectText(st), rules);
 }
 
 }  // namespace korvane
