@@ -6,7 +6,8 @@
 
 namespace korvane {
 
-/// Dimensions in mm and constants in mm2, mm3, mm4, and the class; the class reads epsilon as the last material step left it.
+/// Dimensions in mm and constants in mm2, mm3, mm4, and the class; the class reads epsilon as the
+/// last material step left it.
 void LoadTube(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
 /// Avz, Avy of 2*A/pi in mm2, and the shear capacities in kN; no wall buckles in shear. 12.2.5.
 void TubeShear(const ProjectState& st, SectionRecord& rec);

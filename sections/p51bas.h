@@ -9,7 +9,7 @@ namespace korvane {
 
 /// Dimension steps: typed dimensions, and of the rolled stiffeners the row of the catalogue, to
 /// mm, mm2, mm3, mm4, mm6, kg/m, m2/m. The plate b1 x tf1 lies on top, h is the overall height.
-/// They throw ArithmeticFault for a row that does not exist and for a section without area.
+/// They throw ArithmeticFault for a catalogue row that does not exist.
 void LoadPlateFlat(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
 void LoadPlateAngle(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
 void LoadPlateWeldedAngle(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
@@ -33,7 +33,8 @@ void TrapezEffective(const ProjectState& st, SectionRecord& rec);
 /// classTop with the plate compressed, classBottom with the tip of the flat compressed, for My in
 /// kNm. 12.1.
 void FlatStiffenerClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
-/// Moment capacities by side in kNm, reduced for shear (12.2.4, 12.2.7); no axial capacities and no governing Mdy.
+/// Moment capacities by side in kNm, reduced for shear (12.2.4, 12.2.7); no axial capacities and no
+/// governing Mdy.
 void FlatStiffenerCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
 
 }  // namespace korvane

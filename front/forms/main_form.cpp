@@ -86,29 +86,28 @@ const Family* FamilyOf(const Session& s) {
   return FindFamily(s.st().ProfileType);
 }
 
-void ClickSupport(Session& s, int support) {
+void ClickSupport(Session& s, const Support& support) {
   ProjectState& st = s.st();
-  const Support& row = *FindSupport(support);
-  const double factor = LengthFactorOfCase(row.bucklingCase);
-  st.SupportType = support;
-  if (IsSpring(support)) {
+  const double factor = LengthFactorOfCase(support.bucklingCase);
+  st.SupportType = support.code;
+  if (IsSpring(support.code)) {
     s.Refill("korvane", "ispring");
     s.FocusField("korvane.ispring");
   }
   if (st.BucklingCaseY < 5) {
     st.bly = factor;
-    st.BucklingCaseY = row.bucklingCase;
+    st.BucklingCaseY = support.bucklingCase;
     s.Refill("korvane", "ibly");
   }
   if (st.BucklingCaseZ < 5) {
     st.blz = factor;
-    st.BucklingCaseZ = row.bucklingCase;
+    st.BucklingCaseZ = support.bucklingCase;
     s.Refill("korvane", "iblz");
   }
-  st.LateralBucklingCase = row.bucklingCase;
+  st.LateralBucklingCase = support.bucklingCase;
   st.k_ltb = factor;
   // The cantilever deliberately leaves the loads untidied.
-  if (!IsCantilever(support)) {
+  if (!IsCantilever(support.code)) {
     if (const auto message = NormaliseLoads(st)) s.platform().Message(message->text);
   }
   s.Calculate();
@@ -254,9 +253,7 @@ void AddInputs(std::vector<Control>& c) {
   spring.limit = Between(0, 100, " 1 < Spring-restraint  > 99 ");
   spring.then = CalculateAfter;
   Control ispring = Input("ispring", "Spring restraint", spring, "%", "0 to 100 %");
-  ispring.enabled = [](const Session& s) {
-    return IsSpring(s.st().SupportType);
-  };
+  ispring.enabled = [](const Session& s) { return IsSpring(s.st().SupportType); };
   ispring.visible = ispring.enabled;
   c.push_back(ispring);
 
@@ -273,7 +270,7 @@ void AddOptions(std::vector<Control>& c) {
   for (const Support& support : kSupports) {
     const int k = support.code;
     c.push_back(Picture("cbutt" + std::to_string(k), SupportTip(support),
-                        [k](Session& s) { ClickSupport(s, k); }));
+                        [&support](Session& s) { ClickSupport(s, support); }));
     c.back().checked = [k](const Session& s) { return s.st().SupportType == k; };
   }
   c.back().returnKey = TakeSpring;
