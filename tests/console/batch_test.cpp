@@ -15,6 +15,7 @@
 #include "front/console/run_design.h"
 #include "optimiser/optimize.h"
 #include "projects.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -27,7 +28,7 @@ std::string Table(const Strings& files, int jobs, bool optimise = false) {
   options.optimise = optimise;
   std::ostringstream table;
   std::ostringstream progress;
-  DesignFiles(SharedLibrary(), files, options, true, table, progress, false);
+  DesignFiles(SourceLibrary(), files, options, true, table, progress, false);
   EXPECT_EQ(progress.str(), "");
   return table.str();
 }
@@ -72,7 +73,7 @@ struct Printed {
 Printed RunWith(const BatchOptions& options) {
   std::ostringstream output;
   std::ostringstream errors;
-  const int status = RunBatch(SharedLibrary(), options, output, errors, false);
+  const int status = RunBatch(SourceLibrary(), options, output, errors, false);
   return {status, output.str(), errors.str()};
 }
 
@@ -106,7 +107,7 @@ TEST(Batch, ALineHoldsTheResultsOfTheDesign) {
   const TempFolder folder;
   const std::string path = folder / "a.kvn";
   PutProject(path, [](ProjectState& st) { st.q1 = 18.0; });
-  Design design = StartedDesign(SharedLibrary());
+  Design design = StartedDesign(SourceLibrary());
   RunProject(design, path);
   const Strings line = LineOf(path);
   ASSERT_EQ(line.size(), 9U);
@@ -217,7 +218,7 @@ TEST(Batch, TheHeaderNamesTheFields) {
 TEST(Batch, OptimiseAddsTheLightestSizeOfTheSeries) {
   const TempFolder folder;
   PutProject(folder / "a.kvn", [](ProjectState& st) { st.idxHEA = 20; });
-  Design design = StartedDesign(SharedLibrary());
+  Design design = StartedDesign(SourceLibrary());
   RunProject(design, folder / "a.kvn");
   design.st.ResultView = kCriterionUls;
   OptimiserResults results;

@@ -13,6 +13,7 @@
 #include "run_program.h"
 #include "sections/profile_table.h"
 #include "sections/section_fields.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -291,7 +292,7 @@ TEST(Json, HasListsOfTheirLengths) {
 }
 
 TEST(Json, NumbersReadBackAsTheyWere) {
-  Design d(ReadLibrary(kData));
+  Design d(SourceLibrary());
   StartDesign(d);
   Calculate(d);
   ASSERT_EQ(OpenProject(kColumn, d.st), FileResult::Ok);

@@ -8,6 +8,7 @@
 #include "core/files.h"
 #include "tests/core/temp_folder.h"
 #include "tests/front/front_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -138,7 +139,7 @@ TEST(Materials, TheFreeEntryOpensTheYieldStress) {
   EXPECT_FALSE(r.session.Enabled("ifyk"));
   r.session.Select("cbofyk", 0);
   EXPECT_EQ(r.session.Text("ifyk"), "235");
-  r.session.Select("cbofyk", testing::TheLibrary()->materials.Last());
+  r.session.Select("cbofyk", SourceLibrary()->materials.Last());
   EXPECT_TRUE(r.session.Enabled("ifyk"));
   EXPECT_TRUE(r.session.Enter("ifyk", "300"));
   EXPECT_EQ(r.st().fyk, 300.0);
