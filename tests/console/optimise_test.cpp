@@ -168,7 +168,7 @@ TEST_F(Optimise, ATargetThatCannotBeWrittenIsSaid) {
   options.save = folder_ / "no/folder.kvn";
   const Printed run = RunWith(options);
   EXPECT_EQ(run.status, 2);
-  EXPECT_EQ(run.errors, "can't save file - " + options.save + "\n");
+  EXPECT_EQ(run.errors, "can't save file - " + options.save + "\nThe folder doesn't exist.\n");
 }
 
 TEST_F(Optimise, RefusesOtherFamilies) {
