@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the tests of the catalogue rows share: the data folder read once, and one comparison.
+// What the tests of the catalogue rows share: the data folder, and one comparison.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,6 +10,7 @@
 
 #include "places.h"
 #include "sections/readprofiles.h"
+#include "tests/support/source_library.h"
 
 namespace korvane::testing {
 
@@ -18,8 +19,7 @@ inline std::string DataFolder() {
 }
 
 inline const Catalogues& Data() {
-  static const Catalogues data = ReadCatalogues(DataFolder());
-  return data;
+  return SourceLibrary()->catalogues;
 }
 
 /// Expects the catalogue's value to agree with the exact one within the relative tolerance.
