@@ -431,7 +431,7 @@ TEST(BatchRun, AFolderThatCannotBeReadIsAnUnreadableRow) {
   PutProject(folder / "open/a.kvn");
   std::filesystem::permissions(folder.Path(), std::filesystem::perms(0755));
   std::filesystem::permissions(folder / "open/closed", std::filesystem::perms::none);
-  SharedLibrary();
+  SourceLibrary();
   const int status = InAProcessOfItsOwn([&folder] {
     if (!BecomeAPlainUser()) return 4;
     BatchOptions options;
