@@ -228,8 +228,11 @@ struct Scan {
   std::string_view number;      // digits, point and exponent without the sign
   std::string_view exponent{};  // the digits of the exponent with a minus sign
   bool negative = false;
-  bool found = false;    // there is a digit at all
-  std::size_t past = 0;  // where the text goes on
+  bool found = false;          // there is a digit at all
+  std::size_t past = 0;        // where the text goes on
+  std::uint64_t mantissa = 0;  // the digits as a whole number where they are at most 18
+  std::size_t digits = 0;      // with leading zeros
+  std::size_t decimals = 0;    // those behind the point
 };
 
 Scan ScanNumber(std::string_view text) {
@@ -239,18 +242,25 @@ Scan ScanNumber(std::string_view text) {
     while (from < size && IsDigit(text[from])) ++from;
     return from;
   };
+  const auto takeDigits = [&](std::size_t from) {
+    std::size_t i = from;
+    for (; i < size && IsDigit(text[i]); ++i) {
+      s.mantissa = s.mantissa * 10 + static_cast<std::uint64_t>(text[i] - '0');
+    }
+    s.digits += i - from;
+    return i;
+  };
   std::size_t i = 0;
   while (i < size && IsBlank(text[i])) ++i;
   if (i < size && (text[i] == '-' || text[i] == '+')) s.negative = text[i++] == '-';
   const std::size_t start = i;
-  i = skipDigits(i);
-  std::size_t digits = i - start;
+  i = takeDigits(i);
   if (i < size && text[i] == '.') {
-    const std::size_t decimals = i + 1;
-    i = skipDigits(decimals);
-    digits += i - decimals;
+    const std::size_t whole = s.digits;
+    i = takeDigits(i + 1);
+    s.decimals = s.digits - whole;
   }
-  s.found = digits > 0;
+  s.found = s.digits > 0;
   if (!s.found) return s;
   if (i < size && (text[i] == 'E' || text[i] == 'e')) {
     const bool sign = i + 1 < size && (text[i + 1] == '-' || text[i + 1] == '+');
@@ -264,6 +274,16 @@ Scan ScanNumber(std::string_view text) {
   s.number = text.substr(start, i - start);
   s.past = i;
   return s;
+}
+
+// Whole numbers and short decimals are one division of two values that the type holds exactly,
+// which rounds as reading the digits would.
+template <class T>
+std::optional<T> ShortNumber(const Scan& s) {
+  constexpr std::uint64_t exact = std::uint64_t{1} << std::numeric_limits<T>::digits;
+  if (s.digits > 18 || !s.exponent.empty() || s.mantissa > exact) return std::nullopt;
+  if (s.decimals >= kPowersOfTen.size()) return std::nullopt;
+  return static_cast<T>(s.mantissa) / static_cast<T>(kPowersOfTen[s.decimals]);
 }
 
 // True when a number that the type can't hold is too large rather than too small.
@@ -282,6 +302,7 @@ bool IsHuge(const Scan& s) {
 template <class T>
 T Value(const Scan& s) {
   if (!s.found) return 0;
+  if (const auto value = ShortNumber<T>(s)) return s.negative && *value != 0 ? -*value : *value;
   T value = 0;
   const char* const first = s.number.data();
   if (std::from_chars(first, first + s.number.size(), value).ec == std::errc::result_out_of_range) {

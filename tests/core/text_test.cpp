@@ -292,6 +292,28 @@ TEST(LeadingNumber, GivesNoNegativeZero) {
   EXPECT_FALSE(std::signbit(LeadingNumber("-1E-400")));
 }
 
+// Short decimals take a way of their own.
+TEST(LeadingNumber, ReadsDecimalsOfAnyShapeAsTheCLibraryDoes) {
+  std::mt19937_64 random(11);
+  const auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+  for (int i = 0; i < 30000; ++i) {
+    std::string text = below(3) == 0 ? "-" : "";
+    for (int n = below(12); n > 0; --n) text += static_cast<char>('0' + below(10));
+    text += static_cast<char>('0' + below(10));
+    if (below(4) != 0) {
+      text += '.';
+      for (int n = below(14); n > 0; --n) text += static_cast<char>('0' + below(10));
+    }
+    if (below(10) == 0) text += "E" + std::to_string(below(40) - 20);
+    ASSERT_EQ(LeadingNumber(text), std::strtod(text.c_str(), nullptr)) << text;
+    ASSERT_EQ(LeadingSingle(text), std::strtof(text.c_str(), nullptr)) << text;
+  }
+  // The last whole number that single precision holds with all below it, and the next two.
+  EXPECT_EQ(LeadingSingle("16777216"), 16777216.0F);
+  EXPECT_EQ(LeadingSingle("16777217"), 16777216.0F);
+  EXPECT_EQ(LeadingSingle("1677721.9"), 1677721.875F);
+}
+
 TEST(LeadingNumber, StopsAtAZeroByte) {
   EXPECT_EQ(LeadingNumber(std::string_view("12\0003", 4)), 12.0);
 }
