@@ -5,6 +5,7 @@
 
 #include "analysis/running_sums.h"
 #include "analysis/stations.h"
+#include "core/supports.h"
 
 namespace korvane {
 
@@ -37,7 +38,7 @@ void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,
   for (const DeflectionPart& p : parts) row[0] += p.start;
   const double L = st.L;
   const RunningSums<DeflectionPart, DeflectionSum> sums(parts, L);
-  const int last = st.SupportType == 4 ? 50 : 49;  // elsewhere the far end stands still
+  const int last = IsCantilever(st.SupportType) ? 50 : 49;  // elsewhere the far end stands still
   for (int i = 1; i <= last;) {
     const int end = sums.RunEnd(i, last);
     AddRun(sums.AtStation(i, kStationPlaces[static_cast<std::size_t>(i)] * L), i, end, L, row);

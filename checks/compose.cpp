@@ -221,7 +221,7 @@ void ComposeSection(const Family& family, const ProjectState& st, const LtbResul
   const GoverningSection& s = out.section;
   if (s.term != Term::None) {
     CheckLine& line = out.lineSection;
-    const char* const reference = WordSection(s, family.sectionControl, line);
+    const char* const reference = WordSection(s, family.routines.sectionControl, line);
     SetValue(line, out.IRsection, CheckColour(out.IRsection, iufa));
     SetPointLimit(line, iufa, s.x, reference);
   }
@@ -378,7 +378,7 @@ void ComposeLines(const Family* family, const ProjectState& st, const SectionRec
   Clear(out.lineVz);
   Clear(out.lineVy);
   Clear(out.lineLateral);
-  if (family == nullptr || family->sectionControl == SectionControlKind::None) {
+  if (family == nullptr || family->routines.sectionControl == SectionControlKind::None) {
     Clear(out.lineBucklingY);
     Clear(out.lineBucklingZ);
     Clear(out.lineSlenderness);
@@ -386,12 +386,13 @@ void ComposeLines(const Family* family, const ProjectState& st, const SectionRec
   }
   ComposeSection(*family, st, ltb, out);
   if (!out.bucklingRan) return;
-  const BucklingNumbers n{st, rec, beam, b, out, f.N, LateralReduction(st, ltb), family->buckling};
+  const BucklingNumbers n{
+      st, rec, beam, b, out, f.N, LateralReduction(st, ltb), family->routines.buckling};
   ComposeBuckling(n, out.textY, out.lineBucklingY);
   ComposeBuckling(n, out.textZ, out.lineBucklingZ);
   Clear(out.lineSlenderness);
   if (out.slenderness) {
-    const bool angle = family->buckling == BucklingKind::Angle;
+    const bool angle = family->routines.buckling == BucklingKind::Angle;
     out.lineSlenderness.label = angle ? "Slenderness: U/V-axis: " : "Slenderness: Y/Z-axis: ";
     out.lineSlenderness.formula = out.lineSlenderness.label + " L/i = ";
   }

@@ -6,6 +6,7 @@
 #include <bit>
 #include <cstdint>
 #include <filesystem>
+#include <string>
 #include <system_error>
 
 #include "core/files.h"

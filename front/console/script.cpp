@@ -225,6 +225,9 @@ private:
   int focusings_ = 0;
 };
 
+/// What some editors put before the first line.
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 /// The line without the blanks around it; what is typed keeps those behind it.
 std::string Trimmed(std::string line) {
   line.erase(0, std::min(line.find_first_not_of(" \t"), line.size()));
@@ -259,6 +262,7 @@ int RunScript(std::shared_ptr<const Library> library, bool decimalComma, std::is
   Script script(std::move(library), decimalComma, out);
   std::string line;
   for (int number = 1; !script.Ended() && std::getline(in, line); ++number) {
+    if (number == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
     if (!line.empty() && line.back() == '\r') line.pop_back();
     line = Trimmed(std::move(line));
     if (line.empty() || line.front() == '#') continue;

@@ -22,7 +22,7 @@ std::vector<double> ValuesOf(const SectionRecord& rec) {
 
 std::vector<double> CapacitiesAt(const Design& d, const SectionForces& forces) {
   SectionRecord rec = d.rec;
-  FindFamily(d.st.ProfileType)->capacities(d.st, forces, rec);
+  FindFamily(d.st.ProfileType)->routines.capacities(d.st, forces, rec);
   return ValuesOf(rec);
 }
 
@@ -31,15 +31,16 @@ TEST(PointCapacities, FollowFromClassAxialForceAndLargeShearsAlone) {
   std::set<int> changedByShear;
   std::set<int> seen;
   for (const Family& family : AllFamilies()) {
-    if (family.capacities == nullptr) continue;
+    if (family.routines.capacities == nullptr) continue;
     for (unsigned seed = 1; seed <= 40; ++seed) {
-      if (RunDesign(d, seed, family.code)) continue;
+      // Above half of a negative capacity is every shear.
+      if (RunDesign(d, seed, family.code) || d.rec.Vdz < 0 || d.rec.Vdy < 0) continue;
       SectionForces forces = d.forces;
       forces.My = 0;
       forces.Mz = 0;
       forces.Vy = 0;
       forces.Vz = 0;
-      family.capacities(d.st, forces, d.rec);
+      family.routines.capacities(d.st, forces, d.rec);
       const std::vector<double> unsheared = CapacitiesAt(d, forces);
       seen.insert(family.code);
       forces.My = seed % 3 == 0 ? -3.0 * seed : 2.0 * seed;
