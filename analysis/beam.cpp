@@ -124,6 +124,8 @@ void AddLoadPoints(const ProjectState& st, BeamResults& out) {
 
 /// Characteristic points behind the last slot in use.
 void AddUserPoints(const ProjectState& st, BeamResults& out) {
+  // Only a file can hold it; fewer points than the even ones would be checked.
+  if (st.cp_count < 0) throw ArithmeticFault("calculation points below 0");
   out.pt_first = out.pt_last + 1;
   out.pt_last = out.pt_last + st.cp_count;
   for (int k = 0; k < st.cp_count; ++k) out.pt_x[out.pt_first + k] = st.cp_x[k + 1] / st.L;

@@ -44,6 +44,12 @@ void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,
     AddRun(sums.AtStation(i, kStationPlaces[static_cast<std::size_t>(i)] * L), i, end, L, row);
     i = end + 1;
   }
+  if (L < 0 && last == 50) {
+    // Every station lies before the loads then; the free end takes the tip values all the same.
+    DeflectionSum tip;
+    for (const DeflectionPart& p : parts) tip.Add(p.right.mirrored ? p.right : p.At(L));
+    row[50] = tip.At(L, L);
+  }
   for (int i = 0; i <= last; ++i) defl[i] = row[static_cast<std::size_t>(i)];
   Widen(defl, max, min);
 }

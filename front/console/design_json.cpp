@@ -3,6 +3,7 @@
 
 #include "core/project_fields.h"
 #include "front/console/json_writer.h"
+#include "sections/profile_table.h"
 #include "sections/section_fields.h"
 
 namespace korvane {
@@ -128,24 +129,42 @@ void Checks(JsonWriter& json, const CheckResults& c) {
   Line(json, "lineSlenderness", c.lineSlenderness);
 }
 
+void VerdictMembers(JsonWriter& json, const Design& d) {
+  const Verdict v = VerdictOf(d);
+  json.Member("standing", StandingWord(v.standing));
+  json.Member("sls", ServiceabilityWord(v.sls));
+  json.Member("IR", v.IR);
+  json.Member("governing", GoverningLabel(v));
+  json.Objects("notes", v.notes, [&](const Note& note) {
+    const NoteKind& kind = KindOf(note.code);
+    json.Member("code", kind.word);
+    json.Member("severity", SeverityWord(kind.severity));
+    json.Member("text", NoteText(note, d.lib->catalogues));
+  });
+}
+
 }  // namespace
 
 std::string DesignJson(const Design& d, const std::optional<std::string>& fault) {
   JsonWriter json;
   const auto member = [&](const char* name, const auto& field) { json.Member(name, field); };
+  // Of an unknown family no section was loaded: what the record holds is another one's.
+  const bool known = FindFamily(d.st.ProfileType) != nullptr;
   return json.Take([&] {
     if (fault) {
       json.Member("fault", *fault);
     } else {
       json.Member("fault", nullptr);
     }
+    json.Object("verdict", [&] { VerdictMembers(json, d); });
     json.Object("state", [&] { ForEachField(d.st, member); });
-    json.Object("section", [&] { ForEachSectionField(d.rec, member); });
+    json.Object("section", [&] { ForEachSectionField(known ? d.rec : SectionRecord{}, member); });
     json.Object("analysis", [&] { Analysis(json, d); });
-    json.Object("deflection", [&] { Deflection(json, d.deflections); });
+    json.Object("deflection", [&] { Deflection(json, known ? d.deflections : Deflections{}); });
     json.Object("modal", [&] {
-      json.Member("ModalMass", d.modal.ModalMass);
-      json.Member("ModalFreq", d.modal.ModalFreq);
+      const ModalResults modal = known ? d.modal : ModalResults{};
+      json.Member("ModalMass", modal.ModalMass);
+      json.Member("ModalFreq", modal.ModalFreq);
     });
     json.Object("ltb", [&] { Ltb(json, d); });
     json.Object("buckling", [&] { Buckling(json, d.buckling); });

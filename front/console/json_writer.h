@@ -28,6 +28,17 @@ public:
     Key(name);
     Nest('{', '}', body);
   }
+  /// "name": [ { ... }, ... ] with what body writes of each item.
+  template <class Items, class Body>
+  void Objects(std::string_view name, const Items& items, Body&& body) {
+    Key(name);
+    Nest('[', ']', [&] {
+      for (const auto& item : items) {
+        BeginItem();
+        Nest('{', '}', [&] { body(item); });
+      }
+    });
+  }
   /// "name": [ ... ] of the elements first to last, in the array's own counting.
   template <class T, int First, int Last>
   void List(std::string_view name, const Indexed<T, First, Last>& values, int last) {
