@@ -312,6 +312,7 @@ constexpr const char* kHead = R"(<!DOCTYPE html>
 <meta name="viewport" content="width=device-width, initial-scale=1">
 <title>All inputs</title>
 <link rel="stylesheet" type="text/css" href="help.css">
+<link rel="stylesheet" href="browser.css">
 <script src="book.js" defer></script>
 </head>
 <body>

@@ -63,7 +63,7 @@ QString Excerpt(const QString& text, qsizetype at) {
 }  // namespace
 
 QString FormulaPicture(const QString& math) {
-  static const QRegularExpression spaces(QStringLiteral("\\s"));
+  static const QRegularExpression spaces(QStringLiteral("[ \\t\\r\\n]"));
   const QByteArray tight = QString(math).remove(spaces).toUtf8();
   const QByteArray hash = QCryptographicHash::hash(tight, QCryptographicHash::Sha256).toHex();
   return QStringLiteral("formulas/%1.svg").arg(QString::fromLatin1(hash.left(16)));

@@ -78,12 +78,15 @@ void Darken(QImage& image, const QPalette& palette) {
   }
 }
 
-/// A formula in the page's own letters: their size and their colour.
-QImage FormulaImage(QByteArray file, double ratio, const QPalette& palette, double letters) {
+/// A formula in the page's own letters, their size and their colour; smaller where it is wider
+/// than the page.
+QImage FormulaImage(QByteArray file, double ratio, const QPalette& palette, double letters,
+                    double widest) {
   constexpr double kDrawnLetters = 16;  // of scripts/help_formulas
   file.replace("#000", palette.color(QPalette::Text).name().toLatin1());
   QSvgRenderer svg(file);
-  const QSizeF drawn = QSizeF(svg.defaultSize()) * (letters / kDrawnLetters);
+  const QSizeF own = svg.defaultSize();
+  const QSizeF drawn = own * std::min(letters / kDrawnLetters, widest / own.width());
   QImage image((drawn * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
   image.setDevicePixelRatio(ratio);
   image.fill(Qt::transparent);
@@ -188,14 +191,16 @@ QVariant HelpPageView::loadResource(int type, const QUrl& name) {
   const QByteArray file = resource.toByteArray();
   if (type == QTextDocument::HtmlResource) return WithFormulaPictures(QString::fromUtf8(file));
   if (type != QTextDocument::ImageResource || file.isEmpty()) return resource;
-  if (name.path().contains(QLatin1String("/formulas/"))) {
-    return FormulaImage(file, devicePixelRatioF(), palette(), QFontInfo(font()).pixelSize());
-  }
   const bool drawn = name.path().endsWith(QLatin1String(".svg"));
   // Most pages are longer than the window.
   const double bar = verticalScrollBar()->sizeHint().width();
   const double room = width() - bar - 2 * document()->documentMargin();
   const double widest = std::clamp(room, kLeastWidth, kWidest);
+  if (name.path().contains(QLatin1String("/formulas/"))) {
+    constexpr double kIndent = 40;  // of a formula's paragraph
+    return FormulaImage(file, devicePixelRatioF(), palette(), QFontInfo(font()).pixelSize(),
+                        std::max(kLeastWidth, widest - kIndent));
+  }
   if (!drawn) return Photo(file, devicePixelRatioF(), widest);
   QImage image = Drawing(file, devicePixelRatioF(), widest);
   if (IsDark(palette())) Darken(image, palette());

@@ -321,6 +321,77 @@ TEST(HelpBookTest, TableOfFamiliesTellsWhatRuns) {
   EXPECT_EQ(rows, 32);
 }
 
+// --- Messages -----------------------------------------------------------------------------------
+
+/// Messages as they stand in the sources of rules and forms: what a person is told in a box.
+QStringList MessagesOfTheProgram() {
+  QStringList all;
+  for (const char* folder : {"/front", "/front/forms", "/core", "/optimiser"}) {
+    const QDir dir(kSource + QString::fromLatin1(folder));
+    for (const QString& name :
+         dir.entryList({QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files)) {
+      QFile file(dir.filePath(name));
+      EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+      const QString text = QString::fromUtf8(file.readAll());
+      for (const char* pattern :
+           {"Message\\(\"([^\"]+)\"", "messages\\.emplace_back\\(\"([^\"]+)\"",
+            "kMismatch = \"([^\"]+)\"", "kOnlyDatabaseProfiles = \"([^\"]+)\"", "(?:Between|AtLeast|Above)\\([^\"()]*\"([^\"]+)\"",
+            "(?:\"onote\"|\"slsfactor\"|\"obcauto\"|\"oweightnote\"), \"([^\"]+)\""}) {
+        for (const auto& match : All(text, pattern)) all << match.captured(1).trimmed();
+      }
+    }
+  }
+  all.removeDuplicates();
+  return all;
+}
+
+TEST(HelpBookTest, EveryMessageOfTheProgramIsTold) {
+  QString book;
+  for (const QString& page : AllPages()) book += Shown(Page(page)) + QLatin1Char(' ');
+  const QStringList messages = MessagesOfTheProgram();
+  EXPECT_GE(messages.size(), 35);
+  for (QString message : messages) {
+    message = message.simplified();
+    if (message.endsWith(QLatin1String(" -"))) message.chop(2);
+    EXPECT_TRUE(book.contains(message)) << message.toStdString();
+  }
+}
+
+/// What the page of messages quotes is what the program says.
+TEST(HelpBookTest, EveryMessageOfThePageIsTheProgramsOwn) {
+  QString sources;
+  for (const char* folder : {"/front", "/front/forms", "/front/desktop", "/front/console", "/core",
+                             "/analysis", "/sections", "/optimiser"}) {
+    const QDir dir(kSource + QString::fromLatin1(folder));
+    for (const QString& name :
+         dir.entryList({QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files)) {
+      QFile file(dir.filePath(name));
+      EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+      sources += QString::fromUtf8(file.readAll());
+    }
+  }
+  sources = sources.simplified();
+  const QString page = Page(QStringLiteral("messages.html"));
+  const QString told = page.left(page.indexOf(QLatin1String("No message, but odd")));
+  int messages = 0;
+  for (const auto& row : All(told, "<tr><td>(.*?)</td>")) {
+    ++messages;
+    // Parts between what the program fills in.
+    static const QRegularExpression filled(QStringLiteral("\\.\\.\\.|1\\.00"));
+    for (const QString& part : Shown(row.captured(1)).split(filled, Qt::SkipEmptyParts)) {
+      const QString words = part.simplified();
+      if (words.size() < 3) continue;
+      bool found = sources.contains(words);
+      if (!found) {
+        QString loose = sources;
+        found = loose.remove(QStringLiteral("\" \"")).contains(words);
+      }
+      EXPECT_TRUE(found) << words.toStdString();
+    }
+  }
+  EXPECT_GE(messages, 18);
+}
+
 // --- Formulas -----------------------------------------------------------------------------------
 
 TEST(HelpBookTest, EveryFormulaHasItsPictureAndWords) {
