@@ -344,8 +344,7 @@ std::string InputsPage(std::shared_ptr<const Library> library) {
 }
 
 std::string PagesScript(const std::string& index) {
-  static const std::regex entry(
-      "<h2>([^<]*)</h2>|<li><a href=\"([^\"#]+)\">([^<]*)</a>");
+  static const std::regex entry("<h2>([^<]*)</h2>|<li><a href=\"([^\"#]+)\">([^<]*)</a>");
   std::string script = "// Made by tools/make_help from the contents.\nconst pages = [\n";
   std::string group;
   for (std::sregex_iterator it(index.begin(), index.end(), entry), end; it != end; ++it) {

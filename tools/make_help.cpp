@@ -23,9 +23,10 @@ bool Write(const std::string& file, const std::string& text) {
 
 int main(int argc, char** argv) {
   if (argc != 3) {
-    std::cerr << "usage: make_help DATA BOOK\n"
-                 "Writes inputs.html, with the data folder DATA, and pages.js into the folder BOOK.\n"
-                 "In this project: make_help data docs/help\n";
+    std::cerr
+        << "usage: make_help DATA BOOK\n"
+           "Writes inputs.html, with the data folder DATA, and pages.js into the folder BOOK.\n"
+           "In this project: make_help data docs/help\n";
     return 2;
   }
   try {
@@ -33,8 +34,9 @@ int main(int argc, char** argv) {
     std::ifstream in(book + "index.html", std::ios::binary);
     std::ostringstream index;
     index << in.rdbuf();
-    const bool done = Write(book + "inputs.html", korvane::InputsPage(korvane::ReadLibrary(argv[1]))) &&
-                      Write(book + "pages.js", korvane::PagesScript(index.str()));
+    const bool done =
+        Write(book + "inputs.html", korvane::InputsPage(korvane::ReadLibrary(argv[1]))) &&
+        Write(book + "pages.js", korvane::PagesScript(index.str()));
     return done ? 0 : 1;
   } catch (const std::exception& e) {
     std::cerr << "make_help: " << e.what() << '\n';

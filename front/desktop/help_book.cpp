@@ -42,9 +42,8 @@ QString WithFormulaTexts(QString html) {
 }
 
 bool HasAll(const QString& text, const QStringList& words) {
-  return std::all_of(words.begin(), words.end(), [&](const QString& word) {
-    return text.contains(word, Qt::CaseInsensitive);
-  });
+  return std::all_of(words.begin(), words.end(),
+                     [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
 /// Some words before and after the place where a word searched for stands.
@@ -75,7 +74,8 @@ QString WithFormulaPictures(const QString& html) {
   for (auto it = Formula().globalMatch(html); it.hasNext();) {
     const auto match = it.next();
     page += html.mid(done, match.capturedStart() - done);
-    page += QStringLiteral("<img src=\"%1\">").arg(FormulaPicture(match.captured()));
+    page += QStringLiteral("<img src=\"%1\" style=\"vertical-align: middle\">")
+                .arg(FormulaPicture(match.captured()));
     done = match.capturedEnd();
   }
   return page + html.mid(done);
@@ -85,8 +85,7 @@ WordPlace PlaceOfWord(const QString& text, const QString& word) {
   if (word.size() <= kShortWord) {
     const QRegularExpression whole(
         QStringLiteral("(?<!\\w)%1(?!\\w)").arg(QRegularExpression::escape(word)),
-        QRegularExpression::CaseInsensitiveOption |
-            QRegularExpression::UseUnicodePropertiesOption);
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     const auto match = whole.match(text);
     if (match.hasMatch()) return {match.capturedStart(), true};
   }

@@ -82,7 +82,8 @@ void Darken(QImage& image, const QPalette& palette) {
 /// than the page.
 QImage FormulaImage(QByteArray file, double ratio, const QPalette& palette, double letters,
                     double widest) {
-  constexpr double kDrawnLetters = 16;  // of scripts/help_formulas
+  // Those of scripts/help_formulas have 16 pixels; their small letters are lower than the page's.
+  constexpr double kDrawnLetters = 16 / 1.2;
   file.replace("#000", palette.color(QPalette::Text).name().toLatin1());
   QSvgRenderer svg(file);
   const QSizeF own = svg.defaultSize();

@@ -145,8 +145,9 @@ TEST(HelpBookTest, WorkedNumbersAreTheirArithmeticAndTheProgramsOwn) {
       ASSERT_FALSE(results.isEmpty()) << page.toStdString();
     }
     for (const auto& match :
-         All(html, "<p class=\"calc\"( data-program=\"[^\"]*\")?( data-times=\"[^\"]*\")?>"
-                   "(.*?)</p>")) {
+         All(html,
+             "<p class=\"calc\"( data-program=\"[^\"]*\")?( data-times=\"[^\"]*\")?>"
+             "(.*?)</p>")) {
       const QString line = Shown(match.captured(3));
       const QStringList parts = line.split(QLatin1Char('='));
       ASSERT_GE(parts.size(), 2) << page.toStdString() << ": " << line.toStdString();
@@ -163,8 +164,7 @@ TEST(HelpBookTest, WorkedNumbersAreTheirArithmeticAndTheProgramsOwn) {
       ++held;
       const QString times = match.captured(2).section(QLatin1Char('"'), 1, 1);
       const double scale = times.isEmpty() ? 1 : times.toDouble();
-      EXPECT_NEAR(ResultOf(results, path) * scale, number.toDouble(),
-                  HalfUnit(number) * 1.000001)
+      EXPECT_NEAR(ResultOf(results, path) * scale, number.toDouble(), HalfUnit(number) * 1.000001)
           << page.toStdString() << ": " << line.toStdString();
     }
   }
@@ -242,7 +242,8 @@ TEST(HelpBookTest, EveryCommandPrintsWhatItsPageShows) {
 TEST(HelpBookTest, EveryScriptPrintsWhatItsPageShows) {
   int scripts = 0;
   for (const QString& page : AllPages()) {
-    for (const auto& pair : All(Page(page), "<pre class=\"script\">(.*?)</pre>.*?<pre>(.*?)</pre>")) {
+    for (const auto& pair :
+         All(Page(page), "<pre class=\"script\">(.*?)</pre>.*?<pre>(.*?)</pre>")) {
       ++scripts;
       QTemporaryDir folder;
       ASSERT_NO_FATAL_FAILURE(CopyExamples(folder.path()));
@@ -251,8 +252,8 @@ TEST(HelpBookTest, EveryScriptPrintsWhatItsPageShows) {
       script.write(LinesOf(pair.captured(1)).join(QLatin1Char('\n')).toUtf8() + '\n');
       script.close();
       const Printout run = Cli({QStringLiteral("session"), QStringLiteral("--decimal"),
-                           QStringLiteral("point"), QStringLiteral("script.txt")},
-                          folder.path());
+                                QStringLiteral("point"), QStringLiteral("script.txt")},
+                               folder.path());
       EXPECT_EQ(run.status, 0) << page.toStdString();
       EXPECT_EQ(run.out.trimmed().toStdString(),
                 LinesOf(pair.captured(2)).join(QLatin1Char('\n')).trimmed().toStdString())
@@ -295,8 +296,9 @@ TEST(HelpBookTest, TableOfFamiliesTellsWhatRuns) {
        All(html, "<tr><td>(\\d+)</td><td><a [^>]*>([^<]*)</a></td>((?:<td>x?</td>){7})</tr>")) {
     ++rows;
     const int code = row.captured(1).toInt();
-    const QString file = kSource + QStringLiteral("/tests/design/projects/f%1.kvn")
-                                       .arg(code, 3, 10, QLatin1Char('0'));
+    const QString file =
+        kSource +
+        QStringLiteral("/tests/design/projects/f%1.kvn").arg(code, 3, 10, QLatin1Char('0'));
     const auto axial = [](ProjectState& st) { st.NP = 10; };
     const auto down = [](ProjectState& st) { st.q1 = 1, st.q1_yz = 1; };
     const auto up = [](ProjectState& st) { st.q1 = -1, st.q1_yz = 1; };
@@ -306,16 +308,16 @@ TEST(HelpBookTest, TableOfFamiliesTellsWhatRuns) {
     const Design y = Loaded(library, file, across);
     const auto shown = [](const CheckLine& line) { return !line.formula.empty(); };
     const CheckResults& c = n.checks;
-    const bool runs[] = {
-        c.IRsection > 0,
-        z.checks.IRsection > 0,
-        y.checks.IRsection > 0,
-        shown(z.checks.lineVz),
-        shown(y.checks.lineVy),
-        z.checks.IRlateral > 0 || Loaded(library, file, up).checks.IRlateral > 0,
-        c.IRny > 0 || c.IRnz > 0 || c.IRcombinedY > 0 || c.IRcombinedZ > 0};
+    const bool runs[] = {c.IRsection > 0,
+                         z.checks.IRsection > 0,
+                         y.checks.IRsection > 0,
+                         shown(z.checks.lineVz),
+                         shown(y.checks.lineVy),
+                         z.checks.IRlateral > 0 || Loaded(library, file, up).checks.IRlateral > 0,
+                         c.IRny > 0 || c.IRnz > 0 || c.IRcombinedY > 0 || c.IRcombinedZ > 0};
     QString told;
-    for (const bool run : runs) told += run ? QStringLiteral("<td>x</td>") : QStringLiteral("<td></td>");
+    for (const bool run : runs)
+      told += run ? QStringLiteral("<td>x</td>") : QStringLiteral("<td></td>");
     EXPECT_EQ(row.captured(3).toStdString(), told.toStdString()) << code;
   }
   EXPECT_EQ(rows, 32);
@@ -335,7 +337,8 @@ QStringList MessagesOfTheProgram() {
       const QString text = QString::fromUtf8(file.readAll());
       for (const char* pattern :
            {"Message\\(\"([^\"]+)\"", "messages\\.emplace_back\\(\"([^\"]+)\"",
-            "kMismatch = \"([^\"]+)\"", "kOnlyDatabaseProfiles = \"([^\"]+)\"", "(?:Between|AtLeast|Above)\\([^\"()]*\"([^\"]+)\"",
+            "kMismatch = \"([^\"]+)\"", "kOnlyDatabaseProfiles = \"([^\"]+)\"",
+            "(?:Between|AtLeast|Above)\\([^\"()]*\"([^\"]+)\"",
             "(?:\"onote\"|\"slsfactor\"|\"obcauto\"|\"oweightnote\"), \"([^\"]+)\""}) {
         for (const auto& match : All(text, pattern)) all << match.captured(1).trimmed();
       }
@@ -399,8 +402,8 @@ TEST(HelpBookTest, EveryFormulaHasItsPictureAndWords) {
   for (const QString& page : AllPages()) {
     const QString html = Page(page);
     for (const auto& math : All(html, "<math\\b.*?</math>")) {
-      EXPECT_TRUE(math.captured().contains(QRegularExpression(
-          QStringLiteral("^<math display=\"block\" alttext=\"[^\"]{3,}\">"))))
+      EXPECT_TRUE(math.captured().contains(
+          QRegularExpression(QStringLiteral("^<math display=\"block\" alttext=\"[^\"]{3,}\">"))))
           << page.toStdString() << ": " << math.captured().toStdString();
       wanted << FormulaPicture(math.captured());
       EXPECT_TRUE(QFile::exists(kFolder + wanted.last()))
@@ -421,11 +424,12 @@ TEST(HelpBookTest, FormulaIsKnownByItsTextNotByItsBlanks) {
   QString b = a;
   b.replace(QLatin1String("><"), QLatin1String(">\n <"));
   EXPECT_EQ(FormulaPicture(a), FormulaPicture(b));
-  EXPECT_NE(FormulaPicture(a), FormulaPicture(QString(a).replace(QLatin1String("<mi>a"),
-                                                                 QLatin1String("<mi>c"))));
+  EXPECT_NE(FormulaPicture(a),
+            FormulaPicture(QString(a).replace(QLatin1String("<mi>a"), QLatin1String("<mi>c"))));
 }
 
-// --- Arithmetic of the pages ----------------------------------------------------------------------
+// --- Arithmetic of the pages
+// ----------------------------------------------------------------------
 
 TEST(ArithmeticTest, EvaluatesAsByHand) {
   EXPECT_DOUBLE_EQ(Arithmetic::Evaluate("2 + 3 · 4").value, 14);
