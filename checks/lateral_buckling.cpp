@@ -13,7 +13,9 @@ namespace {
 
 constexpr double kPi2 = kPiSingle * kPiSingle;
 
-/// A set of C factors that falls linearly with t = (1 - k)/0.5.
+/// A set of C factors that falls linearly with t = (1 - k)/0.5: between the values for k = 1 and
+/// k = 0.5 of a member under a spread load or a point load at mid-span, with pinned or fixed ends
+/// (ENV 1993-1-1, Annex F, Table F.1.2).
 struct CSet {
   double C1, C1t, C2, C2t, C3, C3t;
 };
@@ -41,6 +43,7 @@ double MiddleMoment(const PlaneForces& z) {
   return Mx;
 }
 
+/// C factors under end moments (ENV 1993-1-1, Annex F, Table F.1.1), by their ratio r.
 /// Reference value and slope of C1 and C3 for k = 1, 0.7, 0.5; a row holds from r = lower on.
 struct SegmentRow {
   double lower;

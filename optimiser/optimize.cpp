@@ -90,6 +90,8 @@ const OptimiserRow& OptimiserRowOf(int row) {
 }
 
 bool CanOptimise(const ProjectState& st) {
+  // The codes of the families with a series come first; what lies below them, which only a file can
+  // hold, passes too: kept.
   return st.ProfileType <= kOptimiserRows;
 }
 
@@ -160,10 +162,12 @@ bool TakeOverRow(Design& design, const OptimiserResults& results) {
 }
 
 bool OptimiseCurrent(Design& design, OptimiserResults& results, const SearchProgress& progress) {
-  const int family = design.st.ProfileType;
-  if (family < 1 || family > kOptimiserRows) return false;
-  SearchRow(design, family, results, progress);
-  return true;
+  for (const OptimiserRow& row : Rows()) {
+    if (row.ProfileType != design.st.ProfileType) continue;
+    SearchRow(design, row.row, results, progress);
+    return true;
+  }
+  return false;
 }
 
 }  // namespace korvane

@@ -125,7 +125,7 @@ struct ShownLists {
 };
 
 /// The outline of a family.
-enum class ShapeKind {
+enum class OutlineKind {
   General,
   RolledI,
   TaperedI,
@@ -189,7 +189,7 @@ struct Family {
   FixedList<Dimension, 11> dimensions{};
   std::size_t titled = 0;  ///< how many of them stand in the name
   FamilyWords words{};
-  ShapeKind shape = ShapeKind::General;
+  OutlineKind outline = OutlineKind::General;
   ShownLists shown{};
   SearchSeries search{};
 };

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <iostream>
 
-#include "front/console/data_folder.h"
 #include "front/console/design_json.h"
 #include "front/console/design_text.h"
 #include "front/console/exit_status.h"
@@ -18,6 +17,8 @@
 #include "front/console/run_design.h"
 #include "front/console/script.h"
 #include "front/console/terminal.h"
+#include "front/data_folder.h"
+#include "front/locale.h"
 #include "sections/names.h"
 #include "sections/profile_table.h"
 

@@ -10,11 +10,11 @@
 #include <iostream>
 #include <optional>
 
-#include "front/console/data_folder.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
 #include "front/console/run_design.h"
 #include "front/console/terminal.h"
+#include "front/data_folder.h"
 #include "front/painter/paint_files.h"
 #include "presentation/aprint.h"
 #include "presentation/figures.h"
