@@ -93,7 +93,7 @@ double CriticalMoment(const ProjectState& st, const SectionRecord& rec, double C
 
 /// Reduction of a plate carried family whose stiffener is compressed, from the stress sigma.
 double PlateReduction(const ProjectState& st, const SectionRecord& rec, double Lmm,
-                      LtbResults& ltb) {
+                      LtbSegmentResult& segment, LtbResults& ltb) {
   const double G = st.E / 2.6;
   double sigma = 0;
   if (st.ProfileType == 51) {
@@ -103,6 +103,7 @@ double PlateReduction(const ProjectState& st, const SectionRecord& rec, double L
                            std::pow(rec.tw / (rec.h - rec.tf), 2) / (3 * rec.Afc + rec.Afw);
     sigma = torsion + kPi2 * st.E * rec.Iz / (rec.Afw / 3 + rec.Afc) / (Lmm * Lmm);
   }
+  segment.sigma = sigma;
   ltb.lamLT = std::sqrt(st.fyk / sigma);
   const double lam = ltb.lamLT;
   const double a = 1 + (lam - 0.6) * 0.35 + lam * lam;
@@ -115,27 +116,39 @@ struct Signs {
   bool plateOnly;      ///< plate families: the plate is compressed all along
 };
 
-/// Mcr, lamLT, chiLT for the length in mm and the level term C2*zg; returns the design moment in
-/// kNm.
-double DesignMoment(const ProjectState& st, const SectionRecord& rec, double level,
-                    const Signs& signs, bool restraints, double Lmm, LtbResults& ltb) {
-  double w = rec.betay;
+/// Mcr, lamLT, chiLT for the length in mm and the level term C2*zg, with the way there; Mdb of
+/// the segment in kNm.
+LtbSegmentResult DesignMoment(const ProjectState& st, const SectionRecord& rec, double level,
+                              const Signs& signs, bool restraints, double Lmm, LtbResults& ltb) {
+  LtbSegmentResult s;
+  s.C1 = ltb.C1;
+  s.C3 = ltb.C3;
+  s.beta = rec.betay;
   switch (MethodOf(st.ProfileType)) {
     case Method::Plate:
-      w = signs.plateOnly ? rec.betaTop : rec.betaBottom;
-      ltb.chiLT = signs.plateOnly ? 1.0 : PlateReduction(st, rec, Lmm, ltb);
-      return MomentOf(st, ltb.chiLT * w * rec.Wply);
+      s.beta = signs.plateOnly ? rec.betaTop : rec.betaBottom;
+      ltb.chiLT = signs.plateOnly ? 1.0 : PlateReduction(st, rec, Lmm, s, ltb);
+      s.lamLT = signs.plateOnly ? 0.0 : double(ltb.lamLT);
+      s.chiLT = ltb.chiLT;
+      s.Mdb = MomentOf(st, s.chiLT * s.beta * rec.Wply);
+      return s;
     case Method::SinglySymmetric:
-      w = signs.topCompressed ? rec.betaTop : rec.betaBottom;
+      s.beta = signs.topCompressed ? rec.betaTop : rec.betaBottom;
       level -= ltb.C3 * (signs.topCompressed ? rec.zjTop : rec.zjBottom);
       break;
     case Method::CriticalMoment:
       break;
   }
   ltb.Mcr = CriticalMoment(st, rec, ltb.C1, level, Lmm);
-  ltb.lamLT = std::sqrt(w * rec.Wply * st.fyk / ltb.Mcr);
-  ltb.chiLT = Reduction(ltb.lamLT, Imperfection(st.ProfileType, restraints));
-  return MomentOf(st, ltb.chiLT * w * rec.Wply);
+  ltb.lamLT = std::sqrt(s.beta * rec.Wply * st.fyk / ltb.Mcr);
+  s.alfa = Imperfection(st.ProfileType, restraints);
+  ltb.chiLT = Reduction(ltb.lamLT, s.alfa);
+  s.D = level;
+  s.Mcr = ltb.Mcr;
+  s.lamLT = ltb.lamLT;
+  s.chiLT = ltb.chiLT;
+  s.Mdb = MomentOf(st, s.chiLT * s.beta * rec.Wply);
+  return s;
 }
 
 void ClassifyFor(const Family& family, const ProjectState& st, double My, SectionForces& f,
@@ -191,7 +204,11 @@ void LtbNoRestraints(const Family& family, ProjectState& st, SectionForces& f, S
   }
   ltb.Lk = st.L * st.k_ltb;
   const Signs signs{middle > 0, middle >= 0 && z.M_q[0] >= 0 && z.M_q[4] >= 0};
-  ltb.Mdb = DesignMoment(st, rec, ltb.C2 * ltb.zg, signs, false, ltb.Lk * 1000, ltb);
+  ltb.governing = DesignMoment(st, rec, ltb.C2 * ltb.zg, signs, false, ltb.Lk * 1000, ltb);
+  ltb.governing.M1 = z.M[0];
+  ltb.governing.M2 = z.M[50];
+  ltb.least = ltb.governing;
+  ltb.Mdb = ltb.governing.Mdb;
   ltb.Mdb_min = ltb.Mdb;
   ltb.chiLT_min = ltb.chiLT;
   if (st.LateralTorsionalBuckling == 0) {
@@ -227,6 +244,8 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
   ltb.Mdb_min = 1E16;
   ltb.chiLT_min = 1;
   ltb.C2 = 0;
+  ltb.governing = {};
+  ltb.least = {};
   ltb.Lk = st.k_ltb * st.L / (n + 1);
   double worst = 0;
   double C1 = 0;
@@ -247,7 +266,11 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
     ltb.C3 = c.C3;
     ClassifyFor(family, st, (M1 + M2) / 2, f, rec);
     const Signs signs{(M1 + M2) / 2 > 0, M1 >= 0 && M2 >= 0};
-    const double Mseg = DesignMoment(st, rec, 0, signs, true, ltb.Lk * 1000, ltb);
+    LtbSegmentResult segment = DesignMoment(st, rec, 0, signs, true, ltb.Lk * 1000, ltb);
+    segment.segment = g;
+    segment.M1 = M1;
+    segment.M2 = M2;
+    const double Mseg = segment.Mdb;
     const double Ms = SegmentMoment(M, i1, i2, MethodOf(st.ProfileType) == Method::Plate);
     const double ratio = std::fabs(Ms / Mseg);
     if (ratio >= worst) {  // a later segment wins a tie
@@ -257,10 +280,12 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
       C1 = c.C1;
       C3 = c.C3;
       st.LtbCriticalSegment = g;
+      ltb.governing = segment;
     }
     if (ltb.chiLT <= ltb.chiLT_min) {
       ltb.chiLT_min = ltb.chiLT;
       ltb.Mdb_min = Mseg;
+      ltb.least = segment;
     }
   }
   ltb.C1 = C1;

@@ -99,6 +99,8 @@ private:
     const int sideClass = top ? rec_.classTop : rec_.classBottom;
     const double m = std::fabs(f_.My) / Mvd;
     capacityY_ = Mvd;
+    unshearedY_ = top ? rec_.MdyTop : rec_.MdyBottom;
+    betaY_ = top ? rec_.betaTop : rec_.betaBottom;
     Take(m, Term::My, 0, sideClass);
     if (style_.axial && f_.N != 0) {
       const double Nd = AxialCapacity();
@@ -113,6 +115,8 @@ private:
     if (!my && !mz) return;
     const bool exact = st_.SectionControlMode != 0 && rec_.class_ <= 2;
     capacityY_ = rec_.Mvdy;
+    unshearedY_ = rec_.Mdy;
+    betaY_ = rec_.betay;
     const double ry = my ? f_.My / rec_.Mvdy : 0;
     const double rz = mz ? f_.Mz / rec_.Mvdz : 0;
     const bool alone = !style_.pureMomentsOnly || !n;
@@ -164,6 +168,17 @@ private:
     s.Vy = f_.Vy;
     s.Vdz = rec_.Vdz;
     s.Vdy = rec_.Vdy;
+    s.sectionClass = sectionClass;
+    s.betay = betaY_;
+    s.betaz = rec_.betaz;
+    s.Mdy = unshearedY_;
+    s.Mdz = rec_.Mdz;
+    s.Mndy = rec_.Mndy;
+    s.Mndz = rec_.Mndz;
+    s.Mndypl = rec_.Mndypl;
+    s.Mndzpl = rec_.Mndzpl;
+    s.Mfdy = rec_.Mfdy;
+    s.Mfdz = rec_.Mfdz;
   }
 
   const Family& family_;
@@ -174,7 +189,7 @@ private:
   CheckResults& out_;
   const Style style_;
   double x_ = 0;
-  double capacityY_ = 0;
+  double capacityY_ = 0, unshearedY_ = 0, betaY_ = 0;
 };
 
 /// The corner that governs: 1 or 3 when the first exceeds the second, else 2 or 3.
@@ -218,6 +233,7 @@ void AngleControl(const ProjectState& st, const BeamResults& beam, SectionForces
       s.Mvdy = Mud[corner - 1];
       s.Mvdz = Mvd[corner - 1];
       s.corner = corner;
+      s.sectionClass = rec.class_;
     }
     // A slip that is kept: the shear along z compares with IRvz but is stored in IRvy, so IRvz
     // stays 0, the line is rewritten at every point and its colour never turns.
