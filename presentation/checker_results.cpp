@@ -74,7 +74,7 @@ constexpr Extra kExtras[] = {
     {LoadPlateTrapez, Plate, " hw d bw cm co Avz "},
     {nullptr, Plate, " hw d c1 c2 Afw Afc Avz "},
     {nullptr, T, " hw d c "},
-    {nullptr, FlatBar, " Avz Avy "},
+    {nullptr, FlatBar, " Iw Avz Avy "},
     {nullptr, Tube, " Avz Avy "},
 };
 
@@ -182,17 +182,18 @@ std::string AxialSymbol(const GoverningSection& s, SectionControlKind kind) {
   return s.N < 0 ? "Ntd" : "Ncd";
 }
 
-void AddAxis(CheckerBlock& b, const GoverningSection& s, bool y, bool withN) {
+void AddAxis(CheckerBlock& b, const GoverningSection& s, bool y, bool withN, bool tube) {
   const std::string axis = y ? "y" : "z";
   const auto add = [&](const char* symbol, double value, const char* unit, const char* from) {
     Add(b, symbol + axis, value, unit, from);
   };
   const double V = y ? s.Vz : s.Vy;
   const double Vd = y ? s.Vdz : s.Vdy;
+  if (y && s.My < 0) Add(b, "|My|", -s.My, "kNm", "as the line uses it");
   add("M", y ? s.My : s.Mz, "kNm", "");
   Add(b, y ? "Vz" : "Vy", V, "kN", V > 0.5 * Vd ? "above half of Vd" : "up to half of Vd");
   Add(b, y ? "Vdz" : "Vdy", Vd, "kN");
-  add("beta", y ? s.betay : s.betaz, "", "on Wpl");
+  if (!tube) add("beta", y ? s.betay : s.betaz, "", "on Wpl");
   add("Md", y ? s.Mdy : s.Mdz, "kNm", "12.2.4");
   add("Mvd", y ? s.Mvdy : s.Mvdz, "kNm", "12.2.7, with shear");
   if (!s.exact || !withN) return;
@@ -202,12 +203,28 @@ void AddAxis(CheckerBlock& b, const GoverningSection& s, bool y, bool withN) {
     Add(b, y ? "Mndypl" : "Mndzpl", y ? s.Mndypl : s.Mndzpl, "kNm", "plastic, with N");
   }
   add("Mvnd", y ? s.Mvndy : s.Mvndz, "kNm", "12.2.8, with N and V");
+  // Beyond the axial capacity nothing is left; the line of both moments takes the size about z.
+  if (y || s.term != Term::NMyMz || s.Mvndz >= 0) return;
+  Add(b, "|Mndz|", std::fabs(s.Mndz), "kNm", "as the line uses it");
+  Add(b, "|Mvndz|", -s.Mvndz, "kNm", "as the line uses it");
+}
+
+/// The sum of stresses at the governing corner: the line of an angle leaves its signs out.
+std::string CornerSum(const GoverningSection& s, const std::string& axial) {
+  std::string sum = s.N != 0 ? "-N/" + axial : "";
+  if (s.My != 0) sum += s.corner == 1 ? " - Msud/Mrud" : " + Msud/Mrud";
+  if (s.Mz != 0) sum += s.corner == 2 ? " - Msvd/Mrvd" : " + Msvd/Mrvd";
+  return "|" + sum + "|";
 }
 
 void AddAngle(CheckerBlock& b, const GoverningSection& s) {
   Add(b, "corner", s.corner);
-  Add(b, "Msud", s.My, "kNm", "about u");
-  Add(b, "Mrud", s.Mvdy, "kNm", "at the corner");
+  Words(b, "Sum", CornerSum(s, AxialSymbol(s, Angle)));
+  if (s.My != 0) {
+    Add(b, "Msud", s.My, "kNm", "about u");
+    Add(b, "Mrud", s.Mvdy, "kNm", "at the corner");
+  }
+  if (s.Mz == 0) return;
   Add(b, "Msvd", s.Mz, "kNm", "about v");
   Add(b, "Mrvd", s.Mvdz, "kNm", "at the corner");
 }
@@ -232,8 +249,9 @@ CheckerBlock SectionLine(D d) {
     if (s.exact) Add(b, "n", std::fabs(s.N / s.Nd), "", "|N|/Nd");
   }
   if (s.term == Term::Angle) AddAngle(b, s);
-  if (Has(s.term, {Term::My, Term::MyMz, Term::NMy, Term::NMyMz})) AddAxis(b, s, true, n);
-  if (Has(s.term, {Term::Mz, Term::MyMz, Term::NMz, Term::NMyMz})) AddAxis(b, s, false, n);
+  const bool tube = KindOf(d) == Tube;
+  if (Has(s.term, {Term::My, Term::MyMz, Term::NMy, Term::NMyMz})) AddAxis(b, s, true, n, tube);
+  if (Has(s.term, {Term::Mz, Term::MyMz, Term::NMz, Term::NMyMz})) AddAxis(b, s, false, n, tube);
   if (s.exact && both) {
     Add(b, "alfa", s.alfa, "", "exponent");
     Add(b, "beta", s.beta, "", "exponent");
@@ -335,7 +353,7 @@ void AddBending(CheckerBlock& b, D d, bool angle) {
   Add(b, "betaMy", d.beam.betaMy);
   Add(b, "betaMz", d.beam.betaMz);
   Add(b, angle ? "ku" : "ky", r.ky, "", "12.3.4.2");
-  Add(b, angle ? "kv" : "kz", r.kz, "", "12.3.4.2");
+  if (!OneSided(d)) Add(b, angle ? "kv" : "kz", r.kz, "", "12.3.4.2");
   if (angle) {
     Add(b, "Mu", d.checks.Mu, "kNm", "size");
     Add(b, "Mud", d.checks.Mud, "kNm", "least corner");
@@ -363,6 +381,8 @@ CheckerBlock Buckling(D d) {
       d.checks.textY != BucklingText::None && (d.beam.MyAbsMax != 0 || d.beam.MzAbsMax != 0);
   if (!OneSided(d)) Add(b, "class", d.rec.class_, "", "for N and the moments");
   if (OneSided(d)) {
+    // The moment factor asks the class of a section that has one class: kept.
+    Add(b, "class", d.rec.class_, "", "of the section before");
     Add(b, "class top", d.rec.classTop, "", "compressed");
     Add(b, "class bottom", d.rec.classBottom, "", "compressed");
   }

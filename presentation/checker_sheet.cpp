@@ -20,10 +20,10 @@ constexpr double kLettersOfStep = 7.2;  ///< pt of letters for a step of one lin
 constexpr double kHeadingGap = 0.7;     ///< rows above a heading
 
 /// Stops of a row in columns of the page.
-constexpr double kValue = 18.6;  ///< right end of a number
-constexpr double kWords = 10.4;  ///< left end of words in the place of a number
-constexpr double kUnit = 19.2;
-constexpr double kFrom = 24.6;
+constexpr double kValue = 16.8;  ///< right end of a number
+constexpr double kWords = 9.4;   ///< left end of words in the place of a number
+constexpr double kUnit = 17.4;
+constexpr double kFrom = 22.4;
 
 /// A row, or a heading where the row is null.
 struct Placed {
@@ -40,38 +40,52 @@ std::vector<Placed> Flow(const CheckerBlocks& blocks) {
   return flow;
 }
 
-/// Whether a heading stands here with fewer than two rows below it in the column.
-bool HeadingAtFoot(const std::vector<Placed>& flow, std::size_t i, double left) {
-  return flow[i].row == nullptr && left < kHeadingGap + 3 && i + 1 < flow.size();
-}
-
 /// Columns that the flow takes when a column holds this many rows; a block that goes on in the
 /// next column has its heading again.
 struct Walk {
   double capacity;
+  bool whole;  ///< blocks are not broken
   double used = 0;
   int column = 0;
 
-  /// Makes room for an element; true where it begins a column.
-  bool Place(const std::vector<Placed>& flow, std::size_t i) {
-    const bool heading = flow[i].row == nullptr;
-    const double need = heading && used > 0 ? 1 + kHeadingGap : 1;
-    const bool next = used > 0 && (used + need > capacity ||
-                                   (heading && HeadingAtFoot(flow, i, capacity - used)));
-    if (next) {
-      ++column;
-      used = heading ? 1 : 2;
-    } else {
-      used += need;
+  /// Rows that must stay with a heading.
+  double Together(const CheckerBlock& block) const {
+    return std::min<double>(static_cast<double>(block.rows.size()), whole ? 1E9 : 2) + 1;
+  }
+
+  /// Makes room for an element; true where a block goes on in a new column.
+  bool Place(const Placed& element) {
+    const bool heading = element.row == nullptr;
+    const double gap = heading && used > 0 ? kHeadingGap : 0;
+    const double need = gap + (heading ? Together(*element.block) : 1);
+    const bool next = used > 0 && used + need > capacity;
+    if (!next) {
+      used += gap + 1;
+      return false;
     }
-    return next || (i == 0);
+    ++column;
+    used = heading ? 1 : 2;
+    return !heading;
   }
 };
 
-int ColumnsFor(const std::vector<Placed>& flow, double capacity) {
-  Walk walk{capacity};
-  for (std::size_t i = 0; i < flow.size(); ++i) walk.Place(flow, i);
+int ColumnsFor(const std::vector<Placed>& flow, Walk walk) {
+  for (const Placed& element : flow) {
+    walk.Place(element);
+    if (walk.used > walk.capacity) return kColumns + 1;  // a block longer than the page
+  }
   return walk.column + 1;
+}
+
+/// The shortest columns that hold the flow, unbroken blocks where the page allows.
+Walk WalkFor(const std::vector<Placed>& flow, double mostRows) {
+  const double fewest = static_cast<double>(flow.size()) / kColumns;
+  for (const bool whole : {true, false}) {
+    for (double rows = fewest; rows <= mostRows; rows += 0.5) {
+      if (ColumnsFor(flow, {rows, whole}) <= kColumns) return {rows, whole};
+    }
+  }
+  return {0, false};
 }
 
 bool IsNumber(const std::string& text) {
@@ -100,24 +114,24 @@ void DrawCheckerSheet(DrawingTarget& t, double line, const Design& d) {
   const auto flow = Flow(blocks);
   const double top = line + 1.4;
   double step = kMostStep;
-  while (ColumnsFor(flow, (kFoot - top) / step) > kColumns) step *= 0.98;
-  // Columns of one length.
-  double rows = static_cast<double>(flow.size()) / kColumns;
-  while (ColumnsFor(flow, rows) > kColumns) rows += 1;
+  Walk walk = WalkFor(flow, (kFoot - top) / step);
+  while (walk.capacity == 0) {
+    step *= 0.98;
+    walk = WalkFor(flow, (kFoot - top) / step);
+  }
 
   const double size = t.FontSize;
-  Walk walk{rows};
-  for (std::size_t i = 0; i < flow.size(); ++i) {
+  for (const Placed& element : flow) {
     t.FontSize = kLettersOfStep * step;
-    const bool first = walk.Place(flow, i);
+    const bool goesOn = walk.Place(element);
     const double column = kMargin + walk.column * (kWidth + kGap);
     const double at = top + (walk.used - 1) * step;
-    if (flow[i].row == nullptr) {
-      PutHeading(t, column, at, flow[i].block->heading);
+    if (element.row == nullptr) {
+      PutHeading(t, column, at, element.block->heading);
       continue;
     }
-    if (first) PutHeading(t, column, at - step, flow[i].block->heading + " (continued)");
-    DrawRow(t, column, at, *flow[i].row);
+    if (goesOn) PutHeading(t, column, at - step, element.block->heading + " (continued)");
+    DrawRow(t, column, at, *element.row);
   }
   t.FontSize = size;
 }
