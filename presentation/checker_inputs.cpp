@@ -64,7 +64,7 @@ const char* SupportName(int type) {
 void AddPoints(CheckerBlock& block, const ProjectState& st) {
   if (st.cp_mode == 0) return;
   for (int i = 1; i <= st.cp_count && i <= 3; ++i) {
-    Typed(block, "point " + std::to_string(i), st.cp_x[i], "m", "added to the points checked");
+    Typed(block, "point " + std::to_string(i), st.cp_x[i], "m", "checked too");
   }
 }
 
@@ -234,7 +234,8 @@ CheckerBlock LoadsEntered(const ProjectState& st) {
     Typed(b, "q " + std::to_string(n), st.*l.q, "kN/m", Where(st.*l.yz, st.*l.pv));
   }
   for (int i = 1; i <= 8; ++i) {
-    if (st.pm[i] == 0) continue;
+    // The points beside a position are checked, whether a load stands there or not.
+    if (st.pm[i] == 0 && st.pmx[i] == 0) continue;
     const bool moment = st.pm_pm[i] != 0;
     Typed(b, (moment ? "M " : "P ") + std::to_string(i), st.pm[i], moment ? "kNm" : "kN",
           Where(st.pm_yz[i], st.pm_pv[i]) + ", " + At(st.pmx[i]));

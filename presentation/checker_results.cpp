@@ -64,7 +64,7 @@ struct Extra {
 };
 constexpr Extra kExtras[] = {
     {LoadGeneral, DoubleSymmetric, ""},
-    {nullptr, DoubleSymmetric, " hw d c Avz Avy "},
+    {nullptr, DoubleSymmetric, " r hw d c Avz Avy "},
     {LoadBox, Hollow, " hw d bw c Avz Avy "},
     {nullptr, Hollow, " hw d bw c rin Avz Avy "},
     {nullptr, Angle, " u1 u2 u3 v1 v2 v3 Wu1 Wu2 Wu3 Wv1 Wv2 Wv3 "},
@@ -73,7 +73,7 @@ constexpr Extra kExtras[] = {
     {LoadPlateFlat, Plate, " hw d c1 Avz "},
     {LoadPlateTrapez, Plate, " hw d bw cm co Avz "},
     {nullptr, Plate, " hw d c1 c2 Afw Afc Avz "},
-    {nullptr, T, " hw d c "},
+    {nullptr, T, " hw c "},
     {nullptr, FlatBar, " Iw Avz Avy "},
     {nullptr, Tube, " Avz Avy "},
 };
@@ -363,7 +363,7 @@ void AddBending(CheckerBlock& b, D d, bool angle) {
   }
   Add(b, "My", d.beam.MyAbsMax, "kNm", "greatest size");
   Add(b, "Mdy", d.rec.Mdy, "kNm", "for this class");
-  if (d.beam.MzAbsMax != 0) {
+  if (d.beam.MzAbsMax != 0 && !OneSided(d)) {
     Add(b, "Mz", d.beam.MzAbsMax, "kNm", "greatest size");
     Add(b, "Mdz", d.rec.Mdz, "kNm", "for this class");
   }

@@ -98,11 +98,11 @@ void DrawRow(DrawingTarget& t, double column, double line, const CheckerRow& row
     PutRight(t, column + kValue, line, row.value);
     PutText(t, column + kUnit, line, row.unit);
     t.ForeColor = Role::Quiet;
-    PutText(t, column + kFrom, line, row.from);
+    PutFitted(t, column + kFrom, line, row.from, kWidth - kFrom);
     t.ForeColor = Role::Ink;
     return;
   }
-  PutText(t, column + kWords, line, row.value);
+  PutFitted(t, column + kWords, line, row.value, kWidth - kWords);
 }
 
 }  // namespace

@@ -31,7 +31,9 @@ struct Line {
 inline std::vector<std::vector<const RecordedShape*>> LinesOfPrint(const RecordingTarget& page) {
   std::vector<std::vector<const RecordedShape*>> lines;
   for (const RecordedShape* text : page.OfKind(ShapeKind::Text)) {
-    const bool goesOn = !lines.empty() && lines.back().back()->box.top == text->box.top &&
+    // Letters made smaller stand a little lower.
+    const bool goesOn = !lines.empty() &&
+                        std::fabs(lines.back().back()->box.top - text->box.top) < 2 &&
                         lines.back().back()->box.left < text->box.left + 1E-9;
     if (!goesOn) lines.emplace_back();
     lines.back().push_back(text);
