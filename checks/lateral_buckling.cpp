@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "core/supports.h"
 #include "sections/capacities.h"
 
 namespace korvane {
@@ -12,7 +13,9 @@ namespace {
 
 constexpr double kPi2 = kPiSingle * kPiSingle;
 
-/// A set of C factors that falls linearly with t = (1 - k)/0.5.
+/// A set of C factors that falls linearly with t = (1 - k)/0.5: between the values for k = 1 and
+/// k = 0.5 of a member under a spread load or a point load at mid-span, with pinned or fixed ends
+/// (ENV 1993-1-1, Annex F, Table F.1.2).
 struct CSet {
   double C1, C1t, C2, C2t, C3, C3t;
 };
@@ -40,6 +43,7 @@ double MiddleMoment(const PlaneForces& z) {
   return Mx;
 }
 
+/// C factors under end moments (ENV 1993-1-1, Annex F, Table F.1.1), by their ratio r.
 /// Reference value and slope of C1 and C3 for k = 1, 0.7, 0.5; a row holds from r = lower on.
 struct SegmentRow {
   double lower;
@@ -61,19 +65,9 @@ constexpr std::array<SegmentRow, 8> kSegments{{
 }};
 // clang-format on
 
-/// What a family's moment resistance against lateral buckling is worked out from.
-enum class Method { CriticalMoment, SinglySymmetric, Plate };
-
-Method MethodOf(int profileType) {
-  if (profileType >= 51 && profileType <= 56) return Method::Plate;
-  return profileType == 22 ? Method::SinglySymmetric : Method::CriticalMoment;
-}
-
-/// Imperfection factor of the reduction; 22 and 41 take another one with restraint points.
-double Imperfection(int profileType, bool restraints) {
-  if (profileType == 21) return 0.49;
-  if (profileType == 22 || profileType == 41) return restraints ? 0.21 : 0.49;
-  return 0.21;
+/// A plate carried family, whose stiffener is compressed.
+bool IsPlate(LateralMethod method) {
+  return method == LateralMethod::FlatStiffener || method == LateralMethod::FlangedStiffener;
 }
 
 /// Reduction factor by the slenderness; the transition 0.4 is fixed for all families.
@@ -92,18 +86,18 @@ double CriticalMoment(const ProjectState& st, const SectionRecord& rec, double C
 }
 
 /// Reduction of a plate carried family whose stiffener is compressed, from the stress sigma.
-double PlateReduction(const ProjectState& st, const SectionRecord& rec, double Lmm,
-                      LtbSegmentResult& segment, LtbResults& ltb) {
+double PlateReduction(LateralMethod method, const ProjectState& st, const SectionRecord& rec,
+                      double Lmm, LtbSegmentResult& result, LtbResults& ltb) {
   const double G = st.E / 2.6;
   double sigma = 0;
-  if (st.ProfileType == 51) {
+  if (method == LateralMethod::FlatStiffener) {
     sigma = (2 * std::pow(rec.h / Lmm, 2) + 1) * G * std::pow(rec.tw / rec.h, 2);
   } else {
     const double torsion = (std::pow(rec.tf2 / rec.tw, 2) * rec.Afc + rec.Afw) * G *
                            std::pow(rec.tw / (rec.h - rec.tf), 2) / (3 * rec.Afc + rec.Afw);
     sigma = torsion + kPi2 * st.E * rec.Iz / (rec.Afw / 3 + rec.Afc) / (Lmm * Lmm);
   }
-  segment.sigma = sigma;
+  result.sigma = sigma;
   ltb.lamLT = std::sqrt(st.fyk / sigma);
   const double lam = ltb.lamLT;
   const double a = 1 + (lam - 0.6) * 0.35 + lam * lam;
@@ -116,33 +110,35 @@ struct Signs {
   bool plateOnly;      ///< plate families: the plate is compressed all along
 };
 
-/// Mcr, lamLT, chiLT for the length in mm and the level term C2*zg, with the way there; Mdb of
-/// the segment in kNm.
-LtbSegmentResult DesignMoment(const ProjectState& st, const SectionRecord& rec, double level,
-                              const Signs& signs, bool restraints, double Lmm, LtbResults& ltb) {
+/// What buckles: its length in mm and the imperfection factor that counts for it.
+struct Segment {
+  double Lmm, alpha;
+};
+
+/// Mcr, lamLT, chiLT of the segment and the level term C2*zg, with the way there; Mdb in kNm.
+LtbSegmentResult DesignMoment(const LateralRule& rule, const ProjectState& st,
+                              const SectionRecord& rec, double level, const Signs& signs,
+                              const Segment& segment, LtbResults& ltb) {
   LtbSegmentResult s;
   s.C1 = ltb.C1;
   s.C3 = ltb.C3;
   s.beta = rec.betay;
-  switch (MethodOf(st.ProfileType)) {
-    case Method::Plate:
-      s.beta = signs.plateOnly ? rec.betaTop : rec.betaBottom;
-      ltb.chiLT = signs.plateOnly ? 1.0 : PlateReduction(st, rec, Lmm, s, ltb);
-      s.lamLT = signs.plateOnly ? 0.0 : double(ltb.lamLT);
-      s.chiLT = ltb.chiLT;
-      s.Mdb = MomentOf(st, s.chiLT * s.beta * rec.Wply);
-      return s;
-    case Method::SinglySymmetric:
-      s.beta = signs.topCompressed ? rec.betaTop : rec.betaBottom;
-      level -= ltb.C3 * (signs.topCompressed ? rec.zjTop : rec.zjBottom);
-      break;
-    case Method::CriticalMoment:
-      break;
+  if (IsPlate(rule.method)) {
+    s.beta = signs.plateOnly ? rec.betaTop : rec.betaBottom;
+    ltb.chiLT = signs.plateOnly ? 1.0 : PlateReduction(rule.method, st, rec, segment.Lmm, s, ltb);
+    s.lamLT = signs.plateOnly ? 0.0 : double(ltb.lamLT);
+    s.chiLT = ltb.chiLT;
+    s.Mdb = MomentOf(st, s.chiLT * s.beta * rec.Wply);
+    return s;
   }
-  ltb.Mcr = CriticalMoment(st, rec, ltb.C1, level, Lmm);
+  if (rule.method == LateralMethod::SinglySymmetric) {
+    s.beta = signs.topCompressed ? rec.betaTop : rec.betaBottom;
+    level -= ltb.C3 * (signs.topCompressed ? rec.zjTop : rec.zjBottom);
+  }
+  ltb.Mcr = CriticalMoment(st, rec, ltb.C1, level, segment.Lmm);
   ltb.lamLT = std::sqrt(s.beta * rec.Wply * st.fyk / ltb.Mcr);
-  s.alfa = Imperfection(st.ProfileType, restraints);
-  ltb.chiLT = Reduction(ltb.lamLT, s.alfa);
+  ltb.chiLT = Reduction(ltb.lamLT, segment.alpha);
+  s.alfa = segment.alpha;
   s.D = level;
   s.Mcr = ltb.Mcr;
   s.lamLT = ltb.lamLT;
@@ -155,21 +151,21 @@ void ClassifyFor(const Family& family, const ProjectState& st, double My, Sectio
                  SectionRecord& rec) {
   f.Ncl = f.N;
   f.My = My;
-  family.sectionClass(st, f, rec);
-  family.capacities(st, f, rec);
+  family.routines.sectionClass(st, f, rec);
+  family.routines.capacities(st, f, rec);
 }
 
 /// Za by the load level and its distance zg in the formula; middle is the moment at mid-span.
-void LoadLevelDistance(ProjectState& st, const SectionRecord& rec, double middle, LtbResults& ltb) {
-  const int type = st.ProfileType;
-  if (type >= 51 && type <= 56) return;
-  if (type == 41) {
+void LoadLevelDistance(const Family& family, ProjectState& st, const SectionRecord& rec,
+                       double middle, LtbResults& ltb) {
+  if (IsPlate(family.lateral.method)) return;
+  if (family.givenConstants) {
     st.Za = 0;
     ltb.zg = 0;
     st.LoadLevel = 2;
     return;
   }
-  const bool single = type == 22;
+  const bool single = family.lateral.method == LateralMethod::SinglySymmetric;
   switch (st.LoadLevel) {
     case 1:
       st.Za = single ? double(rec.ezel) : rec.h / 2;
@@ -195,7 +191,7 @@ void LtbNoRestraints(const Family& family, ProjectState& st, SectionForces& f, S
   ltb.C3 = c.C3;
   const PlaneForces& z = beam.z;
   const double middle = z.M[25];
-  LoadLevelDistance(st, rec, middle, ltb);
+  LoadLevelDistance(family, st, rec, middle, ltb);
   ClassifyFor(family, st, beam.MyAbsMax, f, rec);
   if (st.CFactorManual == 1) {
     ltb.C1 = st.C1i;
@@ -204,7 +200,8 @@ void LtbNoRestraints(const Family& family, ProjectState& st, SectionForces& f, S
   }
   ltb.Lk = st.L * st.k_ltb;
   const Signs signs{middle > 0, middle >= 0 && z.M_q[0] >= 0 && z.M_q[4] >= 0};
-  ltb.governing = DesignMoment(st, rec, ltb.C2 * ltb.zg, signs, false, ltb.Lk * 1000, ltb);
+  ltb.governing = DesignMoment(family.lateral, st, rec, ltb.C2 * ltb.zg, signs,
+                               {ltb.Lk * 1000, family.lateral.alpha}, ltb);
   ltb.governing.M1 = z.M[0];
   ltb.governing.M2 = z.M[50];
   ltb.least = ltb.governing;
@@ -266,12 +263,13 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
     ltb.C3 = c.C3;
     ClassifyFor(family, st, (M1 + M2) / 2, f, rec);
     const Signs signs{(M1 + M2) / 2 > 0, M1 >= 0 && M2 >= 0};
-    LtbSegmentResult segment = DesignMoment(st, rec, 0, signs, true, ltb.Lk * 1000, ltb);
+    LtbSegmentResult segment = DesignMoment(family.lateral, st, rec, 0, signs,
+                                            {ltb.Lk * 1000, family.lateral.alphaRestrained}, ltb);
     segment.segment = g;
     segment.M1 = M1;
     segment.M2 = M2;
     const double Mseg = segment.Mdb;
-    const double Ms = SegmentMoment(M, i1, i2, MethodOf(st.ProfileType) == Method::Plate);
+    const double Ms = SegmentMoment(M, i1, i2, IsPlate(family.lateral.method));
     const double ratio = std::fabs(Ms / Mseg);
     if (ratio >= worst) {  // a later segment wins a tie
       worst = ratio;
@@ -327,27 +325,27 @@ CFactors FactorsOfMember(const ProjectState& st, const BeamResults& beam) {
   const CFactors PF = At(kPointFixed, k);
   const bool oneFixedPoint = !above(M38, right);
   const bool fixedSpread = above(M38, right) || above(M12, left);
-  switch (st.SupportType) {
-    case 0: {
+  const Support* support = FindSupport(st.SupportType);
+  if (support == nullptr) return {};
+  // A spring support blends the factors with those of the pinned case.
+  const auto blended = [&](const CFactors& stiff, const CFactors& pinned) {
+    return IsSpring(st.SupportType) ? Mix(s, stiff, 1 - s, pinned) : stiff;
+  };
+  switch (support->stiff) {
+    case RigidCase::Pinned: {
       const double limit = std::fabs(Mx * 1.2 / 2);
       return std::fabs(M12) <= limit && std::fabs(M38) <= limit ? P : U;
     }
-    case 1:
-      return oneFixedPoint ? Mix(0.6, P, 0.4, PF) : Mix(0.6, U, 0.4, UF);
-    case 2:
-      return fixedSpread ? UF : PF;
-    case 3:
-      return fixedSpread ? Mix(s, UF, 1 - s, U) : Mix(s, PF, 1 - s, P);
-    case 4: {
+    case RigidCase::Propped:
+      return oneFixedPoint ? blended(Mix(0.6, P, 0.4, PF), P) : blended(Mix(0.6, U, 0.4, UF), U);
+    case RigidCase::Fixed:
+      return fixedSpread ? blended(UF, U) : blended(PF, P);
+    case RigidCase::Cantilever: {
       const bool spread = std::fabs(z.M_q[2]) > 1.2 * std::fabs(M0 + ML) / 2;
       return At(spread ? kSpreadPinned : kPointPinned, k / 2);
     }
-    case 5:
-      return oneFixedPoint ? Mix(s, Mix(0.6, P, 0.4, PF), 1 - s, P)
-                           : Mix(s, Mix(0.6, U, 0.4, UF), 1 - s, U);
-    default:
-      return {};
   }
+  return {};
 }
 
 void LateralTorsionalStep(const Family& family, ProjectState& st, SectionForces& f,

@@ -118,15 +118,9 @@ void Session::SavePathAs(const std::string& path) {
   st().iproj = FieldText("korvane", "iproj");
   st().CurrentFileName = path;
   title_ = "KORVANE-NS3472: " + path;
-  switch (SaveProject(path, st())) {
-    case FileResult::Ok:
-      break;
-    case FileResult::NotFound:
-      platform_.Message("can't save file - " + path);
-      return;
-    default:
-      return;
-  }
+  const WriteStatus written = SaveProject(path, st()).status;
+  if (written == WriteStatus::NoFolder) platform_.Message("can't save file - " + path);
+  if (written != WriteStatus::Ok) return;
   st().CurrentDir = FolderOf(path);
   Push(path);
 }
@@ -144,7 +138,7 @@ void Session::SaveCommand() {
   }
   st().iident = FieldText("korvane", "iident");
   st().iproj = FieldText("korvane", "iproj");
-  if (SaveProject(st().CurrentFileName, st()) == FileResult::NotFound) {
+  if (SaveProject(st().CurrentFileName, st()).status == WriteStatus::NoFolder) {
     platform_.Message("can't save file - " + st().CurrentFileName);
   }
 }

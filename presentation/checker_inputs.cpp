@@ -4,13 +4,10 @@
 
 #include "analysis/loads.h"
 #include "checks/buckling_curves.h"
-#include "core/project_fields.h"
+#include "core/supports.h"
 #include "core/text.h"
 #include "presentation/checker_rows.h"
 #include "sections/names.h"
-#include "sections/p06bas.h"
-#include "sections/p23bas.h"
-#include "sections/p31bas.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
@@ -55,12 +52,6 @@ void Typed(CheckerBlock& block, std::string symbol, const int16& value, std::str
       {std::move(symbol), std::to_string(int(value)), std::move(unit), std::move(from)});
 }
 
-const char* SupportName(int type) {
-  constexpr const char* names[] = {"pinned - pinned", "pinned - fixed", "fixed - fixed",
-                                   "spring - spring", "fixed - free",   "pinned - spring"};
-  return type >= 0 && type < 6 ? names[type] : "no such support";
-}
-
 void AddPoints(CheckerBlock& block, const ProjectState& st) {
   if (st.cp_mode == 0) return;
   for (int i = 1; i <= st.cp_count && i <= 3; ++i) {
@@ -74,12 +65,13 @@ CheckerBlock Member(D d) {
   CheckerBlock b{"Member and supports", {}};
   Typed(b, "L", st.L, "m");
   Words(b, "Forces by", st.AnalysisMode == 1 ? "loads" : "end forces");
-  Words(b, "Supports", SupportName(st.SupportType));
-  if (st.SupportType == 3 || st.SupportType == 5) {
+  const Support* support = FindSupport(st.SupportType);
+  Words(b, "Supports", support != nullptr ? support->name : "no such support");
+  if (IsSpring(st.SupportType)) {
     Typed(b, "Restraint", st.SpringRestraint, "%", "of a fixed end");
   }
   AddPoints(b, st);
-  if (family != nullptr && family->webOption) {
+  if (family != nullptr && family->options.web) {
     Words(b, "End stiff.", st.EndStiffener == 1 ? "stiff" : "weak");
     if (st.WebStiffener == 1) {
       Typed(b, "a", st.a_webstiff, "mm", "between web stiffeners");
@@ -87,11 +79,11 @@ CheckerBlock Member(D d) {
       Words(b, "Web stiff.", "none");
     }
   }
-  if (family != nullptr && family->bendingFrame) {
+  if (family != nullptr && family->options.bending) {
     Words(b, "Modulus",
           st.BendingCapacityMode == 1 ? "elastic in class 1-2" : "plastic in class 1-2");
   }
-  if (family != nullptr && family->sectionControlFrame) {
+  if (family != nullptr && family->options.sectionControl) {
     Words(b, "Interaction",
           st.SectionControlMode == 1 ? "with exponents (12.2.6)" : "conservative sum (12.2.6)");
   }
@@ -126,14 +118,9 @@ CheckerBlock MaterialAndFactors(D d) {
   return b;
 }
 
-/// "p24_" of the fields that a family keeps for itself.
-std::string OwnPrefix(const ProjectState& st) {
-  return "p" + std::to_string(int(st.ProfileType)) + "_";
-}
-
-/// An option that is a family's own.
+/// An option that a family has for itself.
 struct OwnOption {
-  LoadFn load;
+  OutlineKind family;
   const char* symbol;
   std::string (*words)(const ProjectState&);
 };
@@ -144,21 +131,38 @@ std::string FlangeLoading(const ProjectState& st) {
   return st.HsqKind == 0 ? "considered" : "off";
 }
 constexpr OwnOption kOwnOptions[] = {
-    {LoadGeneral, "Class",
+    {OutlineKind::General, "Class",
      [](const ProjectState& st) { return std::to_string(int(st.p41_option)) + ", entered"; }},
-    {LoadTube, "Made",
+    {OutlineKind::Tube, "Made",
      [](const ProjectState& st) -> std::string {
        return st.TubeKind == 1 ? "hot formed" : "cold formed";
      }},
-    {LoadBox, "Curves as",
+    {OutlineKind::Box, "Curves as",
      [](const ProjectState& st) -> std::string {
        return st.BoxWeld == 0 ? "cold rolled" : "welded";
      }},
-    {LoadHsqSymmetric, "Flange load", FlangeLoading},
-    {LoadHsqOneSided, "Flange load", FlangeLoading},
-    {LoadHotRectangular, "Turned", Turned},
-    {LoadColdRectangular, "Turned", Turned},
+    {OutlineKind::HsqSymmetric, "Share",
+     [](const ProjectState& st) { return FileText(st.p24_load) + " % on one flange"; }},
+    {OutlineKind::HsqSymmetric, "Flange load", FlangeLoading},
+    {OutlineKind::HsqOneSided, "Flange load", FlangeLoading},
+    {OutlineKind::Hollow, "Turned", Turned},
 };
+
+/// Typed dimensions, or for a general profile its constants.
+void AddDimensions(CheckerBlock& b, const Family& family, const ProjectState& st) {
+  for (const Dimension& dimension : family.dimensions) {
+    std::visit(
+        [&](auto member) {
+          if constexpr (!std::is_same_v<decltype(member), std::string ProjectState::*>) {
+            Typed(b, dimension.letter, st.*member, checker::SectionUnit(dimension.letter));
+          }
+        },
+        dimension.field);
+  }
+  for (const OwnOption& own : kOwnOptions) {
+    if (own.family == family.outline) Words(b, own.symbol, own.words(st));
+  }
+}
 
 CheckerBlock SectionInput(D d) {
   const ProjectState& st = d.st;
@@ -170,20 +174,7 @@ CheckerBlock SectionInput(D d) {
     Words(b, "Size", ListEntry(sizes.catalogue, d.lib->catalogues, sizes.row));
     Words(b, "Row", std::to_string(sizes.row + 1) + " of " + ShapeOf(sizes.catalogue).file);
   }
-  const std::string prefix = OwnPrefix(st);
-  ForEachField(st, [&](const char* name, const auto& field) {
-    using Field = std::remove_cvref_t<decltype(field)>;
-    if (std::string_view(name).substr(0, prefix.size()) != prefix) return;
-    if constexpr (std::is_same_v<Field, float32> || std::is_same_v<Field, number>) {
-      const std::string symbol = std::string(name).substr(prefix.size());
-      Typed(b, symbol, field, symbol == "load" ? "%" : checker::SectionUnit(symbol));
-    } else if constexpr (std::is_same_v<Field, std::string>) {
-      Words(b, "Name", field);
-    }
-  });
-  for (const OwnOption& own : kOwnOptions) {
-    if (family != nullptr && family->load == own.load) Words(b, own.symbol, own.words(st));
-  }
+  if (family != nullptr) AddDimensions(b, *family, st);
   if (sizes.hasCatalogue && sizes.catalogue == Cat::HP) {
     const CatalogueTable& bulb = d.lib->catalogues[Cat::HP];
     b.rows.push_back({"bulb width", CheckerDigits(bulb(sizes.row, 3)), "mm", "catalogue"});
@@ -271,8 +262,8 @@ CheckerBlock BucklingInput(D d) {
   const ProjectState& st = d.st;
   const Family* family = FindFamily(st.ProfileType);
   CheckerBlock b{"Column buckling as entered", {}};
-  if (family == nullptr || family->buckling == BucklingKind::None) return b;
-  const bool angle = family->buckling == BucklingKind::Angle;
+  if (family == nullptr || family->routines.buckling == BucklingKind::None) return b;
+  const bool angle = family->routines.buckling == BucklingKind::Angle;
   const auto factor = [&](const char* symbol, const float32& k, int c) {
     Typed(b, symbol, k, "",
           c == 6   ? "entered"
@@ -302,14 +293,14 @@ CheckerBlock LateralInput(D d) {
   const ProjectState& st = d.st;
   const Family* family = FindFamily(st.ProfileType);
   CheckerBlock b{"Lateral buckling as entered", {}};
-  if (family == nullptr || !family->lateral) return b;
+  if (family == nullptr || family->lateral.method == LateralMethod::None) return b;
   Words(b, "Check", st.LateralTorsionalBuckling == 1 ? "on" : "off");
   if (st.LateralTorsionalBuckling != 1) return b;
   Typed(b, "k", st.k_ltb, "", st.LateralBucklingCase == 5 ? "entered" : "by end case");
   Typed(b, "restraints", st.LtbSegments, "", "points on the flange");
   const bool whole = st.AnalysisMode == 1 && st.LtbSegments == 0;
   Words(b, "Method", whole ? "whole member, by its diagram" : "by segments, C2 and Za unused");
-  const bool plate = family->sectionControl == SectionControlKind::Plate;
+  const bool plate = family->routines.sectionControl == SectionControlKind::Plate;
   if (plate) {
     Words(b, "C1 C2 C3 Za", "used by nothing in this family");
   } else if (whole) {

@@ -8,12 +8,7 @@
 #include "core/text.h"
 #include "presentation/checker_rows.h"
 #include "sections/capacities.h"
-#include "sections/p06bas.h"
-#include "sections/p10bas.h"
-#include "sections/p22bas.h"
 #include "sections/p23bas.h"
-#include "sections/p31bas.h"
-#include "sections/p51bas.h"
 #include "sections/profile_table.h"
 #include "sections/section_fields.h"
 #include "sections/shown_values.h"
@@ -38,18 +33,18 @@ void Words(CheckerBlock& block, std::string symbol, std::string words) {
 
 SectionControlKind KindOf(D d) {
   const Family* family = FindFamily(d.st.ProfileType);
-  return family == nullptr ? None : family->sectionControl;
+  return family == nullptr ? None : family->routines.sectionControl;
 }
 
 bool IsSingleI(D d) {
   const Family* family = FindFamily(d.st.ProfileType);
-  return family != nullptr && family->load == LoadSingleI;
+  return family != nullptr && family->outline == OutlineKind::SingleI;
 }
 bool OneSided(D d) {
   return KindOf(d) == SingleSymmetric || KindOf(d) == Plate;
 }
-bool IsAngle(D d) {
-  return KindOf(d) == Angle;
+bool HasCorners(D d) {
+  return IsAngle(d.st.ProfileType);
 }
 
 // --- Section values
@@ -57,39 +52,45 @@ bool IsAngle(D d) {
 
 /// Values that a family writes into the record and no other block of this sheet shows. What a
 /// family doesn't write stands there from another one.
-struct Extra {
-  LoadFn load;  ///< null: any family of the kind that isn't named
-  SectionControlKind kind;
-  std::string_view names;
-};
-constexpr Extra kExtras[] = {
-    {LoadGeneral, DoubleSymmetric, ""},
-    {nullptr, DoubleSymmetric, " r hw d c Avz Avy "},
-    {LoadBox, Hollow, " hw d bw c Avz Avy "},
-    {nullptr, Hollow, " hw d bw c rin Avz Avy "},
-    {nullptr, Angle, " u1 u2 u3 v1 v2 v3 Wu1 Wu2 Wu3 Wv1 Wv2 Wv3 "},
-    {LoadSingleI, SingleSymmetric, " hw d c1 c2 Avz zs zjTop zjBottom betafTop betafBottom "},
-    {nullptr, SingleSymmetric, " hw d bw cm co Avz "},
-    {LoadPlateFlat, Plate, " hw d c1 Avz "},
-    {LoadPlateTrapez, Plate, " hw d bw cm co Avz "},
-    {nullptr, Plate, " hw d c1 c2 Afw Afc Avz "},
-    {nullptr, T, " hw c "},
-    {nullptr, FlatBar, " Iw Avz Avy "},
-    {nullptr, Tube, " Avz Avy "},
-};
-
-std::string_view ExtrasOf(D d) {
-  const Family* family = FindFamily(d.st.ProfileType);
-  for (const Extra& e : kExtras) {
-    if (e.kind == KindOf(d) && (e.load == nullptr || e.load == family->load)) return e.names;
+std::string_view ExtrasOf(OutlineKind outline) {
+  switch (outline) {
+    case OutlineKind::Hollow:
+      return " hw d bw c rin Avz Avy ";
+    case OutlineKind::Box:
+      return " hw d bw c Avz Avy ";
+    case OutlineKind::Angle:
+      return " u1 u2 u3 v1 v2 v3 Wu1 Wu2 Wu3 Wv1 Wv2 Wv3 ";
+    case OutlineKind::SingleI:
+      return " hw d c1 c2 Avz zs zjTop zjBottom betafTop betafBottom ";
+    case OutlineKind::HsqSymmetric:
+    case OutlineKind::HsqOneSided:
+    case OutlineKind::BoxUnequal:
+      return " hw d bw cm co Avz ";
+    case OutlineKind::T:
+      return " hw c ";
+    case OutlineKind::FlatBar:
+      return " Iw Avz Avy ";
+    case OutlineKind::Tube:
+      return " Avz Avy ";
+    case OutlineKind::PlateFlat:
+      return " hw d c1 Avz ";
+    case OutlineKind::PlateTrapez:
+      return " hw d bw cm co Avz ";
+    case OutlineKind::PlateAngle:
+    case OutlineKind::PlateWeldedAngle:
+    case OutlineKind::PlateBulb:
+    case OutlineKind::PlateT:
+      return " hw d c1 c2 Afw Afc Avz ";
+    case OutlineKind::General:
+      return {};
+    default:
+      return " r hw d c Avz Avy ";
   }
-  return {};
 }
 
 /// An equal angle's second corner lies on an axis, and the third is the first.
 bool Mirrored(D d, std::string_view name) {
-  const Family* family = FindFamily(d.st.ProfileType);
-  return family->load == LoadEqualAngle &&
+  return KindOf(d) == EqualAngle &&
          (name == "v2" || name == "Wu3" || name == "Wv2" || name == "Wv3");
 }
 
@@ -99,7 +100,9 @@ CheckerBlock SectionValues(D d) {
     return std::any_of(b.rows.begin(), b.rows.end(),
                        [name](const CheckerRow& row) { return row.symbol == name; });
   };
-  const std::string_view extras = ExtrasOf(d);
+  const Family* family = FindFamily(d.st.ProfileType);
+  if (family == nullptr) return b;
+  const std::string_view extras = ExtrasOf(family->outline);
   const auto listed = [extras](std::string_view name) {
     return extras.find(" " + std::string(name) + " ") != std::string_view::npos;
   };
@@ -108,7 +111,7 @@ CheckerBlock SectionValues(D d) {
   for (const ShownValues* values : {&dimensions, &properties}) {
     for (const ShownValue& v : *values) {
       // The values of an angle's corners come below, each under the name of its own corner.
-      if (has(v.name) || (IsAngle(d) && (v.name == "Wu1" || v.name == "Wv2"))) continue;
+      if (has(v.name) || (HasCorners(d) && (v.name == "Wu1" || v.name == "Wv2"))) continue;
       Add(b, std::string(v.name), v.value, std::string(v.unit));
     }
   }
@@ -126,8 +129,8 @@ CheckerBlock SectionValues(D d) {
 /// section of four walls has another area along y.
 void AddCheckedShear(CheckerBlock& b, D d) {
   const Family* family = FindFamily(d.st.ProfileType);
-  if (family == nullptr || family->shear == nullptr) return;
-  if (family->webOption) Add(b, "Vdz line", d.rec.Vdz, "kN", "with the stiffeners");
+  if (family == nullptr || family->routines.shear == nullptr) return;
+  if (family->options.web) Add(b, "Vdz line", d.rec.Vdz, "kN", "with the stiffeners");
   if (KindOf(d) == Hollow) Add(b, "Vdy line", d.rec.Vdy, "kN", "two flanges");
 }
 
@@ -139,8 +142,7 @@ CheckerBlock SectionCapacitiesOf(D d) {
     Add(b, std::string(v.name), v.value, std::string(v.unit), shear ? "as printed" : "");
   }
   AddCheckedShear(b, d);
-  const Family* family = FindFamily(d.st.ProfileType);
-  if (family != nullptr && (family->load == LoadHsqSymmetric || family->load == LoadHsqOneSided)) {
+  if (IsHsq(d.st.ProfileType)) {
     Add(b, "qf", FlangeLoad(d.st) / 60, "kN/m", "on the flange, ULS");
     Add(b, "factor", d.rec.MdyTop / MomentOf(d.st, d.rec.betaTop * d.rec.Wply), "",
         "flange load, on Mdy");
@@ -219,7 +221,7 @@ std::string CornerSum(const GoverningSection& s, const std::string& axial) {
 
 void AddAngle(CheckerBlock& b, const GoverningSection& s) {
   Add(b, "corner", s.corner);
-  Words(b, "Sum", CornerSum(s, AxialSymbol(s, Angle)));
+  Words(b, "Sum", CornerSum(s, AxialSymbol(s, EqualAngle)));
   if (s.My != 0) {
     Add(b, "Msud", s.My, "kNm", "about u");
     Add(b, "Mrud", s.Mvdy, "kNm", "at the corner");
@@ -332,8 +334,8 @@ CheckerBlock LeastLateral(D d) {
 
 bool ComputesKlt(D d) {
   const Family* family = FindFamily(d.st.ProfileType);
-  return family != nullptr && (family->buckling == BucklingKind::DoubleSymmetric ||
-                               family->buckling == BucklingKind::FlatBar);
+  return family != nullptr && (family->routines.buckling == BucklingKind::DoubleSymmetric ||
+                               family->routines.buckling == BucklingKind::FlatBar);
 }
 
 bool UsesKlt(D d) {
@@ -376,7 +378,7 @@ void AddBending(CheckerBlock& b, D d, bool angle) {
 CheckerBlock Buckling(D d) {
   CheckerBlock b{"Column buckling lines", {}};
   if (!d.checks.bucklingRan) return b;
-  const bool angle = IsAngle(d);
+  const bool angle = HasCorners(d);
   const bool bending =
       d.checks.textY != BucklingText::None && (d.beam.MyAbsMax != 0 || d.beam.MzAbsMax != 0);
   if (!OneSided(d)) Add(b, "class", d.rec.class_, "", "for N and the moments");

@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/files.h"
 #include "core/text.h"
 #include "sections/databasebas.h"
 
@@ -12,8 +11,6 @@ namespace korvane {
 namespace {
 
 constexpr int kColumns = 16;
-constexpr int kNameFamily = 41;
-constexpr int kNameColumn = 3;
 
 /// Takes the next line off the text; nothing at its end.
 std::optional<std::string_view> NextLine(std::string_view& rest) {
@@ -39,7 +36,9 @@ number NumberOf(std::string_view line) {
 }
 
 bool IsName(const DatabaseRow& row, int column) {
-  return column == kNameColumn && row.col[1] == kNameFamily;
+  const Family* family = FamilyOfRow(row);
+  const StateField* field = family == nullptr ? nullptr : DatabaseField(family->code, column);
+  return field != nullptr && IsText(*field);
 }
 
 /// Whether the text held a complete row.
@@ -75,7 +74,7 @@ void ReadDatabase(const std::string& path, Database& db) {
   }
 }
 
-bool WriteDatabase(const std::string& path, const Database& db) {
+WriteResult WriteDatabase(const std::string& path, const Database& db) {
   std::string text;
   for (int i = 0; i <= db.DbLast; ++i) {
     const DatabaseRow& row = db.DbTable[i];
@@ -88,7 +87,7 @@ bool WriteDatabase(const std::string& path, const Database& db) {
       text += "\r\n";
     }
   }
-  return WriteFileAtomically(path, text);
+  return WriteFile(path, text);
 }
 
 }  // namespace korvane

@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "core/files.h"
 #include "core/project_state.h"
+#include "sections/profile_table.h"
 #include "sections/readprofiles.h"
 
 namespace korvane {
@@ -14,7 +16,7 @@ namespace korvane {
 /// 3 to 16 the family's numbers. Of a general profile column 3 is its name.
 struct DatabaseRow {
   Indexed<number, 1, 16> col;
-  std::string name;  ///< column 3 of family 41
+  std::string name;  ///< the column that holds a text
 };
 
 /// Rows 0 to 80. Lives as long as the session; no design owns it.
@@ -34,9 +36,8 @@ void ResetDatabase(Database& db);
 /// file leaves an empty table. DbRow and DbFile stay.
 void ReadDatabase(const std::string& path, Database& db);
 
-/// Writes rows 0 to DbLast, 16 lines a row, atomically. Errors are ignored; returns whether the
-/// file was written.
-bool WriteDatabase(const std::string& path, const Database& db);
+/// Writes rows 0 to DbLast, 16 lines a row, as WriteFile does.
+WriteResult WriteDatabase(const std::string& path, const Database& db);
 
 /// The text of one row in the list of the form. Throws ArithmeticFault for a catalogue row that
 /// does not exist.
@@ -45,6 +46,12 @@ std::string DatabaseEntry(const DatabaseRow& row, const Catalogues& cat);
 /// The list of the form, one entry for each row 0 to DbLast. A row whose catalogue entry does
 /// not exist (a damaged file) is shown as " ".
 std::vector<std::string> FillDatabaseList(const Database& db, const Catalogues& cat);
+
+/// The state's field of a family's column from 3 on, or nullptr where the family has none there.
+const StateField* DatabaseField(int family, int column);
+
+/// The family of a row, or nullptr where column 1 is no code.
+const Family* FamilyOfRow(const DatabaseRow& row);
 
 /// The family code of the row DbRow.
 int DatabaseRowType(const Database& db);

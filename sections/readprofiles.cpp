@@ -6,8 +6,10 @@
 #include <bit>
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
+#include <string>
 #include <system_error>
+
+#include "core/files.h"
 
 namespace korvane {
 namespace {
@@ -64,16 +66,11 @@ float Value(const unsigned char* bytes) {
   return (bits & exponent) == exponent ? 0.0F : std::bit_cast<float>(bits);
 }
 
-// The file's bytes, at most `limit` of them; none when it can't be read. Only plain files are
-// opened: a pipe of that name would wait for ever.
+// The file's bytes, at most `limit` of them; none when it can't be read.
 std::vector<unsigned char> ReadBytes(const std::filesystem::path& file, std::size_t limit) {
-  std::error_code ignored;
-  if (!std::filesystem::is_regular_file(file, ignored)) return {};
-  std::vector<unsigned char> bytes(limit);
-  std::ifstream in(file, std::ios::binary);
-  in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(limit));
-  bytes.resize(static_cast<std::size_t>(in.gcount()));
-  return bytes;
+  const std::string bytes = ReadWholeFile(file.string()).value_or(std::string());
+  return {bytes.begin(),
+          bytes.begin() + static_cast<std::ptrdiff_t>(std::min(bytes.size(), limit))};
 }
 
 CatalogueTable ReadTable(const std::string& folder, Cat cat) {

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/console/run_design.h"
 
+#include <string_view>
 #include <utility>
 
 #include "checks/results.h"
+#include "core/text.h"
+#include "front/console/files_of_commands.h"
 
 namespace korvane {
 
@@ -34,9 +37,30 @@ void CheckMaxIR(const Design& design, DesignRun& run) {
 
 }  // namespace
 
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// A text at the version's place counts as 0, which is an old version.
+bool HoldsVersion(std::string_view bytes) {
+  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  return BeginsWithNumber(bytes.substr(0, bytes.find_first_of("\r\n")));
+}
+
+FileResult ReadProjectInput(const std::string& path, ProjectState& st, DesignRun& run) {
+  bool notFound = false;
+  const auto bytes = ReadInput(path, &notFound);
+  if (!bytes) return notFound ? FileResult::NotFound : FileResult::OtherError;
+  const FileResult result = ReadProject(*bytes, st);
+  if (result == FileResult::Ok && !HoldsVersion(*bytes)) run.remarks.emplace_back(kNoVersion);
+  return result;
+}
+
+}  // namespace
+
 DesignRun RunProject(Design& design, const std::string& path) {
   DesignRun run;
-  run.file = OpenProject(path, design.st);
+  run.file = ReadProjectInput(path, design.st, run);
   if (run.file != FileResult::Ok) return run;
   design.st.CurrentFileName = path;
   try {

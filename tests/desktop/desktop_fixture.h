@@ -15,7 +15,7 @@
 #include "front/desktop/main_window.h"
 #include "front/desktop/panes.h"
 #include "front/desktop/theme.h"
-#include "places.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 
@@ -55,7 +55,7 @@ private:
 class DesktopTest : public testing::Test {
 protected:
   DesktopTest()
-      : library_(ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data")),
+      : library_(SourceLibrary()),
         session_(library_, platform_, false,
                  Folders{library_->folder, folder_.path().toStdString()}) {
     session_.Start();

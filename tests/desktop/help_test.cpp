@@ -17,6 +17,7 @@
 #include "places.h"
 #include "sections/profile_table.h"
 #include "tests/desktop/desktop_fixture.h"
+#include "tests/support/source_library.h"
 #include "tools/help_tables.h"
 
 namespace korvane {
@@ -187,7 +188,7 @@ TEST(HelpBookTest, FirstDesignComesOutAsThePageSays) {
 // --- The page of inputs -------------------------------------------------------------------------
 
 TEST(HelpTablesTest, InputsPageIsWhatTheTablesSay) {
-  const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
+  const auto& library = SourceLibrary();
   EXPECT_EQ(Page("inputs.html").toStdString(), InputsPage(library))
       << "make it anew with scripts/help_figures";
 }
@@ -246,7 +247,7 @@ TEST(HelpBookTest, SearchWantsAllWordsAndShowsTheFirst) {
 class HelpDeskTest : public testing::Test {
 protected:
   HelpDeskTest()
-      : library_(ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data")),
+      : library_(SourceLibrary()),
         session_(library_, platform_, false, Folders{library_->folder, own_.path().toStdString()}) {
     session_.Start();
     desktop_ = std::make_unique<Desktop>(session_);

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "tests/front/front_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -29,7 +30,7 @@ double StateOf(const Session& s, const std::string& form, const std::string& con
 }
 
 int TheFreeRow() {
-  return testing::TheLibrary()->materials.Last();
+  return SourceLibrary()->materials.Last();
 }
 
 void Prepare(Running& r, const std::string& form, const std::string& control) {

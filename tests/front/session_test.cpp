@@ -6,6 +6,7 @@
 
 #include "sections/profile_table.h"
 #include "tests/front/front_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -14,7 +15,7 @@ using testing::Running;
 
 TEST(Start, NoCalculationRunsBeforeTheMainWindowHasTheFocus) {
   testing::RememberingPlatform platform;
-  Session s(testing::TheLibrary(), platform, false);
+  Session s(SourceLibrary(), platform, false);
   s.Start();
   EXPECT_EQ(s.Calculations(), 0);
   EXPECT_EQ(s.Title("korvane"), "KORVANE-NS3472: ");

@@ -13,6 +13,7 @@
 #include "presentation/checker_rows.h"
 #include "sections/profile_table.h"
 #include "sections/shown_values.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -60,7 +61,7 @@ protected:
 };
 
 TEST_P(ReportPdf, HoldsTheSectionAndTheChecks) {
-  Design d = StartedDesign(ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data"));
+  Design d = StartedDesign(SourceLibrary());
   const DesignRun run = RunProject(d, project_);
   ASSERT_EQ(run.file, FileResult::Ok);
   ASSERT_FALSE(run.fault.has_value()) << run.what;

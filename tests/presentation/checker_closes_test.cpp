@@ -5,22 +5,17 @@
 
 #include <regex>
 
-#include "../design/random_states.h"
 #include "core/calculation.h"
-#include "places.h"
 #include "presentation/aprint.h"
 #include "sections/profile_table.h"
-#include "sheet_reader.h"
+#include "tests/design/random_states.h"
+#include "tests/presentation/sheet_reader.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
 
 constexpr unsigned kMembersPerFamily = 16;  // 512 of all 32
-
-std::shared_ptr<const Library> TheLibrary() {
-  static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
-  return library;
-}
 
 RecordingTarget Printed(const Design& d, Report report) {
   RecordingTarget page;
@@ -68,7 +63,7 @@ protected:
   template <class Test>
   void ForEachMember(Test&& test) {
     for (unsigned n = 0; n < kMembersPerFamily; ++n) {
-      Design d(TheLibrary());
+      Design d(SourceLibrary());
       StartDesign(d);
       RandomState(1000 * n + static_cast<unsigned>(GetParam()), GetParam(), d.st);
       try {
@@ -117,7 +112,7 @@ TEST_P(CheckerCloses, EveryLineByItsOwnFormula) {
       ++lines;
     }
   });
-  const bool checked = FindFamily(GetParam())->sectionControl != SectionControlKind::None;
+  const bool checked = FindFamily(GetParam())->routines.sectionControl != SectionControlKind::None;
   EXPECT_EQ(lines > 0, checked);
 }
 
@@ -206,7 +201,8 @@ TEST_P(CheckerCloses, MomentFactorsOfColumnBuckling) {
       const double shapeZ = plastic ? section("Wplz") / section("Welz") - 1 : 0;
       closes("kz", r("lambda z") * (2 * r("betaMz") - 4) + shapeZ, r("Xz"), 1.5);
     }
-    if (r.Has("klt") && FindFamily(d.st.ProfileType)->buckling == BucklingKind::DoubleSymmetric) {
+    if (r.Has("klt") &&
+        FindFamily(d.st.ProfileType)->routines.buckling == BucklingKind::DoubleSymmetric) {
       closes("klt", 0.15 * (r("lambda z") * r("betaMy") - 1), r("Xz"), 1);
     }
   });

@@ -7,23 +7,18 @@
 #include <map>
 #include <set>
 
-#include "../design/random_states.h"
 #include "core/calculation.h"
 #include "core/project_fields.h"
-#include "places.h"
 #include "presentation/aprint.h"
 #include "presentation/checker_rows.h"
 #include "sections/profile_table.h"
 #include "sections/section_fields.h"
-#include "sheet_reader.h"
+#include "tests/design/random_states.h"
+#include "tests/presentation/sheet_reader.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
-
-std::shared_ptr<const Library> TheLibrary() {
-  static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
-  return library;
-}
 
 /// A member of the family with every kind of input in use.
 void LoadFully(ProjectState& st, bool endForces) {
@@ -55,7 +50,7 @@ struct Case {
 };
 
 Design Designed(const Case& c) {
-  Design d(TheLibrary());
+  Design d(SourceLibrary());
   StartDesign(d);
   d.st.ProfileType = c.family;
   LoadFully(d.st, c.endForces);
@@ -230,7 +225,7 @@ bool Kept(int family, const std::string& symbol) {
 TEST_P(CheckerSheet, HoldsNothingOfTheSectionBefore) {
   const Design fresh = Designed(GetParam());
   for (const Family& other : AllFamilies()) {
-    Design d(TheLibrary());
+    Design d(SourceLibrary());
     StartDesign(d);
     d.st.ProfileType = other.code;
     LoadFully(d.st, GetParam().endForces);

@@ -10,6 +10,7 @@
 #include "sections/p06bas.h"
 #include "sections/p23bas.h"
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -91,10 +92,10 @@ TEST(Rolled, ShearBeyondHalfJumpsToTheFlangesAndThePlasticRest) {
   m.All();
   m.f.N = 0.0;
   m.f.Vz = 0.5 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.Mvndy), double(m.rec.Mndy));
   m.f.Vz = m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_NEAR(m.rec.Mvndy, m.rec.Mfdy, 1e-3);
 }
 
@@ -115,7 +116,7 @@ TEST(Channel, UnpLeavesTheRadiusOfTheSectionBefore) {
 TEST(Channel, TheShearCentreIsTakenFromTheCentroid) {
   Made m(103);
   m.Load();
-  const CatalogueTable& t = testing::TheLibrary()->catalogues[Cat::PFC];
+  const CatalogueTable& t = SourceLibrary()->catalogues[Cat::PFC];
   EXPECT_NEAR(m.rec.e, t(0, 20) * 10, 1e-4);
   EXPECT_NEAR(m.rec.es, t(0, 21) * 10 - t(0, 20) * 10, 1e-4);
 }
@@ -158,7 +159,7 @@ TEST(Hollow, TheExponentRunsFromItsValueToTheCapAndFallsToOne) {
   m.All();
   const auto exponent = [&](double n) {
     m.f.N = n * m.rec.Ncrd;
-    m.family().capacities(m.st, m.f, m.rec);
+    m.family().routines.capacities(m.st, m.f, m.rec);
     return double(m.rec.alfa);
   };
   EXPECT_NEAR(exponent(0), 1.66, 1e-6);
@@ -271,7 +272,7 @@ TEST(Hsq, FlangeLoadingLowersBothCapacitiesUntilItIsTooMuch) {
 }
 
 TEST(Hsq, TheMessageTakesTheOptionOffForGood) {
-  Design d(testing::TheLibrary());
+  Design d(SourceLibrary());
   StartDesign(d);
   d.st.ProfileType = 24;
   d.st.q1 = 900.0;
@@ -331,7 +332,7 @@ TEST(Tube, ExactlyNinetyEpsSquaredIsClassThreeAndClassFourCostsNothing) {
   m.st.p31_d = 901.0;
   m.All();
   EXPECT_EQ(m.rec.class_, 4);
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_NEAR(m.rec.Ncrd, m.rec.A * 235 / 1.1 / 1000, 1e-2);
 }
 
@@ -339,7 +340,7 @@ TEST(Tube, AMomentCapacityUsedUpByShearReadsAsOne) {
   Made m(31);
   m.All();
   m.f.Vz = m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.Mvdy), 1);
 }
 
@@ -378,7 +379,7 @@ TEST(Plate, HasNoAxialPass) {
 }
 
 TEST(Names, ListEntriesKeepTheBlankOfTheSignAndTitlesDoNot) {
-  const Catalogues& cat = testing::TheLibrary()->catalogues;
+  const Catalogues& cat = SourceLibrary()->catalogues;
   EXPECT_EQ(ListEntry(Cat::HEA, cat, 0), "HEA 100");
   EXPECT_EQ(ListEntry(Cat::RHS, cat, 0), "RHS  50x 30x 2.6");
   EXPECT_EQ(ListEntry(Cat::UB, cat, 0), "UB  1016x 305x 487");

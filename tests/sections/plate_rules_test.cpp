@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -20,8 +21,8 @@ constexpr int kPlates[] = {51, 52, 53, 54, 55, 56};
 // ---- dimensions
 
 TEST(Plate, TheOverallHeightIsThatOfStiffenerAndPlate) {
-  const CatalogueTable& l = testing::TheLibrary()->catalogues[Cat::L3];
-  const CatalogueTable& hp = testing::TheLibrary()->catalogues[Cat::HP];
+  const CatalogueTable& l = SourceLibrary()->catalogues[Cat::L3];
+  const CatalogueTable& hp = SourceLibrary()->catalogues[Cat::HP];
   const double heights[] = {210, l(5, 1) + 10, 310, hp(5, 1) + 10, 262, 600};
   for (std::size_t i = 0; i < 6; ++i) {
     Made m(kPlates[i]);
@@ -47,7 +48,7 @@ TEST(Plate, SurfacesOfThePlateAndTheStiffener) {
     return double(m.rec.g);
   };
   const double q = 1 - std::acos(-1.0) / 4;
-  const CatalogueTable& l = testing::TheLibrary()->catalogues[Cat::L3];
+  const CatalogueTable& l = SourceLibrary()->catalogues[Cat::L3];
   ExpectClose(surface(51), 2 * (200 + 600) / 1000., "51");
   ExpectClose(surface(52),
               (1200 + 2 * l(5, 1) + 2 * l(5, 2) - 2 * l(5, 3) - 2 * q * (l(5, 5) + l(5, 6))) / 1000,
@@ -115,7 +116,7 @@ TEST(Plate, ATrapezeHasTheWidthsBetweenItsWalls) {
 TEST(Plate, ABulbIsAFlangeOfTheSameArea) {
   Made m(54);
   m.Load();
-  const CatalogueTable& t = testing::TheLibrary()->catalogues[Cat::HP];
+  const CatalogueTable& t = SourceLibrary()->catalogues[Cat::HP];
   const double h = t(5, 1), tw = t(5, 2), wb = t(5, 3), r = t(5, 4), A = t(5, 5) * 100;
   EXPECT_NEAR(m.rec.b2, wb + tw - 0.45 * r, 1e-4);
   EXPECT_NEAR(m.rec.tf2, (A - tw * h) / (wb - 0.45 * r), 1e-4);
@@ -163,8 +164,8 @@ TEST(Plate, AnAngleLosesItsLegOnceInTheAreaAndTwiceInTheMoments) {
   m.st.p53_tf2 = 8.0;
   m.All();
   ExpectEffective(m.rec, {1860977.76, 1591231.49, 932593.204, 3271058.51, 4066.03615});
-  EXPECT_EQ(m.family().effective, FindFamily(52)->effective);
-  EXPECT_EQ(m.family().effective, FindFamily(54)->effective);
+  EXPECT_EQ(m.family().routines.effective, FindFamily(52)->routines.effective);
+  EXPECT_EQ(m.family().routines.effective, FindFamily(54)->routines.effective);
 }
 
 // Two outstands of 295 above (rho 0.2873), none below; 401.84/6 and 241.84/4 between the walls
@@ -323,7 +324,7 @@ TEST(Plate, ClassFourTakesTheSmallerEffectiveModulusOfEachSide) {
   m.All();
   ASSERT_EQ(int(m.rec.classTop), 4);
   m.rec.classBottom = 4;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   ExpectClose(m.rec.MdyTop, 209891.254 * kFd / 1E6, "MdyTop");
   ExpectClose(m.rec.MdyBottom, 52778.9109 * kFd / 1E6, "MdyBottom");
 }
@@ -348,7 +349,7 @@ void ExpectShearReduction(Made& m, const ShearCase& c) {
   SCOPED_TRACE(c.ezpl);
   m.rec.ezpl = c.ezpl;
   m.f.Vz = 0.75 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   const double loss = 0.25 * c.modulus * kFd / 1E6;
   ExpectClose(m.rec.Mvred, loss, "Mvred");
   EXPECT_NEAR(m.rec.MvdyTop, m.rec.MdyTop - loss, 1e-3);

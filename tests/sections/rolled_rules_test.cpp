@@ -8,6 +8,7 @@
 #include "sections/elements.h"
 #include "tests/sections/removed_parts.h"
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -31,7 +32,7 @@ void Capacities(Made& m, double N, double Vz, double Vy) {
   m.f.N = N;
   m.f.Vz = Vz;
   m.f.Vy = Vy;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
 }
 
 TEST(RolledClass, AnUnstressedTipHasTheFactorOfAnEvenStress) {
@@ -245,7 +246,7 @@ TEST(RolledDimensions, TheSurfaceOfAnInpLosesTheSlopeOfItsFlanges) {
 }
 
 TEST(RolledDimensions, BritishTablesGiveTheirOwnModuliWeightAndSurface) {
-  const Catalogues& cat = testing::TheLibrary()->catalogues;
+  const Catalogues& cat = SourceLibrary()->catalogues;
   const auto expectTabled = [&](const SectionRecord& rec, Cat table, int row) {
     const CatalogueTable& t = cat[table];
     EXPECT_NEAR(rec.S, t(row, 4), 1e-4);

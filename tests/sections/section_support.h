@@ -9,15 +9,10 @@
 #include <string>
 
 #include "core/calculation.h"
-#include "places.h"
 #include "sections/profile_table.h"
+#include "tests/support/source_library.h"
 
 namespace korvane::testing {
-
-inline std::shared_ptr<const Library> TheLibrary() {
-  static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
-  return library;
-}
 
 /// Design strength of the sections below, MPa.
 constexpr double kFd = 355 / 1.1;
@@ -68,13 +63,14 @@ struct Made {
   void Load() {
     st.epsilon = std::sqrt(235 / st.fyk);
     st.fd = st.fyk / st.gammam1;
-    family().load(st, TheLibrary()->catalogues, rec);
+    family().load(st, SourceLibrary()->catalogues, rec);
   }
   SectionRecord& All() {
     Load();
-    family().effective(st, rec);
-    if (family().shear) family().shear(st, rec);
-    if (family().nominal) family().nominal(st, family(), f, rec);
+    const RoutineSet& routines = family().routines;
+    if (routines.effective) routines.effective(st, rec);
+    if (routines.shear) routines.shear(st, rec);
+    if (routines.nominal) routines.nominal(st, family(), f, rec);
     return rec;
   }
   void ClassFor(double N, double My, double Mz) {
@@ -82,7 +78,7 @@ struct Made {
     f.N = N;
     f.My = My;
     f.Mz = Mz;
-    family().sectionClass(st, f, rec);
+    family().routines.sectionClass(st, f, rec);
   }
 };
 
