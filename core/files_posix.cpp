@@ -153,16 +153,17 @@ const char* Named(const std::string& folder) {
 }
 
 // Follows a symbolic link to the file it stands for, which may not exist yet: the link stays.
-std::optional<std::string> FollowLinks(std::string path) {
+WriteStatus FollowLinks(std::string& path) {
   constexpr int mostLinks = 40;
   for (int i = 0; i < mostLinks; ++i) {
     std::array<char, 4096> text;
     const ssize_t n = ::readlink(path.c_str(), text.data(), text.size());
-    if (n < 0) return path;
+    const bool noLink = n < 0 && (errno == EINVAL || IsMissing(errno));
+    if (n < 0) return noLink ? WriteStatus::Ok : ResultOfError(errno).status;
     const std::string link(text.data(), static_cast<std::size_t>(n));
     path = !link.empty() && link.front() == '/' ? link : FolderOf(path).append(link);
   }
-  return std::nullopt;
+  return WriteStatus::BadName;
 }
 
 unsigned long long Random() {
@@ -292,11 +293,12 @@ WriteStatus Refusal(const Target& target, const WriteRules& rules) {
 
 WriteStatus FindTarget(const std::string& path, const WriteRules& rules, Target& target) {
   if (path.empty() || path.back() == '/' || HoldsZeroByte(path)) return WriteStatus::BadName;
-  auto followed = FollowLinks(path);
-  if (!followed) return WriteStatus::BadName;
-  target.path = std::move(*followed);
+  target.path = path;
+  if (const WriteStatus status = FollowLinks(target.path); status != WriteStatus::Ok) return status;
   target.folder = FolderOf(target.path);
   target.exists = ::stat(target.path.c_str(), &target.old) == 0;
+  // What can't be looked at may be there: a rename would break its links.
+  if (!target.exists && !IsMissing(errno)) return ResultOfError(errno).status;
   return Refusal(target, rules);
 }
 

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <functional>
+#include <regex>
 #include <vector>
 
 #include "front/platform.h"
@@ -311,6 +312,8 @@ constexpr const char* kHead = R"(<!DOCTYPE html>
 <meta name="viewport" content="width=device-width, initial-scale=1">
 <title>All inputs</title>
 <link rel="stylesheet" type="text/css" href="help.css">
+<link rel="stylesheet" href="browser.css">
+<script src="book.js" defer></script>
 </head>
 <body>
 <p class="top"><a href="index.html">Contents</a></p>
@@ -338,6 +341,21 @@ std::string InputsPage(std::shared_ptr<const Library> library) {
   std::string page = kHead;
   for (const Form& form : AllForms()) page += FormSection(form, library);
   return page + "</body>\n</html>\n";
+}
+
+std::string PagesScript(const std::string& index) {
+  static const std::regex entry("<h2>([^<]*)</h2>|<li><a href=\"([^\"#]+)\">([^<]*)</a>");
+  std::string script = "// Made by tools/make_help from the contents.\nconst pages = [\n";
+  std::string group;
+  for (std::sregex_iterator it(index.begin(), index.end(), entry), end; it != end; ++it) {
+    const std::smatch& match = *it;
+    if (match[1].matched) {
+      group = match[1];
+    } else {
+      script += "  [\"" + match[2].str() + "\", \"" + match[3].str() + "\", \"" + group + "\"],\n";
+    }
+  }
+  return script + "];\n";
 }
 
 }  // namespace korvane

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <iostream>
 
-#include "front/console/data_folder.h"
 #include "front/console/design_json.h"
 #include "front/console/design_text.h"
 #include "front/console/exit_status.h"
@@ -18,6 +17,8 @@
 #include "front/console/run_design.h"
 #include "front/console/script.h"
 #include "front/console/terminal.h"
+#include "front/data_folder.h"
+#include "front/locale.h"
 #include "sections/names.h"
 #include "sections/profile_table.h"
 
@@ -42,12 +43,12 @@ int RunDesign(const std::string& file, const std::string& data, bool json) {
   if (run.fault) std::cerr << "arithmetic failure in " << run.what << "\n";
   if (json) {
     std::cout << DesignJson(design, run.fault) << "\n";
-  } else if (!run.fault) {
+  } else {
     if (OutputIsTerminal()) MakeNamesVisible(design.st);
-    std::cout << DesignText(design, ColourWanted());
+    std::cout << (run.fault ? VerdictText(design, ColourWanted())
+                            : DesignText(design, ColourWanted()));
   }
-  if (run.fault) return kArithmeticFailure;
-  return MaxIR(design.checks) <= design.st.iufa ? kAllPass : kCheckFails;
+  return StatusOf(VerdictOf(design));
 }
 
 int RunNew(const std::string& output, const std::string& data) {

@@ -6,11 +6,11 @@
 #include <iostream>
 
 #include "front/console/batch.h"
-#include "front/console/data_folder.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
 #include "front/console/optimise.h"
 #include "front/console/terminal.h"
+#include "front/data_folder.h"
 
 namespace korvane {
 namespace {

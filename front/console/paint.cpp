@@ -10,11 +10,11 @@
 #include <iostream>
 #include <optional>
 
-#include "front/console/data_folder.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
 #include "front/console/run_design.h"
 #include "front/console/terminal.h"
+#include "front/data_folder.h"
 #include "front/painter/paint_files.h"
 #include "presentation/aprint.h"
 #include "presentation/figures.h"
@@ -181,7 +181,8 @@ int RunReport(const Arguments& a) {
   job.attachmentName =
       a.file == kStandardStream ? "project.kvn" : fs::path(a.file).filename().string();
   job.attachment = ProjectText(design.st);
-  return Finish(job, a, Format::Pdf);
+  if (const int status = Finish(job, a, Format::Pdf)) return status;
+  return StatusOf(VerdictOf(design));
 }
 
 /// What can be drawn, and the diagrams behind a word.

@@ -11,8 +11,7 @@
 #include <csignal>
 #include <cstdio>
 
-#include "front/console/data_folder.h"
-#include "front/console/script.h"
+#include "front/data_folder.h"
 #include "front/desktop/desktop.h"
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/help_desk.h"
@@ -20,6 +19,7 @@
 #include "front/desktop/own_folder.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
+#include "front/locale.h"
 
 namespace {
 

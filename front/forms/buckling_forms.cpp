@@ -3,9 +3,11 @@
 #include <array>
 
 #include "checks/buckling_curves.h"
+#include "core/supports.h"
 #include "core/text.h"
 #include "front/forms/forms.h"
 #include "front/session.h"
+#include "sections/profile_table.h"
 
 namespace korvane {
 
@@ -90,6 +92,12 @@ bool TypesFactors(const Session& s) {
   return s.st().AnalysisMode == 1 && s.st().LtbSegments == 0;
 }
 
+/// The third factor counts for singly symmetric sections.
+bool HasC3(const ProjectState& st) {
+  const Family* family = FindFamily(st.ProfileType);
+  return family != nullptr && family->lateral.method == LateralMethod::SinglySymmetric;
+}
+
 Control CFactor(const char* name, const char* caption, number ProjectState::*typed,
                 number LtbResults::*computed, double low, const char* message) {
   FieldRule rule = Bind(typed, "0.000");
@@ -101,7 +109,7 @@ Control CFactor(const char* name, const char* caption, number ProjectState::*typ
     const ProjectState& st = s.st();
     if (st.CFactorManual == 1) return s.Shown(st.*typed, "0.000");
     const bool c3 = caption[1] == '3';
-    if (c3 && st.ProfileType != 22) return std::string("N/A");
+    if (c3 && !HasC3(st)) return std::string("N/A");
     if (caption[1] == '2' && !TypesFactors(s)) return std::string("N/A");
     return s.Shown(s.design().ltb.*computed, "0.000");
   };
@@ -143,10 +151,10 @@ void AddLateralCases(std::vector<Control>& c) {
   }
   FieldRule rule = Bind(&ProjectState::k_ltb, "#0.00");
   rule.limit.accepts = [](const ProjectState& st, double k) {
-    return st.SupportType == 4 ? k >= 1 && k <= 2 : k >= 0.5 && k <= 1;
+    return IsCantilever(st.SupportType) ? k >= 1 && k <= 2 : k >= 0.5 && k <= 1;
   };
   rule.limit.message = [](const ProjectState& st) {
-    return std::string(st.SupportType == 4 ? " 1.0 <= k <= 2.0 " : " 0.5<= k <= 1.0 ");
+    return std::string(IsCantilever(st.SupportType) ? " 1.0 <= k <= 2.0 " : " 0.5<= k <= 1.0 ");
   };
   rule.then = CalculateAfter;
   c.push_back(Input("ik", "k =", rule, "", "0.5 to 1.0; 1.0 to 2.0 for a cantilever"));

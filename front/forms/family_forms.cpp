@@ -16,51 +16,6 @@ namespace korvane {
 
 namespace {
 
-/// The state field that holds the chosen row of a family.
-int16 ProjectState::*IndexOf(const ProjectState& st) {
-  using S = ProjectState;
-  switch (st.ProfileType) {
-    case 1:
-      return &S::idxHEA;
-    case 2:
-      return &S::idxHEB;
-    case 3:
-      return &S::idxHEM;
-    case 4:
-      return &S::idxIPE;
-    case 5:
-      return &S::idxUPE;
-    case 6:
-      return &S::idxRHSs;
-    case 7:
-      return &S::idxRHSr;
-    case 8:
-      return &S::idxCFRHSs;
-    case 9:
-      return &S::idxCFRHSr;
-    case 10:
-      return &S::idxLeq;
-    case 11:
-      return &S::idxLuneq;
-    case 15:
-      return &S::idxINP;
-    case 16:
-      return &S::idxUNP;
-    case 52:
-      return &S::p52_index;
-    case 54:
-      return &S::p54_index;
-    case 101:
-      return st.p101_sub == 2 ? &S::p101_idx2 : st.p101_sub == 3 ? &S::p101_idx3 : &S::p101_idx1;
-    case 102:
-      return &S::p102_idx;
-    case 103:
-      return st.p103_sub == 2 ? &S::p103_idx2 : &S::p103_idx1;
-    default:
-      return nullptr;
-  }
-}
-
 /// The state with this family in force, for the list of its own form.
 ProjectState WithFamily(const Session& s, int code) {
   ProjectState st = s.st();
@@ -70,7 +25,7 @@ ProjectState WithFamily(const Session& s, int code) {
 
 Control SizeControl(int code) {
   Control c;
-  c.name = code == 10 || code == 11 ? "cbo" : "Cbo";
+  c.name = IsAngle(code) ? "cbo" : "Cbo";
   c.kind = Kind::List;
   c.items = [code](const Session& s) {
     const SizeList sizes = SizesOf(WithFamily(s, code));
@@ -82,25 +37,18 @@ Control SizeControl(int code) {
   };
   c.selected = [code](const Session& s) { return SizesOf(WithFamily(s, code)).row; };
   c.select = [code](Session& s, int index) {
-    ProjectState st = WithFamily(s, code);
-    s.st().*IndexOf(st) = index;
+    s.st().*CatalogueOf(*FindFamily(code), s.st())->index = index;
     s.Calculate();
   };
   return c;
 }
 
-/// The catalogues of the British families.
-void AddSubFamilies(int code, std::vector<Control>& c) {
-  const auto option = [&](int sub, const char* caption, int16 ProjectState::*member) {
-    c.push_back(ValueOption("prof" + std::to_string(sub), caption, member, sub));
-  };
-  if (code == 101) {
-    option(1, "UB", &ProjectState::p101_sub);
-    option(2, "UC", &ProjectState::p101_sub);
-    option(3, "UBP", &ProjectState::p101_sub);
-  } else if (code == 103) {
-    option(1, "PFC", &ProjectState::p103_sub);
-    option(2, "CH", &ProjectState::p103_sub);
+/// The choice among several catalogues.
+void AddSubFamilies(const Family& family, std::vector<Control>& c) {
+  if (family.sub == nullptr) return;
+  for (const FamilyCatalogue& catalogue : family.catalogues) {
+    c.push_back(ValueOption("prof" + std::to_string(catalogue.sub), catalogue.word, family.sub,
+                            catalogue.sub));
   }
 }
 
@@ -259,7 +207,7 @@ void AddTypedOptions(int code, std::vector<Control>& c) {
     c.push_back(ValueOption("oweld0", "Yes", &S::BoxWeld, 0));
     c.push_back(ValueOption("oweld1", "No", &S::BoxWeld, 1));
   }
-  if (code == 24 || code == 25) {
+  if (IsHsq(code)) {
     c.push_back(FrameOf("frhsq", "Consider flange loading (valid for q-load)"));
     c.push_back(ValueOption("opthsq0", "Yes", &S::HsqKind, 0));
     c.push_back(ValueOption("opthsq1", "No", &S::HsqKind, 1));
@@ -283,13 +231,11 @@ Form FamilyForm(const Family& family) {
   form.name = family.form;
   form.title = Fixed(family.formCaption);
   std::vector<Control>& c = form.controls;
-  ProjectState st;
-  st.ProfileType = family.code;
-  AddSubFamilies(family.code, c);
-  if (SizesOf(st).hasCatalogue) c.push_back(SizeControl(family.code));
+  AddSubFamilies(family, c);
+  if (!family.catalogues.empty()) c.push_back(SizeControl(family.code));
   AddTypedFields(family.code, c);
   AddTypedOptions(family.code, c);
-  if (family.code >= 6 && family.code <= 9) AddHollowExtras(family.code, c);
+  if (family.outline == OutlineKind::Hollow) AddHollowExtras(family.code, c);
   AddCommon(family.code, family.form, c);
   form.onFocus = [name = std::string(family.form)](Session& s) { s.Fill(name); };
   return form;

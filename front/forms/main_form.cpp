@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The main window: its inputs, options, pictures, result panes and commands.
+#include <cctype>
 #include <cmath>
 
 #include "checks/buckling_curves.h"
+#include "core/supports.h"
 #include "core/text.h"
 #include "front/forms/forms.h"
 #include "front/pane_text.h"
@@ -84,37 +86,28 @@ const Family* FamilyOf(const Session& s) {
   return FindFamily(s.st().ProfileType);
 }
 
-/// What a support picture sets beside the support itself.
-struct SupportRow {
-  double factor;
-  int bucklingCase;
-  double k_ltb;
-};
-constexpr SupportRow kSupports[] = {{1.0, 2, 1.0}, {0.7, 3, 0.7}, {0.5, 4, 0.5},
-                                    {1.0, 2, 1.0}, {2.0, 1, 2.0}, {1.0, 2, 1.0}};
-
-void ClickSupport(Session& s, int support) {
+void ClickSupport(Session& s, const Support& support) {
   ProjectState& st = s.st();
-  const SupportRow& row = kSupports[support];
-  st.SupportType = support;
-  if (support == 3 || support == 5) {
+  const double factor = LengthFactorOfCase(support.bucklingCase);
+  st.SupportType = support.code;
+  if (IsSpring(support.code)) {
     s.Refill("korvane", "ispring");
     s.FocusField("korvane.ispring");
   }
   if (st.BucklingCaseY < 5) {
-    st.bly = row.factor;
-    st.BucklingCaseY = row.bucklingCase;
+    st.bly = factor;
+    st.BucklingCaseY = support.bucklingCase;
     s.Refill("korvane", "ibly");
   }
   if (st.BucklingCaseZ < 5) {
-    st.blz = row.factor;
-    st.BucklingCaseZ = row.bucklingCase;
+    st.blz = factor;
+    st.BucklingCaseZ = support.bucklingCase;
     s.Refill("korvane", "iblz");
   }
-  st.LateralBucklingCase = row.bucklingCase;
-  st.k_ltb = row.k_ltb;
+  st.LateralBucklingCase = support.bucklingCase;
+  st.k_ltb = factor;
   // The cantilever deliberately leaves the loads untidied.
-  if (support != 4) {
+  if (!IsCantilever(support.code)) {
     if (const auto message = NormaliseLoads(st)) s.platform().Message(message->text);
   }
   s.Calculate();
@@ -130,19 +123,31 @@ void TakeSpring(Session& s) {
   s.LeaveBy("korvane.ispring", rule);
 }
 
-constexpr const char* kSupportTips[] = {"Pinned - pinned", "Pinned - fixed", "Fixed - fixed",
-                                        "Spring - spring", "Fixed - free",   "Pinned - spring"};
+/// "Pinned - fixed".
+std::string SupportTip(const Support& support) {
+  std::string tip = support.name;
+  tip[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(tip[0])));
+  return tip;
+}
+
+/// k_ltb while the check is off.
+constexpr double kLtbOffMark = 0.001;
 
 void ToggleLateral(Session& s) {
   ProjectState& st = s.st();
   if (st.LateralTorsionalBuckling == 1) {
     st.LateralTorsionalBuckling = 0;
     st.LtbSegments = 0;
-    st.k_ltb = 0.001;
+    if (st.k_ltb != float32(kLtbOffMark)) st.k_ltb_before = st.k_ltb;
+    st.k_ltb = kLtbOffMark;
   } else {
     st.LateralTorsionalBuckling = 1;
     const double k = LengthFactorOfCase(st.LateralBucklingCase);
-    if (k > 0) st.k_ltb = k;  // a typed case keeps the last
+    if (k > 0) {
+      st.k_ltb = k;
+    } else if (st.k_ltb == float32(kLtbOffMark)) {
+      st.k_ltb = st.k_ltb_before;  // a typed case takes the last in force
+    }
   }
   s.Calculate();
 }
@@ -151,7 +156,7 @@ void ToggleModal(Session& s) {
   ProjectState& st = s.st();
   if (st.ModalAnalysis == 1) {
     st.ModalAnalysis = 0;
-  } else if (st.SupportType == 3 || st.SupportType == 5) {
+  } else if (IsSpring(st.SupportType)) {
     s.platform().Message(" Modal analysis not possible for spring supports ");
     return;
   } else {
@@ -163,8 +168,7 @@ void ToggleModal(Session& s) {
 bool LateralOffered(const Session& s) {
   const Family* family = FamilyOf(s);
   if (family == nullptr || family->lateral.method == LateralMethod::None) return false;
-  const int type = s.st().ProfileType;
-  return !(type >= 51 && type <= 56) || s.design().beam.My_gov < 0;
+  return !IsStiffenedPlate(s.st().ProfileType) || s.design().beam.My_gov < 0;
 }
 
 /// The optimiser group: a search of the family in force, redrawn without a calculation.
@@ -257,9 +261,7 @@ void AddInputs(std::vector<Control>& c) {
   spring.limit = Between(0, 100, " 1 < Spring-restraint  > 99 ");
   spring.then = CalculateAfter;
   Control ispring = Input("ispring", "Spring restraint", spring, "%", "0 to 100 %");
-  ispring.enabled = [](const Session& s) {
-    return s.st().SupportType == 3 || s.st().SupportType == 5;
-  };
+  ispring.enabled = [](const Session& s) { return IsSpring(s.st().SupportType); };
   ispring.visible = ispring.enabled;
   c.push_back(ispring);
 
@@ -273,9 +275,10 @@ void AddInputs(std::vector<Control>& c) {
 }
 
 void AddOptions(std::vector<Control>& c) {
-  for (int k = 0; k < 6; ++k) {
-    c.push_back(Picture("cbutt" + std::to_string(k), kSupportTips[k],
-                        [k](Session& s) { ClickSupport(s, k); }));
+  for (const Support& support : kSupports) {
+    const int k = support.code;
+    c.push_back(Picture("cbutt" + std::to_string(k), SupportTip(support),
+                        [&support](Session& s) { ClickSupport(s, support); }));
     c.back().checked = [k](const Session& s) { return s.st().SupportType == k; };
   }
   c.back().returnKey = TakeSpring;
@@ -299,8 +302,8 @@ void AddOptions(std::vector<Control>& c) {
                       &ProjectState::SectionControlMode, 1),
           &FamilyOptions::sectionControl);
   const auto bucklingOptions = [](const Session& s) {
-    const int type = s.st().ProfileType;
-    return type != 10 && type != 11 && type != 28 && type != 31 && type != 41;
+    const Family* family = FamilyOf(s);
+    return family == nullptr || family->options.classFour;
   };
   c.push_back(FlagCheck("ch_webbuck", "Web buckling not taken into account",
                         &ProjectState::IgnoreWebBuckling));
@@ -377,8 +380,8 @@ void AddPanes(std::vector<Control>& c) {
   c.push_back(FrameOf("frbuckling", "Section class 1-2: Bending moment capacity based on",
                       flag(&FamilyOptions::bending)));
   c.push_back(FrameOf("fr15", "Section class 4", [](const Session& s) {
-    const int type = s.st().ProfileType;
-    return type != 10 && type != 11 && type != 28 && type != 31 && type != 41;
+    const Family* family = FamilyOf(s);
+    return family == nullptr || family->options.classFour;
   }));
   c.push_back(FrameOf("fr31", "Results (ULS)"));
   c.push_back(FrameOf("fr21", "Loading/Moment/Shear/Deflection - Z-axis  "));
@@ -454,7 +457,7 @@ private:
 void ChooseFamily(Session& s, const Family& family) {
   s.st().ProfileType = family.code;
   if (family.familyWord != nullptr) s.st().FamilyName = family.familyWord;
-  if (family.code == 41) s.st().FigureNotToScale = 0;
+  if (family.givenConstants) s.st().FigureNotToScale = 0;
   s.Show(family.form);
 }
 

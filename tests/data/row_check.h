@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
 #include <string>
 
 #include "places.h"
@@ -14,7 +15,7 @@
 namespace korvane::testing {
 
 inline std::string DataFolder() {
-  return std::string(KORVANE_SOURCE_DIR) + "/data";
+  return (std::filesystem::path(KORVANE_SOURCE_DIR) / "data").string();
 }
 
 inline const Catalogues& Data() {
