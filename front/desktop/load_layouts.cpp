@@ -81,11 +81,12 @@ QGroupBox* Factors(WidgetMaker& maker) {
   group->layout()->addWidget(maker.Make("check_selfweight"));
   auto* grid = static_cast<QGridLayout*>(group->layout()->itemAt(0)->layout());
   const auto selfweight = [grid](int row) {
-    return static_cast<QLabel*>(grid->itemAtPosition(row, kSelfweightColumn)->widget());
+    return grid->itemAtPosition(row, kSelfweightColumn)->widget();
   };
   selfweight(0)->setProperty(kBelongsTo, QStringLiteral("ilfsw_ULS"));
-  selfweight(2)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  KeepRoom(selfweight(0));
+  static_cast<QLabel*>(selfweight(2))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  // The heading or a field is the widest, as the font has it.
+  for (int row = 0; row <= 2; ++row) KeepRoom(selfweight(row));
   return group;
 }
 
