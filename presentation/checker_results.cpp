@@ -410,7 +410,7 @@ CheckerBlock Buckling(D d) {
 // --- Serviceability
 // -------------------------------------------------------------------------------
 
-CheckerBlock Serviceability(D d) {
+CheckerBlock ServiceabilityBlock(D d) {
   CheckerBlock b{"Deflection (SLS) and frequencies", {}};
   if (d.st.AnalysisMode == 1) {
     static constexpr Item items[] = {
@@ -433,8 +433,9 @@ CheckerBlock Serviceability(D d) {
 }  // namespace
 
 CheckerBlocks CheckerResults(const Design& d) {
-  return {SectionValues(d), SectionCapacitiesOf(d), Forces(d),   SectionLine(d),   ShearLines(d),
-          LateralLine(d),   LeastLateral(d),        Buckling(d), Serviceability(d)};
+  return {SectionValues(d),      SectionCapacitiesOf(d), Forces(d),       SectionLine(d),
+          ShearLines(d),         LateralLine(d),         LeastLateral(d), Buckling(d),
+          ServiceabilityBlock(d)};
 }
 
 }  // namespace korvane
