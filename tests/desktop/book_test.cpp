@@ -18,6 +18,7 @@
 #include "front/desktop/help_book.h"
 #include "places.h"
 #include "tests/support/arithmetic.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -289,7 +290,7 @@ Design Loaded(const std::shared_ptr<const Library>& library, const QString& file
 }
 
 TEST(HelpBookTest, TableOfFamiliesTellsWhatRuns) {
-  const auto library = ReadLibrary((kSource + QStringLiteral("/data")).toStdString());
+  const auto& library = SourceLibrary();
   const QString html = Page(QStringLiteral("validity.html"));
   int rows = 0;
   for (const auto& row :
