@@ -235,7 +235,22 @@ TEST(HelpBookTest, EveryCommandPrintsWhatItsPageShows) {
     }
   }
   EXPECT_GE(commands, 10);
-  EXPECT_GE(shown, 1);
+  EXPECT_GE(shown, 4);
+}
+
+TEST(HelpBookTest, EveryOptionOfACommandIsTold) {
+  const QString page = Page(QStringLiteral("console.html"));
+  int options = 0;
+  for (const auto& command : All(page, "<h2><a name=\"([a-z]+)\"></a>[a-z]+</h2>")) {
+    const QString name = command.captured(1);
+    const Printout help = Cli({name, QStringLiteral("--help")}, QDir::tempPath());
+    for (const auto& option : All(help.out, "--([a-z]+)")) {
+      ++options;
+      EXPECT_TRUE(page.contains(option.captured()))
+          << name.toStdString() << ": " << option.captured().toStdString();
+    }
+  }
+  EXPECT_GE(options, 25);
 }
 
 /// A script is followed by what it prints.
