@@ -85,24 +85,6 @@ double CriticalMoment(const ProjectState& st, const SectionRecord& rec, double C
   return C1 * kPi2 * st.E * rec.Iz / (Lmm * Lmm) * (std::sqrt(B + D * D) - D);
 }
 
-/// Reduction of a plate carried family whose stiffener is compressed, from the stress sigma.
-double PlateReduction(LateralMethod method, const ProjectState& st, const SectionRecord& rec,
-                      double Lmm, LtbResults& ltb) {
-  const double G = st.E / 2.6;
-  double sigma = 0;
-  if (method == LateralMethod::FlatStiffener) {
-    sigma = (2 * std::pow(rec.h / Lmm, 2) + 1) * G * std::pow(rec.tw / rec.h, 2);
-  } else {
-    const double torsion = (std::pow(rec.tf2 / rec.tw, 2) * rec.Afc + rec.Afw) * G *
-                           std::pow(rec.tw / (rec.h - rec.tf), 2) / (3 * rec.Afc + rec.Afw);
-    sigma = torsion + kPi2 * st.E * rec.Iz / (rec.Afw / 3 + rec.Afc) / (Lmm * Lmm);
-  }
-  ltb.lamLT = std::sqrt(st.fyk / sigma);
-  const double lam = ltb.lamLT;
-  const double a = 1 + (lam - 0.6) * 0.35 + lam * lam;
-  return lam <= 0.6 ? 1 : (a - std::sqrt(a * a - 4 * lam * lam)) / (2 * lam * lam);
-}
-
 /// Moment signs that select the side of an asymmetric section.
 struct Signs {
   bool topCompressed;  ///< singly symmetric I: the top flange is compressed
@@ -121,7 +103,12 @@ double DesignMoment(const LateralRule& rule, const ProjectState& st, const Secti
   double w = rec.betay;
   if (IsPlate(rule.method)) {
     w = signs.plateOnly ? rec.betaTop : rec.betaBottom;
-    ltb.chiLT = signs.plateOnly ? 1.0 : PlateReduction(rule.method, st, rec, segment.Lmm, ltb);
+    ltb.chiLT = 1;
+    if (!signs.plateOnly) {
+      const PlateReduced reduced = PlateReduction(rule.method, st, rec, segment.Lmm);
+      ltb.lamLT = reduced.lamLT;
+      ltb.chiLT = reduced.chiLT;
+    }
     return MomentOf(st, ltb.chiLT * w * rec.Wply);
   }
   if (rule.method == LateralMethod::SinglySymmetric) {
@@ -267,6 +254,22 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
 }
 
 }  // namespace
+
+PlateReduced PlateReduction(LateralMethod method, const ProjectState& st, const SectionRecord& rec,
+                            double Lmm) {
+  const double G = st.E / 2.6;
+  double sigma = 0;
+  if (method == LateralMethod::FlatStiffener) {
+    sigma = (2 * std::pow(rec.h / Lmm, 2) + 1) * G * std::pow(rec.tw / rec.h, 2);
+  } else {
+    const double torsion = (std::pow(rec.tf2 / rec.tw, 2) * rec.Afc + rec.Afw) * G *
+                           std::pow(rec.tw / (rec.h - rec.tf), 2) / (3 * rec.Afc + rec.Afw);
+    sigma = torsion + kPi2 * st.E * rec.Iz / (rec.Afw / 3 + rec.Afc) / (Lmm * Lmm);
+  }
+  const double lam = number(std::sqrt(st.fyk / sigma));
+  const double a = 1 + (lam - 0.6) * 0.35 + lam * lam;
+  return {lam, lam <= 0.6 ? 1 : (a - std::sqrt(a * a - 4 * lam * lam)) / (2 * lam * lam)};
+}
 
 SegmentFactors FactorsOfSegment(double r, double k) {
   std::size_t row = 0;

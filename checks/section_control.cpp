@@ -2,6 +2,7 @@
 #include "checks/section_control.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace korvane {
@@ -65,7 +66,7 @@ private:
     family_.routines.sectionClass(st_, f_, rec_);
     if (family_.routines.sectionControl == SectionControlKind::Tube)
       out_.ClassGoverning = rec_.class_;
-    family_.routines.capacities(st_, f_, rec_);
+    RenewCapacities();
 
     Shear(f_.Vz, rec_.Vdz, out_.IRvz, out_.Vz);
     if (style_.zDirectionOnly) {
@@ -75,6 +76,17 @@ private:
     Shear(f_.Vy, rec_.Vdy, out_.IRvy, out_.Vy);
     if (f_.My == 0 && f_.Mz == 0) Axial();
     Moments();
+  }
+
+  /// Most points share their capacities: they follow from the classes, N and shears above half of
+  /// their capacity.
+  void RenewCapacities() {
+    const bool sheared = f_.Vz > 0.5 * rec_.Vdz || f_.Vy > 0.5 * rec_.Vdy;
+    const std::array<int, 3> classes{rec_.class_, rec_.classTop, rec_.classBottom};
+    if (standing_ && !sheared && classes == classes_) return;
+    family_.routines.capacities(st_, f_, rec_);
+    standing_ = !sheared;
+    classes_ = classes;
   }
 
   void Shear(double V, double Vd, number& IR, GoverningForce& line) {
@@ -177,6 +189,8 @@ private:
   const Style style_;
   double x_ = 0;
   double capacityY_ = 0;
+  bool standing_ = false;         ///< the record has the capacities without shear ...
+  std::array<int, 3> classes_{};  ///< ... of these classes
 };
 
 /// The corner that governs: 1 or 3 when the first exceeds the second, else 2 or 3.

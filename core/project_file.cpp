@@ -222,6 +222,8 @@ FileResult ReadProject(std::string_view bytes, ProjectState& st) {
     return FileResult::OtherError;
   }
   if (reader.Old()) SetFieldsOfNoOldFile(st);
+  // The file knows no other length factor than its own.
+  st.k_ltb_before = ProjectState().k_ltb_before;
   return FileResult::Ok;
 }
 

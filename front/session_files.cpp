@@ -55,6 +55,7 @@ void Session::PromoteEntry(int entry) {
 void Session::NewCommand() {
   NewProject(st(), folders_.program);
   ResetDatabase(database_);
+  ForgetFormerInput(design_);
   Calculate();
 }
 
@@ -76,6 +77,7 @@ bool Session::ReadInto(const std::string& path) {
 
 void Session::AfterOpen() {
   for (const Family& family : AllFamilies()) Unload(family.form);
+  ForgetFormerInput(design_);
   try {
     SetMaterial(design_.lib->materials, design_.rec.tmax, st());
     FillMainWindow();

@@ -43,8 +43,10 @@ double UlsLimit(const OptimiserRow& row, const ProjectState& st) {
   return row.row == 11 ? 1.0 : static_cast<double>(st.iufa);
 }
 
-/// L/deflection of the z plane against the limit; no deflection is a division by zero.
+/// L/deflection of the z plane against the limit; no deflection is a division by zero. End forces
+/// give none to test.
 bool DeflectionPasses(const Design& design) {
+  if (design.st.AnalysisMode != 1) return true;
   const double deflection = std::fabs(design.deflections.DeflZ_max);
   if (deflection == 0.0) throw CalculationFault("optimiser deflection", "division by zero");
   return design.st.L * 1000.0 / deflection > design.st.DeflectionLimit;

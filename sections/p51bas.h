@@ -30,6 +30,13 @@ void FlatStiffenerEffective(const ProjectState& st, SectionRecord& rec);
 void AngleStiffenerEffective(const ProjectState& st, SectionRecord& rec);
 void TrapezEffective(const ProjectState& st, SectionRecord& rec);
 
+/// Class of the flat whose tip is compressed, by the share of it that is compressed;
+/// FlatStiffenerClass takes the share in tension.
+int FlatClassByCompression(const ProjectState& st, const SectionForces& f,
+                           const SectionRecord& rec);
+/// Capacity in kNm with the tip compressed and the flat reduced, where the strip taken off counts
+/// with its whole second moment about the tip; FlatStiffenerEffective takes a part of it.
+double FlatTipCapacity(const ProjectState& st, const SectionRecord& rec);
 /// classTop with the plate compressed, classBottom with the tip of the flat compressed, for My in
 /// kNm. 12.1.
 void FlatStiffenerClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);

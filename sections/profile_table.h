@@ -178,6 +178,8 @@ struct Family {
   FamilyOptions options{};
   LateralRule lateral{};
   CurveRule curves = CurveRule::Kept;
+  /// Of sections alike, where the family itself keeps the curves and has a buckling control.
+  CurveRule likeCurves = CurveRule::Kept;
   bool clearsN = false;  ///< the driver takes the axial force off ahead of section and checks
   /// The constants are typed, and the class: there is no outline, the load acts at the centroid.
   bool givenConstants = false;

@@ -106,8 +106,9 @@ std::vector<Chunk> Chunks(std::size_t files, int threads) {
 
 std::string Totals(const BatchCounts& counts) {
   return std::to_string(counts.All()) + " projects: " + std::to_string(counts.pass) + " pass, " +
-         std::to_string(counts.fail) + " fail, " + std::to_string(counts.fault) +
-         " arithmetic failures, " + std::to_string(counts.unread) + " unreadable\n";
+         std::to_string(counts.fail) + " fail, " + std::to_string(counts.notChecked) +
+         " not checked, " + std::to_string(counts.fault) + " arithmetic failures, " +
+         std::to_string(counts.unread) + " unreadable\n";
 }
 
 }  // namespace
@@ -115,6 +116,7 @@ std::string Totals(const BatchCounts& counts) {
 void BatchCounts::Add(const BatchCounts& other) {
   pass += other.pass;
   fail += other.fail;
+  notChecked += other.notChecked;
   fault += other.fault;
   unread += other.unread;
 }
@@ -122,7 +124,7 @@ void BatchCounts::Add(const BatchCounts& other) {
 int BatchCounts::ExitStatus() const {
   if (unread > 0) return kBadInput;
   if (fault > 0) return kArithmeticFailure;
-  return fail > 0 ? kCheckFails : kAllPass;
+  return fail + notChecked > 0 ? kCheckFails : kAllPass;
 }
 
 std::vector<std::string> FindProjects(const std::vector<std::string>& inputs) {

@@ -20,12 +20,14 @@ namespace korvane {
 namespace {
 
 constexpr const char* kColumns =
-    "file,section,weight_kg_m,max_ir,governing,governing_text,deflection_ratio,status,error";
+    "file,section,weight_kg_m,max_ir,governing,governing_text,deflection_ratio,status,error,"
+    "standing,sls,notes";
 constexpr const char* kOptimisedColumns = ",optimised_section,optimised_weight_kg_m,optimised_ir";
 
 /// The fields of a line; empty where the project did not get so far.
 struct Line {
   std::string section, weight, maxIR, governing, governingText, deflection, status, error;
+  std::string standing, sls, notes;
   std::string optimisedSection, optimisedWeight, optimisedIR;
 };
 
@@ -120,7 +122,19 @@ void FillResults(const Design& d, Line& line) {
         TextCell(governing->formula + governing->numbers + governing->value + governing->limit);
   }
   line.deflection = DeflectionRatio(d);
-  line.status = static_cast<double>(maxIR) > d.st.iufa ? "fail" : "pass";
+}
+
+/// The standing also as the older column has it, and the codes of the notes of caution or worse.
+void FillVerdict(const Verdict& v, Line& line) {
+  line.standing = StandingWord(v.standing);
+  line.sls = ServiceabilityWord(v.sls);
+  for (const Note& note : v.notes) {
+    if (note.Weight() == Severity::Information) continue;
+    if (!line.notes.empty()) line.notes += ' ';
+    line.notes += KindOf(note.code).word;
+  }
+  constexpr std::array status{"pass", "fail", "not checked", "fault"};
+  line.status = status.at(static_cast<std::size_t>(v.standing));
 }
 
 /// The lightest size of the project's own series by ULS; nothing for a family without a series
@@ -147,6 +161,7 @@ void DesignOne(const std::string& path, Design& work, bool optimise, Line& line,
     line.error = FileMessage(run.file, path);
     return;
   }
+  FillVerdict(VerdictOf(work), line);
   if (run.fault) throw ArithmeticFault(run.what);
   FillResults(work, line);
   if (optimise) FillOptimised(work, line);
@@ -159,6 +174,8 @@ void Count(const std::string& status, BatchCounts& counts) {
     ++counts.fail;
   else if (status == "fault")
     ++counts.fault;
+  else if (status == "not checked")
+    ++counts.notChecked;
   else
     ++counts.unread;
 }
@@ -186,7 +203,7 @@ void AppendBatchLine(const std::string& path, const Design& started, Design& wor
   AppendField(TextCell(path), lines);
   for (const std::string* field :
        {&line.section, &line.weight, &line.maxIR, &line.governing, &line.governingText,
-        &line.deflection, &line.status, &line.error}) {
+        &line.deflection, &line.status, &line.error, &line.standing, &line.sls, &line.notes}) {
     lines += ',';
     AppendField(*field, lines);
   }

@@ -43,12 +43,12 @@ int RunDesign(const std::string& file, const std::string& data, bool json) {
   if (run.fault) std::cerr << "arithmetic failure in " << run.what << "\n";
   if (json) {
     std::cout << DesignJson(design, run.fault) << "\n";
-  } else if (!run.fault) {
+  } else {
     if (OutputIsTerminal()) MakeNamesVisible(design.st);
-    std::cout << DesignText(design, ColourWanted());
+    std::cout << (run.fault ? VerdictText(design, ColourWanted())
+                            : DesignText(design, ColourWanted()));
   }
-  if (run.fault) return kArithmeticFailure;
-  return MaxIR(design.checks) <= design.st.iufa ? kAllPass : kCheckFails;
+  return StatusOf(VerdictOf(design));
 }
 
 int RunNew(const std::string& output, const std::string& data) {

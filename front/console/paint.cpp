@@ -181,7 +181,8 @@ int RunReport(const Arguments& a) {
   job.attachmentName =
       a.file == kStandardStream ? "project.kvn" : fs::path(a.file).filename().string();
   job.attachment = ProjectText(design.st);
-  return Finish(job, a, Format::Pdf);
+  if (const int status = Finish(job, a, Format::Pdf)) return status;
+  return StatusOf(VerdictOf(design));
 }
 
 /// What can be drawn, and the diagrams behind a word.

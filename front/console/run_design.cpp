@@ -4,8 +4,8 @@
 #include <string_view>
 #include <utility>
 
-#include "checks/results.h"
 #include "core/text.h"
+#include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
 
 namespace korvane {
@@ -24,15 +24,34 @@ Design StartedDesign(std::shared_ptr<const Library> library) {
 
 namespace {
 
-/// The single figure of the usage is held in single precision: ratios beyond it are a failure
-/// as any other.
-void CheckMaxIR(const Design& design, DesignRun& run) {
+/// The opening of a project: material step, then the calculations of opening and of the focus.
+void CalculateOpened(Design& design) {
+  ForgetFormerInput(design);
   try {
-    MaxIR(design.checks);
+    SetMaterial(design.lib->materials, design.rec.tmax, design.st);
   } catch (const ArithmeticFault& fault) {
-    run.fault = "MaxIR";
-    run.what = std::string("MaxIR: ") + fault.what();
+    design.history.stoppedIn = "SetMaterial";
+    throw CalculationFault("SetMaterial", fault.what());
   }
+  Calculate(design);
+  Calculate(design);
+}
+
+/// The results as far as the calculation of this project got, every other one empty: those that
+/// stand from the start are another member's.
+void KeepOwnResults(const ProjectState& opened, Design& design) {
+  Design own(design.lib);
+  own.st = opened;
+  try {
+    CalculateOpened(own);
+    own = Design(design.lib);  // the failure hangs on what another section left: nothing is known
+  } catch (const CalculationFault&) {
+    // The same failure: what was reached stands.
+  }
+  own.st = std::move(design.st);
+  own.messages = std::move(design.messages);
+  own.history = std::move(design.history);
+  design = std::move(own);
 }
 
 }  // namespace
@@ -63,19 +82,26 @@ DesignRun RunProject(Design& design, const std::string& path) {
   run.file = ReadProjectInput(path, design.st, run);
   if (run.file != FileResult::Ok) return run;
   design.st.CurrentFileName = path;
+  const ProjectState opened = design.st;
   try {
-    SetMaterial(design.lib->materials, design.rec.tmax, design.st);
-    Calculate(design);
-    Calculate(design);
+    CalculateOpened(design);
   } catch (const CalculationFault& fault) {
     run.fault = fault.Step();
     run.what = fault.what();
-  } catch (const ArithmeticFault& fault) {
-    run.fault = "SetMaterial";
-    run.what = std::string("SetMaterial: ") + fault.what();
+    KeepOwnResults(opened, design);
   }
-  if (!run.fault) CheckMaxIR(design, run);
   return run;
+}
+
+int StatusOf(const Verdict& verdict) {
+  switch (verdict.standing) {
+    case Standing::Passes:
+      return kAllPass;
+    case Standing::Stopped:
+      return kArithmeticFailure;
+    default:
+      return kCheckFails;
+  }
 }
 
 std::string FileMessage(FileResult result, const std::string& path) {

@@ -31,6 +31,9 @@ Design StartedDesign(std::shared_ptr<const Library> library);
 /// opening and the focus of the window do. The results depend on the file and the data alone.
 DesignRun RunProject(Design& design, const std::string& path);
 
+/// The exit status of a verdict: 0 only where the member passes, 3 where the calculation stopped.
+int StatusOf(const Verdict& verdict);
+
 /// The message of a file that could not be opened, empty when it could.
 std::string FileMessage(FileResult result, const std::string& path);
 

@@ -130,16 +130,24 @@ std::string SupportTip(const Support& support) {
   return tip;
 }
 
+/// k_ltb while the check is off.
+constexpr double kLtbOffMark = 0.001;
+
 void ToggleLateral(Session& s) {
   ProjectState& st = s.st();
   if (st.LateralTorsionalBuckling == 1) {
     st.LateralTorsionalBuckling = 0;
     st.LtbSegments = 0;
-    st.k_ltb = 0.001;
+    if (st.k_ltb != float32(kLtbOffMark)) st.k_ltb_before = st.k_ltb;
+    st.k_ltb = kLtbOffMark;
   } else {
     st.LateralTorsionalBuckling = 1;
     const double k = LengthFactorOfCase(st.LateralBucklingCase);
-    if (k > 0) st.k_ltb = k;  // a typed case keeps the last
+    if (k > 0) {
+      st.k_ltb = k;
+    } else if (st.k_ltb == float32(kLtbOffMark)) {
+      st.k_ltb = st.k_ltb_before;  // a typed case takes the last in force
+    }
   }
   s.Calculate();
 }
