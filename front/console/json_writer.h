@@ -92,7 +92,6 @@ private:
   void Value(std::string_view v);
   void Value(const char* v) { Value(std::string_view(v)); }
   void Value(const std::string& v) { Value(std::string_view(v)); }
-  void Value(const char* v) { Value(std::string_view(v)); }
   void Value(std::nullptr_t) { text_ += "null"; }
 
   std::string text_;
