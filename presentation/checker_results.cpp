@@ -410,7 +410,7 @@ CheckerBlock Buckling(D d) {
 // --- Serviceability
 // -------------------------------------------------------------------------------
 
-CheckerBlock ServiceabilityBlock(D d) {
+CheckerBlock DeflectionLimits(D d) {
   CheckerBlock b{"Deflection (SLS) and frequencies", {}};
   if (d.st.AnalysisMode == 1) {
     static constexpr Item items[] = {
@@ -433,9 +433,8 @@ CheckerBlock ServiceabilityBlock(D d) {
 }  // namespace
 
 CheckerBlocks CheckerResults(const Design& d) {
-  return {SectionValues(d),      SectionCapacitiesOf(d), Forces(d),       SectionLine(d),
-          ShearLines(d),         LateralLine(d),         LeastLateral(d), Buckling(d),
-          ServiceabilityBlock(d)};
+  return {SectionValues(d), SectionCapacitiesOf(d), Forces(d),   SectionLine(d),   ShearLines(d),
+          LateralLine(d),   LeastLateral(d),        Buckling(d), DeflectionLimits(d)};
 }
 
 }  // namespace korvane
