@@ -13,6 +13,10 @@ namespace korvane {
 /// Values of ResultView, the criterion of a search.
 enum Criterion { kCriterionUls = 0, kCriterionSls = 1, kCriterionUlsSls = 2, kCriterionNone = 3 };
 
+/// What each criterion is called, by its value.
+inline constexpr const char* kCriterionCaptions[] = {"ULS (Buckling/Section Control)",
+                                                     "SLS (Deflection - z-dir)", "ULS/SLS"};
+
 /// How a row's name shows the size.
 enum class SizeText {
   Number,      ///< the designation with two digits at least: "HEA100"

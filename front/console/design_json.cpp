@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "core/project_fields.h"
+#include "core/input_fields.h"
 #include "sections/section_fields.h"
 
 namespace korvane {
