@@ -6,6 +6,8 @@
 #include <optional>
 
 #include "analysis/running_sums.h"
+#include "core/family_kinds.h"
+#include "core/supports.h"
 
 namespace korvane {
 
@@ -118,7 +120,7 @@ void Finals(const ProjectState& st, BeamResults& out) {
   };
   out.MyAbsMax = larger(out.z.M_max, out.z.M_min);
   out.MzAbsMax = larger(out.y.M_max, out.y.M_min);
-  if (st.ProfileType >= 51 && st.ProfileType <= 56) {
+  if (IsStiffenedPlate(st.ProfileType)) {
     out.My_gov = std::min<double>(out.z.M_min, 0);  // only hogging counts
   } else {
     out.My_gov = std::fabs(out.z.M_min) < std::fabs(out.z.M_max) ? out.z.M_max : out.z.M_min;
@@ -153,8 +155,7 @@ void PlaneStations(const ProjectState& st, const PlaneModel& model, Plane plane,
     out.V_pt[j] = out.V[5 * j];
     if (plane == Plane::Z) results.pt_x[j] = j / 10.0;
   }
-  const bool restrained =
-      st.SupportType == 1 || st.SupportType == 2 || st.SupportType == 3 || st.SupportType == 5;
+  const bool restrained = IsRestrained(st.SupportType);
   out.M_zero1 = restrained ? MomentZero(out.M, 1, 25) : 0;
   out.M_zero2 = restrained ? MomentZero(out.M, 25, 49) : 0;
 }
@@ -205,8 +206,7 @@ void AnalyseLoads(ProjectState& st, double S, WorkingLoads& loads, BeamResults& 
 }
 
 void AnalyseEndForces(ProjectState& st, BeamResults& out, number& N) {
-  const int type = st.ProfileType;
-  if (type == 22 || type == 24 || type == 25 || type == 27) {
+  if (HasUnequalFlanges(st.ProfileType)) {
     st.Mz_end = {};
     st.Vy_end = {};
   }

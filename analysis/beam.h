@@ -29,8 +29,7 @@ struct BeamResults {
   float32 My_gov;                ///< kNm, signed governing moment about y
 };
 
-/// Which moments stand at the second and fourth quarter point: means of two stations for My,
-/// single stations for Mz.
+/// The plane in which the member bends: Z that of My and Vz, Y that of Mz and Vy.
 enum class Plane { Z, Y };
 
 /// betaMy and betaMz from the moments at the ends and at mid-span.

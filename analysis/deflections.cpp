@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "analysis/running_sums.h"
+#include "core/supports.h"
 
 namespace korvane {
 
@@ -26,7 +27,7 @@ void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,
   set(0, start);
   const double L = st.L;
   const RunningSums<DeflectionPart, DeflectionSum> sums(parts, L);
-  const int last = st.SupportType == 4 ? 50 : 49;  // elsewhere the far end stands still
+  const int last = IsCantilever(st.SupportType) ? 50 : 49;  // elsewhere the far end stands still
   for (int i = 1; i <= last; ++i) {
     const double x = (i / 50.0) * L;
     set(i, sums.AtStation(i, x).At(x, L));

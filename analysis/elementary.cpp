@@ -3,12 +3,13 @@
 
 #include <algorithm>
 
+#include "core/supports.h"
+
 namespace korvane {
 
 namespace {
 
-/// Rigid support cases of the elementary solutions.
-enum Case { kPinned = 0, kPropped = 1, kFixed = 2, kCantilever = 4 };
+using Case = RigidCase;
 
 // --- Forces -----------------------------------------------------------------------------------
 
@@ -16,17 +17,17 @@ ForcePart LineForces(Case support, double L, double q) {
   ForcePart p;
   ForceBranch& b = p.right;
   switch (support) {
-    case kPinned:
+    case Case::Pinned:
       b = {0, q * L / 2, -q / 2, q * L / 2, -q};
       break;
-    case kPropped:
+    case Case::Propped:
       b = {0, 3 * q * L / 8, -q / 2, 3 * q * L / 8, -q};
       break;
-    case kFixed:
+    case Case::Fixed:
       b = {-q * L * L / 12, q * L / 2, -q / 2, q * L / 2, -q};
       break;
     // The shear has the opposite sign to the slope of the moment: kept.
-    case kCantilever:
+    case Case::Cantilever:
       b = {-q * L * L / 2, q * L, -q / 2, -q * L, q};
       break;
   }
@@ -34,7 +35,7 @@ ForcePart LineForces(Case support, double L, double q) {
   p.V0 = b.v0;
   p.VL = b.v0 + b.v1 * L;
   p.M0 = b.m0;
-  p.ML = support == kPropped ? -q * L * L / 8 : support == kFixed ? b.m0 : 0;
+  p.ML = support == Case::Propped ? -q * L * L / 8 : support == Case::Fixed ? b.m0 : 0;
   p.endMoment = p.ML;
   return p;
 }
@@ -49,22 +50,22 @@ ForcePart PointForces(Case support, double L, double P, double a, bool inclusive
   double RA = 0;
   double RB = 0;
   switch (support) {
-    case kPinned:
+    case Case::Pinned:
       RA = P * b / L;
       RB = RA - P;
       break;
-    case kPropped:
+    case Case::Propped:
       RA = (P * b * b / (2 * L * L)) * (3 - b / L);
       RB = -(P * a / (2 * L)) * (3 - a * a / (L * L));
       MB = -(P * a / 2) * (1 - a * a / (L * L));
       break;
-    case kFixed:
+    case Case::Fixed:
       RA = (P * b * b / (L * L)) * (2 * a / L + 1);
       RB = RA - P;
       MA = -P * a * b * b / (L * L);
       MB = -P * a * a * b / (L * L);
       break;
-    case kCantilever:
+    case Case::Cantilever:
       p.left = {-P * a, P, 0, -P, 0};
       p.V0 = -P;
       p.VL = a == L ? -P : 0;
@@ -84,7 +85,7 @@ ForcePart PointForces(Case support, double L, double P, double a, bool inclusive
 ForcePart MomentForces(Case support, double L, double Mo, double a) {
   ForcePart p;
   p.a = a;
-  if (support == kCantilever) {
+  if (support == Case::Cantilever) {
     p.inclusive = true;
     p.left = {-Mo, 0, 0, 0, 0};
     p.M0 = -Mo;
@@ -94,19 +95,19 @@ ForcePart MomentForces(Case support, double L, double Mo, double a) {
   double V = 0;
   double M0 = 0;
   switch (support) {
-    case kPinned:
+    case Case::Pinned:
       V = -Mo / L;
       p.M0 = a == 0 ? Mo : 0;
       p.ML = a == L ? -Mo : 0;
       p.endMoment = -Mo;
       break;
-    case kPropped:
+    case Case::Propped:
       V = (3 * al * al - 3) * Mo / (2 * L);
       p.M0 = a == 0 ? Mo : 0;
       p.ML = (3 * al * al - 1) * Mo / 2;
       p.endMoment = p.ML;
       break;
-    case kFixed: {
+    case Case::Fixed: {
       const double be = (L - a) / L;
       V = (al * al + be * be - 1) * 3 * Mo / L;
       M0 = -(al * al + 2 * be * be - 1) * Mo;
@@ -115,7 +116,7 @@ ForcePart MomentForces(Case support, double L, double Mo, double a) {
       p.endMoment = p.ML;
       break;
     }
-    case kCantilever:
+    case Case::Cantilever:
       break;
   }
   p.left = {M0, V, 0, V, 0};
@@ -148,16 +149,16 @@ DeflectionPart LineDeflection(Case support, double L, double Kq) {
   const double L2 = L * L;
   const double L3 = L2 * L;
   switch (support) {
-    case kPinned:
+    case Case::Pinned:
       p.right = {{0, Kq * L3 / 24, 0, -Kq * L / 12, Kq / 24}};
       break;
-    case kPropped:
+    case Case::Propped:
       p.right = {{0, Kq * L3 / 48, 0, -Kq * L / 16, Kq / 24}};
       break;
-    case kFixed:
+    case Case::Fixed:
       p.right = {{0, 0, Kq * L2 / 24, -Kq * L / 12, Kq / 24}};
       break;
-    case kCantilever:
+    case Case::Cantilever:
       p.right = {{3 * Kq * L3 * L / 24, -Kq * L3 / 6, 0, 0, Kq / 24}, true};
       break;
   }
@@ -169,7 +170,7 @@ DeflectionPart PointDeflection(Case support, double L, double KP, double a) {
   DeflectionPart p;
   p.a = a;
   const double b = L - a;
-  if (support == kCantilever) {
+  if (support == Case::Cantilever) {
     const double tip = KP / 6 * (2 * L * L * L - 3 * L * L * b + b * b * b);
     p.a = std::min(a, L);  // the free end takes the tip value wherever the load stands
     p.left = {{0, 0, KP * a / 2, -KP / 6}};
@@ -179,22 +180,22 @@ DeflectionPart PointDeflection(Case support, double L, double KP, double a) {
   const double al = a / L;
   const double be = b / L;
   switch (support) {
-    case kPinned:
+    case Case::Pinned:
       p.left = {{0, KP * L * b / 6 * (1 - be * be), 0, -KP * b / (6 * L)}};
       p.right = {{0, KP * L * a / 6 * (1 - al * al), 0, -KP * a / (6 * L)}, true};
       break;
-    case kPropped:
+    case Case::Propped:
       p.left = {{0, KP * b * b / 4 * al, 0, -KP * b * b / 12 * (2 + al) / (L * L)}};
       p.right = {{0, 0, KP * a / 4 * (1 - al * al), -KP * a / 12 * (3 - al * al) / L}, true};
       break;
-    case kFixed:
+    case Case::Fixed:
       p.left = {{0, 0, KP * a / 2 * (al * al + 1 - 2 * al),
                  -KP / 6 * (2 * al * al * al + 1 - 3 * al * al)}};
       p.right = {{0, 0, KP * b / 2 * (be * be + 1 - 2 * be),
                   -KP / 6 * (2 * be * be * be + 1 - 3 * be * be)},
                  true};
       break;
-    case kCantilever:
+    case Case::Cantilever:
       break;
   }
   return p;
@@ -205,19 +206,19 @@ DeflectionPart MomentDeflection(Case support, double L, double KM, double a) {
   p.a = a;
   std::array<double, 5>& c = p.left.c;
   switch (support) {
-    case kPinned:
+    case Case::Pinned:
       c[1] = KM * (2 * L * L - 6 * a * L + 3 * a * a) / (6 * L);
       c[3] = KM / (6 * L);
       break;
-    case kPropped:
+    case Case::Propped:
       c[1] = -KM * (L - a) * (3 * a - L) / (4 * L);
       c[3] = KM * (L * L - a * a) / (4 * L * L * L);
       break;
-    case kFixed:
+    case Case::Fixed:
       c[2] = KM * (L * L - 4 * a * L + 3 * a * a) / (2 * L * L);
       c[3] = KM * a * (L - a) / (L * L * L);
       break;
-    case kCantilever:
+    case Case::Cantilever:
       c[2] = KM / 2;
       p.right = {{-KM * a * a / 2, KM * a}};
       p.start = a < 0 ? p.right.c[0] : 0;
@@ -269,33 +270,22 @@ void ForEachLoad(const ProjectState& st, const PlaneLoads& loads, Line&& line, S
 /// a fixed one.
 struct Blend {
   int count = 0;
-  Case cases[2] = {kPinned, kPinned};
+  Case cases[2] = {Case::Pinned, Case::Pinned};
   double weights[2] = {1, 0};
 };
 
 Blend BlendOf(const ProjectState& st) {
+  const Support* support = FindSupport(st.SupportType);
+  if (support == nullptr) return {};
+  if (!IsSpring(st.SupportType)) return {1, {support->stiff}, {1}};
   const double s = st.SpringRestraint / 100.0;
-  switch (st.SupportType) {
-    case 0:
-      return {1, {kPinned}, {1}};
-    case 1:
-      return {1, {kPropped}, {1}};
-    case 2:
-      return {1, {kFixed}, {1}};
-    case 3:
-      return {2, {kPinned, kFixed}, {1 - s, s}};
-    case 4:
-      return {1, {kCantilever}, {1}};
-    case 5:
-      return {2, {kPinned, kPropped}, {1 - s, s}};
-    default:
-      return {};
-  }
+  return {2, {Case::Pinned, support->stiff}, {1 - s, s}};
 }
 
 /// The formulas divide by the length in every case but the cantilever's.
 void CheckLength(const ProjectState& st) {
-  if (st.L == 0 && st.SupportType != 4) throw ArithmeticFault("division by a length of 0");
+  if (st.L == 0 && !IsCantilever(st.SupportType))
+    throw ArithmeticFault("division by a length of 0");
 }
 
 }  // namespace
@@ -305,7 +295,8 @@ void CollectForces(const ProjectState& st, const PlaneLoads& loads, PartList<For
   if (blend.count == 0) return;
   CheckLength(st);
   const double L = st.L;
-  const bool spring3 = st.SupportType == 3;
+  const bool spring = IsSpring(st.SupportType);
+  const bool bothSprings = IsSpringAtBothEnds(st.SupportType);
   const auto add = [&](auto&& part) {
     for (int k = 0; k < blend.count; ++k) {
       parts.Add(Scaled(part(blend.cases[k]), blend.weights[k]));
@@ -313,20 +304,20 @@ void CollectForces(const ProjectState& st, const PlaneLoads& loads, PartList<For
   };
   // The load's own position belongs to the left in the fixed cases; where both ends are springs
   // only the slices keep that rule.
-  const auto inclusive = [](Case c) { return c == kFixed || c == kCantilever; };
+  const auto inclusive = [](Case c) { return c == Case::Fixed || c == Case::Cantilever; };
   ForEachLoad(
       st, loads, [&](double q) { add([&](Case c) { return LineForces(c, L, q); }); },
       [&](double P, double a) {
         add([&](Case c) { return PointForces(c, L, P, a, inclusive(c)); });
       },
       [&](double P, double a) {
-        add([&](Case c) { return PointForces(c, L, P, a, inclusive(c) && !spring3); });
+        add([&](Case c) { return PointForces(c, L, P, a, inclusive(c) && !bothSprings); });
       },
       [&](double M, double a) {
         add([&](Case c) {
           ForcePart p = MomentForces(c, L, M, a);
-          if (c == kPinned && st.SupportType != 0) p.endMoment = 0;
-          if (spring3 && c == kPinned) {  // no end moments here, whatever the position
+          if (c == Case::Pinned && spring) p.endMoment = 0;
+          if (bothSprings && c == Case::Pinned) {  // no end moments here, whatever the position
             p.M0 = 0;
             p.ML = 0;
           }

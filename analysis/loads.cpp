@@ -3,6 +3,9 @@
 
 #include <array>
 
+#include "core/family_kinds.h"
+#include "core/supports.h"
+
 namespace korvane {
 
 namespace {
@@ -191,22 +194,10 @@ std::optional<LoadMessage> CheckTrapezoids(const ProjectState& st) {
 bool KeepsItem(const ProjectState& st, int i) {
   const double x = st.pmx[i];
   const double L = st.L;
-  const int support = st.SupportType;
-  if (st.pm_pm[i] == 0) return x != 0 && (support == 4 ? x <= L : x < L);
-  switch (support) {
-    case 0:
-    case 3:
-      return x <= L;
-    case 1:
-    case 5:
-      return x < L;
-    case 2:
-      return x != 0 && x < L;
-    case 4:
-      return x != 0 && x <= L;
-    default:
-      return true;
-  }
+  if (st.pm_pm[i] == 0) return x != 0 && (IsCantilever(st.SupportType) ? x <= L : x < L);
+  const Support* support = FindSupport(st.SupportType);
+  if (support == nullptr) return true;
+  return (support->momentAtStart || x != 0) && (support->momentAtEnd ? x <= L : x < L);
 }
 
 }  // namespace

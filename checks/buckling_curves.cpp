@@ -18,7 +18,8 @@ const Curve& CurveOf(int index) {
   return kCurves[index >= 0 && index < 4 ? static_cast<std::size_t>(index) : 4];
 }
 
-enum : int { a0, a, b, c, d };
+/// Numbers of the curves.
+enum : int { kA0, kA, kB, kC, kD };
 
 }  // namespace
 
@@ -27,7 +28,7 @@ double ImperfectionFactor(int curve) {
 }
 
 double AngleImperfectionFactor(int curve) {
-  return curve >= 0 && curve <= 2 ? CurveOf(curve + 1).alfa : CurveOf(d).alfa;
+  return curve >= 0 && curve <= 2 ? CurveOf(curve + 1).alfa : CurveOf(kD).alfa;
 }
 
 const char* CurveLetter(int curve) {
@@ -35,7 +36,7 @@ const char* CurveLetter(int curve) {
 }
 
 const char* AngleCurveLetter(int curve) {
-  return curve >= 0 && curve <= 2 ? CurveOf(curve + 1).letter : CurveOf(d).letter;
+  return curve >= 0 && curve <= 2 ? CurveOf(curve + 1).letter : CurveOf(kD).letter;
 }
 
 double LengthFactorOfCase(int bucklingCase) {
@@ -55,46 +56,34 @@ double LengthFactorOfCase(int bucklingCase) {
   }
 }
 
-void ChooseBucklingCurves(const SectionRecord& rec, ProjectState& st) {
+void ChooseBucklingCurves(CurveRule rule, const SectionRecord& rec, ProjectState& st) {
   const auto choose = [&st](int y, int z) {
     st.BucklingCurveY = y;
     st.BucklingCurveZ = z;
   };
-  switch (st.ProfileType) {
-    case 1:
-    case 2:
-    case 3:
-    case 4:
-    case 15: {
+  switch (rule) {
+    case CurveRule::RolledI: {
       // Compared in single precision.
       const bool deep = float32(1.2 * rec.b) < rec.h;
-      if (st.fyk > 440) return deep ? choose(a0, a0) : choose(a, a);
-      return deep ? choose(a, b) : choose(b, c);
+      if (st.fyk > 440) return deep ? choose(kA0, kA0) : choose(kA, kA);
+      return deep ? choose(kA, kB) : choose(kB, kC);
     }
-    case 5:
-    case 16:
-    case 10:
-    case 11:
-    case 26:
-    case 28:
-      return choose(c, c);
-    case 6:
-    case 7:
-      return choose(a, a);
-    case 8:
-    case 9:
-      return choose(b, b);
-    case 21:
-    case 22:
-      return rec.tmax <= 40 ? choose(b, c) : choose(c, d);
-    case 23: {
+    case CurveRule::WeldedI:
+      return rec.tmax <= 40 ? choose(kB, kC) : choose(kC, kD);
+    case CurveRule::WeldedBox: {
       // The stockier plates of a hot welded box take the weaker curve.
       const bool stocky = rec.b / rec.tf < 30 && rec.h / rec.tw < 30;
-      return st.BoxWeld == 0 && stocky ? choose(c, c) : choose(b, b);
+      return st.BoxWeld == 0 && stocky ? choose(kC, kC) : choose(kB, kB);
     }
-    case 31:
-      return st.TubeKind != 0 ? choose(a, a) : choose(b, b);
-    default:
+    case CurveRule::Tube:
+      return st.TubeKind != 0 ? choose(kA, kA) : choose(kB, kB);
+    case CurveRule::A:
+      return choose(kA, kA);
+    case CurveRule::B:
+      return choose(kB, kB);
+    case CurveRule::C:
+      return choose(kC, kC);
+    case CurveRule::Kept:
       return;
   }
 }

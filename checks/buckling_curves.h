@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/project_state.h"
-#include "sections/section_record.h"
+#include "sections/profile_table.h"
 
 namespace korvane {
 
@@ -23,8 +23,8 @@ const char* AngleCurveLetter(int curve);
 /// has none, which reads as -1.
 double LengthFactorOfCase(int bucklingCase);
 
-/// Sets BucklingCurveY and BucklingCurveZ by family, proportions (mm) and fyk (MPa); families
-/// without a rule keep theirs.
-void ChooseBucklingCurves(const SectionRecord& rec, ProjectState& st);
+/// Sets BucklingCurveY and BucklingCurveZ by the family's rule, the proportions (mm) and fyk (MPa);
+/// a family without a rule keeps those in force. Table 11.
+void ChooseBucklingCurves(CurveRule rule, const SectionRecord& rec, ProjectState& st);
 
 }  // namespace korvane

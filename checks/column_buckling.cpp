@@ -69,10 +69,10 @@ void ClassifyMember(const Family& family, const ProjectState& st, const BeamResu
   f.Ncl = f.N;
   f.My = beam.MyAbsMax;
   f.Mz = beam.MzAbsMax;
-  if (family.buckling == BucklingKind::T) return;
-  if (st.ProfileType == 41) rec.class_ = out.ClassGoverning;
-  family.bucklingClass(st, f, rec);
-  family.capacities(st, f, rec);
+  if (family.routines.buckling == BucklingKind::T) return;
+  if (family.givenConstants) rec.class_ = out.ClassGoverning;
+  family.routines.bucklingClass(st, f, rec);
+  family.routines.capacities(st, f, rec);
 }
 
 bool HasKlt(BucklingKind kind) {
@@ -82,14 +82,14 @@ bool HasKlt(BucklingKind kind) {
 void MomentFactorsOf(const Family& family, const ProjectState& st, const BeamResults& beam,
                      const SectionForces& f, const SectionRecord& rec, BucklingResults& b) {
   const bool plastic = rec.class_ <= 2 && st.BendingCapacityMode == 0;
-  const double Wely = family.buckling == BucklingKind::SingleSymmetric
+  const double Wely = family.routines.buckling == BucklingKind::SingleSymmetric
                           ? std::min<double>(rec.Wely1, rec.Wely2)
                           : double(rec.Wely);
   const double mu0y = plastic ? rec.Wply / Wely - 1 : 0;
   const double mu0z = plastic ? rec.Wplz / rec.Welz - 1 : 0;
   b.ky = MomentFactor(st, f, rec, b.Lybar * (2 * beam.betaMy - 4) + mu0y, b.Xy, 1.5);
   b.kz = MomentFactor(st, f, rec, b.Lzbar * (2 * beam.betaMz - 4) + mu0z, b.Xz, 1.5);
-  if (HasKlt(family.buckling)) {
+  if (HasKlt(family.routines.buckling)) {
     b.klt = MomentFactor(st, f, rec, 0.15 * (b.Lzbar * beam.betaMy - 1), b.Xz, 1.0);
   }
 }
@@ -181,7 +181,7 @@ void BucklingControl(const Family& family, const ProjectState& st, const BeamRes
   out.textZ = BucklingText::None;
   out.slenderness = st.check_slend == 1 && (st.bly != 0 || st.blz != 0);
 
-  const BucklingKind kind = family.buckling;
+  const BucklingKind kind = family.routines.buckling;
   if (kind == BucklingKind::Angle) {
     AngleSlendernesses(st, rec, b);
     Reductions(st, rec, AngleImperfectionFactor(st.BucklingCurveY),

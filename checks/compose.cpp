@@ -205,7 +205,7 @@ void ComposeSection(const Family& family, const ProjectState& st, const LtbResul
   const double iufa = st.iufa;
   const GoverningSection& s = out.section;
   if (s.term != Term::None) {
-    Wording w = SectionWording(s, family.sectionControl);
+    Wording w = SectionWording(s, family.routines.sectionControl);
     SetLine(out.lineSection, std::move(w.label), std::move(w.formula), std::move(w.numbers),
             out.IRsection, PointLimit(iufa, s.x, w.reference), CheckColour(out.IRsection, iufa));
   }
@@ -344,7 +344,7 @@ void ComposeLines(const Family* family, const ProjectState& st, const SectionRec
   out.lineVz = {};
   out.lineVy = {};
   out.lineLateral = {};
-  if (family == nullptr || family->sectionControl == SectionControlKind::None) {
+  if (family == nullptr || family->routines.sectionControl == SectionControlKind::None) {
     out.lineBucklingY = {};
     out.lineBucklingZ = {};
     out.lineSlenderness = {};
@@ -352,12 +352,13 @@ void ComposeLines(const Family* family, const ProjectState& st, const SectionRec
   }
   ComposeSection(*family, st, ltb, out);
   if (!out.bucklingRan) return;
-  const BucklingNumbers n{st, rec, beam, b, out, f.N, LateralReduction(st, ltb), family->buckling};
+  const BucklingNumbers n{
+      st, rec, beam, b, out, f.N, LateralReduction(st, ltb), family->routines.buckling};
   ComposeBuckling(n, out.textY, out.lineBucklingY);
   ComposeBuckling(n, out.textZ, out.lineBucklingZ);
   out.lineSlenderness = {};
   if (out.slenderness) {
-    const bool angle = family->buckling == BucklingKind::Angle;
+    const bool angle = family->routines.buckling == BucklingKind::Angle;
     out.lineSlenderness.label = angle ? "Slenderness: U/V-axis: " : "Slenderness: Y/Z-axis: ";
     out.lineSlenderness.formula = out.lineSlenderness.label + " L/i = ";
   }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "core/supports.h"
 #include "sections/capacities.h"
 
 namespace korvane {
@@ -61,19 +62,9 @@ constexpr std::array<SegmentRow, 8> kSegments{{
 }};
 // clang-format on
 
-/// What a family's moment resistance against lateral buckling is worked out from.
-enum class Method { CriticalMoment, SinglySymmetric, Plate };
-
-Method MethodOf(int profileType) {
-  if (profileType >= 51 && profileType <= 56) return Method::Plate;
-  return profileType == 22 ? Method::SinglySymmetric : Method::CriticalMoment;
-}
-
-/// Imperfection factor of the reduction; 22 and 41 take another one with restraint points.
-double Imperfection(int profileType, bool restraints) {
-  if (profileType == 21) return 0.49;
-  if (profileType == 22 || profileType == 41) return restraints ? 0.21 : 0.49;
-  return 0.21;
+/// A plate carried family, whose stiffener is compressed.
+bool IsPlate(LateralMethod method) {
+  return method == LateralMethod::FlatStiffener || method == LateralMethod::FlangedStiffener;
 }
 
 /// Reduction factor by the slenderness; the transition 0.4 is fixed for all families.
@@ -92,11 +83,11 @@ double CriticalMoment(const ProjectState& st, const SectionRecord& rec, double C
 }
 
 /// Reduction of a plate carried family whose stiffener is compressed, from the stress sigma.
-double PlateReduction(const ProjectState& st, const SectionRecord& rec, double Lmm,
-                      LtbResults& ltb) {
+double PlateReduction(LateralMethod method, const ProjectState& st, const SectionRecord& rec,
+                      double Lmm, LtbResults& ltb) {
   const double G = st.E / 2.6;
   double sigma = 0;
-  if (st.ProfileType == 51) {
+  if (method == LateralMethod::FlatStiffener) {
     sigma = (2 * std::pow(rec.h / Lmm, 2) + 1) * G * std::pow(rec.tw / rec.h, 2);
   } else {
     const double torsion = (std::pow(rec.tf2 / rec.tw, 2) * rec.Afc + rec.Afw) * G *
@@ -115,26 +106,28 @@ struct Signs {
   bool plateOnly;      ///< plate families: the plate is compressed all along
 };
 
-/// Mcr, lamLT, chiLT for the length in mm and the level term C2*zg; returns the design moment in
+/// What buckles: its length in mm and the imperfection factor that counts for it.
+struct Segment {
+  double Lmm, alpha;
+};
+
+/// Mcr, lamLT, chiLT of the segment and the level term C2*zg; returns the design moment in
 /// kNm.
-double DesignMoment(const ProjectState& st, const SectionRecord& rec, double level,
-                    const Signs& signs, bool restraints, double Lmm, LtbResults& ltb) {
+double DesignMoment(const LateralRule& rule, const ProjectState& st, const SectionRecord& rec,
+                    double level, const Signs& signs, const Segment& segment, LtbResults& ltb) {
   double w = rec.betay;
-  switch (MethodOf(st.ProfileType)) {
-    case Method::Plate:
-      w = signs.plateOnly ? rec.betaTop : rec.betaBottom;
-      ltb.chiLT = signs.plateOnly ? 1.0 : PlateReduction(st, rec, Lmm, ltb);
-      return MomentOf(st, ltb.chiLT * w * rec.Wply);
-    case Method::SinglySymmetric:
-      w = signs.topCompressed ? rec.betaTop : rec.betaBottom;
-      level -= ltb.C3 * (signs.topCompressed ? rec.zjTop : rec.zjBottom);
-      break;
-    case Method::CriticalMoment:
-      break;
+  if (IsPlate(rule.method)) {
+    w = signs.plateOnly ? rec.betaTop : rec.betaBottom;
+    ltb.chiLT = signs.plateOnly ? 1.0 : PlateReduction(rule.method, st, rec, segment.Lmm, ltb);
+    return MomentOf(st, ltb.chiLT * w * rec.Wply);
   }
-  ltb.Mcr = CriticalMoment(st, rec, ltb.C1, level, Lmm);
+  if (rule.method == LateralMethod::SinglySymmetric) {
+    w = signs.topCompressed ? rec.betaTop : rec.betaBottom;
+    level -= ltb.C3 * (signs.topCompressed ? rec.zjTop : rec.zjBottom);
+  }
+  ltb.Mcr = CriticalMoment(st, rec, ltb.C1, level, segment.Lmm);
   ltb.lamLT = std::sqrt(w * rec.Wply * st.fyk / ltb.Mcr);
-  ltb.chiLT = Reduction(ltb.lamLT, Imperfection(st.ProfileType, restraints));
+  ltb.chiLT = Reduction(ltb.lamLT, segment.alpha);
   return MomentOf(st, ltb.chiLT * w * rec.Wply);
 }
 
@@ -142,21 +135,21 @@ void ClassifyFor(const Family& family, const ProjectState& st, double My, Sectio
                  SectionRecord& rec) {
   f.Ncl = f.N;
   f.My = My;
-  family.sectionClass(st, f, rec);
-  family.capacities(st, f, rec);
+  family.routines.sectionClass(st, f, rec);
+  family.routines.capacities(st, f, rec);
 }
 
 /// Za by the load level and its distance zg in the formula; middle is the moment at mid-span.
-void LoadLevelDistance(ProjectState& st, const SectionRecord& rec, double middle, LtbResults& ltb) {
-  const int type = st.ProfileType;
-  if (type >= 51 && type <= 56) return;
-  if (type == 41) {
+void LoadLevelDistance(const Family& family, ProjectState& st, const SectionRecord& rec,
+                       double middle, LtbResults& ltb) {
+  if (IsPlate(family.lateral.method)) return;
+  if (family.givenConstants) {
     st.Za = 0;
     ltb.zg = 0;
     st.LoadLevel = 2;
     return;
   }
-  const bool single = type == 22;
+  const bool single = family.lateral.method == LateralMethod::SinglySymmetric;
   switch (st.LoadLevel) {
     case 1:
       st.Za = single ? double(rec.ezel) : rec.h / 2;
@@ -182,7 +175,7 @@ void LtbNoRestraints(const Family& family, ProjectState& st, SectionForces& f, S
   ltb.C3 = c.C3;
   const PlaneForces& z = beam.z;
   const double middle = z.M[25];
-  LoadLevelDistance(st, rec, middle, ltb);
+  LoadLevelDistance(family, st, rec, middle, ltb);
   ClassifyFor(family, st, beam.MyAbsMax, f, rec);
   if (st.CFactorManual == 1) {
     ltb.C1 = st.C1i;
@@ -191,7 +184,8 @@ void LtbNoRestraints(const Family& family, ProjectState& st, SectionForces& f, S
   }
   ltb.Lk = st.L * st.k_ltb;
   const Signs signs{middle > 0, middle >= 0 && z.M_q[0] >= 0 && z.M_q[4] >= 0};
-  ltb.Mdb = DesignMoment(st, rec, ltb.C2 * ltb.zg, signs, false, ltb.Lk * 1000, ltb);
+  ltb.Mdb = DesignMoment(family.lateral, st, rec, ltb.C2 * ltb.zg, signs,
+                         {ltb.Lk * 1000, family.lateral.alpha}, ltb);
   ltb.Mdb_min = ltb.Mdb;
   ltb.chiLT_min = ltb.chiLT;
   if (st.LateralTorsionalBuckling == 0) {
@@ -247,8 +241,9 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
     ltb.C3 = c.C3;
     ClassifyFor(family, st, (M1 + M2) / 2, f, rec);
     const Signs signs{(M1 + M2) / 2 > 0, M1 >= 0 && M2 >= 0};
-    const double Mseg = DesignMoment(st, rec, 0, signs, true, ltb.Lk * 1000, ltb);
-    const double Ms = SegmentMoment(M, i1, i2, MethodOf(st.ProfileType) == Method::Plate);
+    const double Mseg = DesignMoment(family.lateral, st, rec, 0, signs,
+                                     {ltb.Lk * 1000, family.lateral.alphaRestrained}, ltb);
+    const double Ms = SegmentMoment(M, i1, i2, IsPlate(family.lateral.method));
     const double ratio = std::fabs(Ms / Mseg);
     if (ratio >= worst) {  // a later segment wins a tie
       worst = ratio;
@@ -302,27 +297,27 @@ CFactors FactorsOfMember(const ProjectState& st, const BeamResults& beam) {
   const CFactors PF = At(kPointFixed, k);
   const bool oneFixedPoint = !above(M38, right);
   const bool fixedSpread = above(M38, right) || above(M12, left);
-  switch (st.SupportType) {
-    case 0: {
+  const Support* support = FindSupport(st.SupportType);
+  if (support == nullptr) return {};
+  // A spring support blends the factors with those of the pinned case.
+  const auto blended = [&](const CFactors& stiff, const CFactors& pinned) {
+    return IsSpring(st.SupportType) ? Mix(s, stiff, 1 - s, pinned) : stiff;
+  };
+  switch (support->stiff) {
+    case RigidCase::Pinned: {
       const double limit = std::fabs(Mx * 1.2 / 2);
       return std::fabs(M12) <= limit && std::fabs(M38) <= limit ? P : U;
     }
-    case 1:
-      return oneFixedPoint ? Mix(0.6, P, 0.4, PF) : Mix(0.6, U, 0.4, UF);
-    case 2:
-      return fixedSpread ? UF : PF;
-    case 3:
-      return fixedSpread ? Mix(s, UF, 1 - s, U) : Mix(s, PF, 1 - s, P);
-    case 4: {
+    case RigidCase::Propped:
+      return oneFixedPoint ? blended(Mix(0.6, P, 0.4, PF), P) : blended(Mix(0.6, U, 0.4, UF), U);
+    case RigidCase::Fixed:
+      return fixedSpread ? blended(UF, U) : blended(PF, P);
+    case RigidCase::Cantilever: {
       const bool spread = std::fabs(z.M_q[2]) > 1.2 * std::fabs(M0 + ML) / 2;
       return At(spread ? kSpreadPinned : kPointPinned, k / 2);
     }
-    case 5:
-      return oneFixedPoint ? Mix(s, Mix(0.6, P, 0.4, PF), 1 - s, P)
-                           : Mix(s, Mix(0.6, U, 0.4, UF), 1 - s, U);
-    default:
-      return {};
   }
+  return {};
 }
 
 void LateralTorsionalStep(const Family& family, ProjectState& st, SectionForces& f,

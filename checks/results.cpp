@@ -20,7 +20,7 @@ float MaxIR(const CheckResults& c) {
 
 bool ShowsBuckling(const ProjectState& st, double N) {
   const Family* family = FindFamily(st.ProfileType);
-  return family != nullptr && family->buckling != BucklingKind::None && N > 0 &&
+  return family != nullptr && family->routines.buckling != BucklingKind::None && N > 0 &&
          !(st.BucklingCaseY == 5 && st.BucklingCaseZ == 5);
 }
 

@@ -40,10 +40,10 @@ public:
         f_(f),
         rec_(rec),
         out_(out),
-        style_(StyleOf(family.sectionControl)) {}
+        style_(StyleOf(family.routines.sectionControl)) {}
 
   void Run() {
-    if (family_.sectionControl == SectionControlKind::SingleSymmetric) AxialOnce();
+    if (family_.routines.sectionControl == SectionControlKind::SingleSymmetric) AxialOnce();
     for (int i = 0; i <= beam_.pt_last; ++i) Point(i);
   }
 
@@ -62,9 +62,10 @@ private:
     f_.Mz = size(beam_.y.M_pt[i]);
     f_.Vy = size(beam_.y.V_pt[i]);
     f_.Ncl = f_.N;
-    family_.sectionClass(st_, f_, rec_);
-    if (family_.sectionControl == SectionControlKind::Tube) out_.ClassGoverning = rec_.class_;
-    family_.capacities(st_, f_, rec_);
+    family_.routines.sectionClass(st_, f_, rec_);
+    if (family_.routines.sectionControl == SectionControlKind::Tube)
+      out_.ClassGoverning = rec_.class_;
+    family_.routines.capacities(st_, f_, rec_);
 
     Shear(f_.Vz, rec_.Vdz, out_.IRvz, out_.Vz);
     if (style_.zDirectionOnly) {
@@ -86,8 +87,9 @@ private:
 
   void Axial() {
     if (f_.N == 0) return;
-    const double Nd =
-        f_.N > 0 && family_.sectionControl != SectionControlKind::Tube ? rec_.Ncrd : rec_.Ntd;
+    const double Nd = f_.N > 0 && family_.routines.sectionControl != SectionControlKind::Tube
+                          ? rec_.Ncrd
+                          : rec_.Ntd;
     Take(std::fabs(f_.N / Nd), Term::N, Nd, rec_.class_);
   }
 
@@ -183,7 +185,7 @@ int GoverningCorner(const std::array<double, 3>& r) {
   return r[1] > r[2] ? 2 : 3;
 }
 
-void AngleControl(const ProjectState& st, const BeamResults& beam, SectionForces& f,
+void AngleControl(const ProjectState& st, const BeamResults& beam, bool equalLegs, SectionForces& f,
                   const SectionRecord& rec, CheckResults& out) {
   const double Nd = f.N > 0 ? rec.Ncrd : rec.Ntd;
   out.hasCorners = true;
@@ -197,8 +199,8 @@ void AngleControl(const ProjectState& st, const BeamResults& beam, SectionForces
     const double n = -f.N / Nd;
     out.cornerIR[0] = std::fabs(n - Mu / rec.Mud1 + Mv / rec.Mvd1);
     // The heel of an equal angle lies on the axis u.
-    out.cornerIR[1] = st.ProfileType == 11 ? std::fabs(n + Mu / rec.Mud2 - Mv / rec.Mvd2)
-                                           : std::fabs(n - Mv / rec.Mvd2);
+    out.cornerIR[1] =
+        equalLegs ? std::fabs(n - Mv / rec.Mvd2) : std::fabs(n + Mu / rec.Mud2 - Mv / rec.Mvd2);
     out.cornerIR[2] = std::fabs(n + Mu / rec.Mud3 + Mv / rec.Mvd3);
     const int corner = GoverningCorner(out.cornerIR);
     const double r = out.cornerIR[static_cast<std::size_t>(corner - 1)];
@@ -213,7 +215,7 @@ void AngleControl(const ProjectState& st, const BeamResults& beam, SectionForces
       s.x = x;
       s.N = f.N;
       s.Nd = Nd;
-      s.My = st.ProfileType == 10 && corner == 2 ? 0 : Mu;
+      s.My = equalLegs && corner == 2 ? 0 : Mu;
       s.Mz = Mv;
       s.Mvdy = Mud[corner - 1];
       s.Mvdz = Mvd[corner - 1];
@@ -279,11 +281,13 @@ void SectionControl(const Family& family, ProjectState& st, const BeamResults& b
                     CheckResults& out) {
   ClearSectionResults(out);
   PointLoop loop(family, st, beam, f, rec, out);
-  switch (family.sectionControl) {
+  switch (family.routines.sectionControl) {
     case SectionControlKind::None:
       return;
-    case SectionControlKind::Angle:
-      return AngleControl(st, beam, f, rec, out);
+    case SectionControlKind::EqualAngle:
+      return AngleControl(st, beam, true, f, rec, out);
+    case SectionControlKind::UnequalAngle:
+      return AngleControl(st, beam, false, f, rec, out);
     case SectionControlKind::T:
       return loop.AxialOnce();
     case SectionControlKind::Plate:

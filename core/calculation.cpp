@@ -6,6 +6,7 @@
 #include "checks/compose.h"
 #include "checks/lateral_buckling.h"
 #include "checks/section_control.h"
+#include "core/supports.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
@@ -36,20 +37,21 @@ void ComputeSection(Design& d) {
   const Family* family = FindFamily(st.ProfileType);
   if (family == nullptr) return;
 
-  if (IsPlateType(st.ProfileType) && st.ProfileType != 27) d.forces.N = 0;
+  if (family->clearsN) d.forces.N = 0;
   RunStep("LoadSection", [&] { family->load(st, d.lib->catalogues, rec); });
   RunStep("SetMaterial", [&] { SetMaterial(d.lib->materials, rec.tmax, st); });
-  RunStep("EffectiveSection", [&] { family->effective(st, rec); });
-  if (family->shear) RunStep("ShearCapacity", [&] { family->shear(st, rec); });
-  if (family->nominal) {
-    RunStep("NominalCapacities", [&] { family->nominal(st, *family, d.forces, rec); });
+  const RoutineSet& routines = family->routines;
+  if (routines.effective) RunStep("EffectiveSection", [&] { routines.effective(st, rec); });
+  if (routines.shear) RunStep("ShearCapacity", [&] { routines.shear(st, rec); });
+  if (routines.nominal) {
+    RunStep("NominalCapacities", [&] { routines.nominal(st, *family, d.forces, rec); });
   }
   if (rec.flangeOverloaded) {
     rec.flangeOverloaded = false;
     st.HsqKind = 1;
     d.messages.emplace_back(" Flange overloaded! Program removes flangeloading ");
   }
-  if (family->lateral) {
+  if (family->lateral.method != LateralMethod::None) {
     RunStep("LateralTorsionalBuckling",
             [&] { LateralTorsionalStep(*family, st, d.forces, rec, d.beam, d.ltb); });
   } else {
@@ -57,7 +59,7 @@ void ComputeSection(Design& d) {
     st.LtbSegments = 0;
   }
   if (st.ManualBucklingCurves == 0) {
-    RunStep("ChooseBucklingCurves", [&] { ChooseBucklingCurves(rec, st); });
+    RunStep("ChooseBucklingCurves", [&] { ChooseBucklingCurves(family->curves, rec, st); });
   }
 }
 
@@ -74,8 +76,8 @@ void RunChecks(Design& d) {
     ClearSectionResults(c);
     return;
   }
-  if (IsPlateType(d.st.ProfileType) && d.st.ProfileType != 27) d.forces.N = 0;
-  if (family->sectionControl == SectionControlKind::T) {
+  if (family->clearsN) d.forces.N = 0;
+  if (family->routines.sectionControl == SectionControlKind::T) {
     ClearLoadsKeepAxial(d.st);
     d.forces.My = 0;
     d.forces.Mz = 0;
@@ -84,7 +86,7 @@ void RunChecks(Design& d) {
   }
   RunStep("SectionControl",
           [&] { SectionControl(*family, d.st, d.beam, d.ltb, d.forces, d.rec, c); });
-  if (d.forces.N > 0 && family->buckling != BucklingKind::None) {
+  if (d.forces.N > 0 && family->routines.buckling != BucklingKind::None) {
     RunStep("BucklingControl",
             [&] { BucklingControl(*family, d.st, d.beam, d.ltb, d.forces, d.rec, d.buckling, c); });
   }
@@ -110,11 +112,11 @@ void Analyse(Design& d) {
 /// The part of the refresh of the controls that changes the state, with and without a window.
 void RefreshState(ProjectState& st) {
   const Family* family = FindFamily(st.ProfileType);
-  if (family != nullptr && !family->webOption) {
+  if (family != nullptr && !family->options.web) {
     st.WebStiffener = 0;
     st.EndStiffener = 0;
   }
-  if (st.SupportType == 3 || st.SupportType == 5) st.ModalAnalysis = 0;
+  if (IsSpring(st.SupportType)) st.ModalAnalysis = 0;
   if (st.a_webstiff > 1000 * st.L) st.a_webstiff = 1000 * st.L;
 }
 

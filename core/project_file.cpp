@@ -4,9 +4,12 @@
 
 #include <algorithm>
 #include <iterator>
+#include <type_traits>
 
 #include "core/field_io.h"
 #include "core/files.h"
+#include "core/fixed_list.h"
+#include "core/state_field.h"
 
 namespace korvane {
 namespace {
@@ -35,81 +38,89 @@ public:
   constexpr bool Old() const { return false; }
 };
 
-// What the file holds of one section family.
-template <class Io, class State>
+using S = ProjectState;
+
+/// Whether files of the old format hold the fields too.
+enum class OldFormat { HasThem, LacksThem };
+
+/// What the file holds of one section family: its fields in the file's own order.
 struct Payload {
   int profileType;
-  bool inOldFormat;
-  void (*walk)(Io& io, State& st);
+  OldFormat old;
+  FixedList<StateField, 13> fields{};
+  /// Of a family with sub-families: the row's field by the sub-family, which the first field
+  /// tells and which counts from 1.
+  FixedList<int16 S::*, 3> bySub{};
+  int spares = 0;  ///< num lines behind them that belong to no field
 };
 
-// clang-format off
-template <class Io, class State>
-constexpr Payload<Io, State> kPayloads[] = {
-    {1, true, [](Io& io, State& st) { io(st.idxHEA); }},
-    {2, true, [](Io& io, State& st) { io(st.idxHEB); }},
-    {3, true, [](Io& io, State& st) { io(st.idxHEM); }},
-    {4, true, [](Io& io, State& st) { io(st.idxIPE); }},
-    {5, true, [](Io& io, State& st) { io(st.idxUPE); }},
-    {6, true, [](Io& io, State& st) { io(st.idxRHSs); }},
-    {7, true, [](Io& io, State& st) { io(st.idxRHSr); }},
-    {8, true, [](Io& io, State& st) { io(st.idxCFRHSs); }},
-    {9, true, [](Io& io, State& st) { io(st.idxCFRHSr); }},
-    {10, true, [](Io& io, State& st) { io(st.idxLeq); }},
-    {11, true, [](Io& io, State& st) { io(st.idxLuneq); }},
-    {15, false, [](Io& io, State& st) { io(st.idxINP); }},
-    {16, false, [](Io& io, State& st) { io(st.idxUNP); }},
-    {21, true, [](Io& io, State& st) { io(st.p21_h, st.p21_b, st.p21_tw, st.p21_tf); }},
-    {22, true, [](Io& io, State& st) {
-       io(st.p22_h, st.p22_b, st.p22_b2, st.p22_tw, st.p22_tf1, st.p22_tf2);
-     }},
-    {23, true, [](Io& io, State& st) {
-       io(st.p23_h, st.p23_b, st.p23_tw, st.p23_tf, st.p23_a, st.BoxWeld);
-     }},
-    {24, true, [](Io& io, State& st) {
-       io(st.p24_h, st.p24_b, st.p24_tw, st.p24_tf1, st.p24_tf2, st.p24_a, st.p24_c, st.p24_load);
-     }},
-    {25, true, [](Io& io, State& st) {
-       io(st.p25_h, st.p25_b1, st.p25_b2, st.p25_tw, st.p25_tf1, st.p25_tf2, st.p25_a, st.p25_c);
-     }},
-    {26, false, [](Io& io, State& st) { io(st.p26_h, st.p26_b, st.p26_tw, st.p26_tf); }},
-    {27, false, [](Io& io, State& st) {
-       io(st.p27_h, st.p27_b1, st.p27_b2, st.p27_tw, st.p27_tf1, st.p27_tf2, st.p27_a);
-       io.Spare();
-       io.Spare();
-     }},
-    {31, true, [](Io& io, State& st) { io(st.p31_d, st.p31_tw, st.TubeKind); }},
-    {41, true, [](Io& io, State& st) {
-       io.Quoted(st.p41_name);
-       io(st.p41_option, st.p41_A, st.p41_Az, st.p41_Ay, st.p41_Ix, st.p41_Iy, st.p41_Iz,
-          st.p41_Iw, st.p41_Wely, st.p41_Welz, st.p41_Wply, st.p41_Wplz);
-     }},
-    {51, false, [](Io& io, State& st) { io(st.p51_h, st.p51_b, st.p51_tw, st.p51_tf1); }},
-    {52, false, [](Io& io, State& st) { io(st.p52_index, st.p52_b1, st.p52_t1); }},
-    {53, false, [](Io& io, State& st) {
-       io(st.p53_h, st.p53_b1, st.p53_b2, st.p53_tw, st.p53_tf1, st.p53_tf2);
-     }},
-    {54, false, [](Io& io, State& st) { io(st.p54_index, st.p54_b1, st.p54_t1); }},
-    {55, false, [](Io& io, State& st) {
-       io(st.p55_h, st.p55_b1, st.p55_b2, st.p55_tw, st.p55_tf1, st.p55_a);
-     }},
-    {56, false, [](Io& io, State& st) {
-       io(st.p56_h, st.p56_b1, st.p56_b2, st.p56_tw, st.p56_tf1, st.p56_tf2);
-     }},
-    {101, false, [](Io& io, State& st) {
-       io(st.p101_sub);
-       if (st.p101_sub == 1) io(st.p101_idx1);
-       if (st.p101_sub == 2) io(st.p101_idx2);
-       if (st.p101_sub == 3) io(st.p101_idx3);
-     }},
-    {102, false, [](Io& io, State& st) { io(st.p102_idx); }},
-    {103, false, [](Io& io, State& st) {
-       io(st.p103_sub);
-       if (st.p103_sub == 1) io(st.p103_idx1);
-       if (st.p103_sub == 2) io(st.p103_idx2);
-     }},
+constexpr OldFormat kAlways = OldFormat::HasThem;
+constexpr OldFormat kNotInOldFormat = OldFormat::LacksThem;
+
+constexpr Payload kPayloads[] = {
+    {1, kAlways, {&S::idxHEA}},
+    {2, kAlways, {&S::idxHEB}},
+    {3, kAlways, {&S::idxHEM}},
+    {4, kAlways, {&S::idxIPE}},
+    {5, kAlways, {&S::idxUPE}},
+    {6, kAlways, {&S::idxRHSs}},
+    {7, kAlways, {&S::idxRHSr}},
+    {8, kAlways, {&S::idxCFRHSs}},
+    {9, kAlways, {&S::idxCFRHSr}},
+    {10, kAlways, {&S::idxLeq}},
+    {11, kAlways, {&S::idxLuneq}},
+    {15, kNotInOldFormat, {&S::idxINP}},
+    {16, kNotInOldFormat, {&S::idxUNP}},
+    {21, kAlways, {&S::p21_h, &S::p21_b, &S::p21_tw, &S::p21_tf}},
+    {22, kAlways, {&S::p22_h, &S::p22_b, &S::p22_b2, &S::p22_tw, &S::p22_tf1, &S::p22_tf2}},
+    {23, kAlways, {&S::p23_h, &S::p23_b, &S::p23_tw, &S::p23_tf, &S::p23_a, &S::BoxWeld}},
+    {24,
+     kAlways,
+     {&S::p24_h, &S::p24_b, &S::p24_tw, &S::p24_tf1, &S::p24_tf2, &S::p24_a, &S::p24_c,
+      &S::p24_load}},
+    {25,
+     kAlways,
+     {&S::p25_h, &S::p25_b1, &S::p25_b2, &S::p25_tw, &S::p25_tf1, &S::p25_tf2, &S::p25_a,
+      &S::p25_c}},
+    {26, kNotInOldFormat, {&S::p26_h, &S::p26_b, &S::p26_tw, &S::p26_tf}},
+    {27,
+     kNotInOldFormat,
+     {&S::p27_h, &S::p27_b1, &S::p27_b2, &S::p27_tw, &S::p27_tf1, &S::p27_tf2, &S::p27_a},
+     {},
+     2},
+    {31, kAlways, {&S::p31_d, &S::p31_tw, &S::TubeKind}},
+    {41,
+     kAlways,
+     {&S::p41_name, &S::p41_option, &S::p41_A, &S::p41_Az, &S::p41_Ay, &S::p41_Ix, &S::p41_Iy,
+      &S::p41_Iz, &S::p41_Iw, &S::p41_Wely, &S::p41_Welz, &S::p41_Wply, &S::p41_Wplz}},
+    {51, kNotInOldFormat, {&S::p51_h, &S::p51_b, &S::p51_tw, &S::p51_tf1}},
+    {52, kNotInOldFormat, {&S::p52_index, &S::p52_b1, &S::p52_t1}},
+    {53,
+     kNotInOldFormat,
+     {&S::p53_h, &S::p53_b1, &S::p53_b2, &S::p53_tw, &S::p53_tf1, &S::p53_tf2}},
+    {54, kNotInOldFormat, {&S::p54_index, &S::p54_b1, &S::p54_t1}},
+    {55, kNotInOldFormat, {&S::p55_h, &S::p55_b1, &S::p55_b2, &S::p55_tw, &S::p55_tf1, &S::p55_a}},
+    {56,
+     kNotInOldFormat,
+     {&S::p56_h, &S::p56_b1, &S::p56_b2, &S::p56_tw, &S::p56_tf1, &S::p56_tf2}},
+    {101, kNotInOldFormat, {&S::p101_sub}, {&S::p101_idx1, &S::p101_idx2, &S::p101_idx3}},
+    {102, kNotInOldFormat, {&S::p102_idx}},
+    {103, kNotInOldFormat, {&S::p103_sub}, {&S::p103_idx1, &S::p103_idx2}},
 };
-// clang-format on
+
+/// One field: a text in quotes, a number by its type.
+template <class Io, class State>
+void WalkField(Io& io, State& st, const StateField& field) {
+  std::visit(
+      [&](auto member) {
+        if constexpr (std::is_same_v<decltype(member), std::string S::*>) {
+          io.Quoted(st.*member);
+        } else {
+          io(st.*member);
+        }
+      },
+      field);
+}
 
 template <class Io, class State>
 void WalkHead(Io& io, State& st) {
@@ -160,11 +171,17 @@ void WalkEndForces(Io& io, State& st) {
 
 template <class Io, class State>
 void WalkPayload(Io& io, State& st) {
-  const auto& payloads = kPayloads<Io, State>;
-  const auto row = std::find_if(std::begin(payloads), std::end(payloads), [&](const auto& p) {
-    return p.profileType == st.ProfileType && (p.inOldFormat || !io.Old());
-  });
-  if (row != std::end(payloads)) row->walk(io, st);
+  const auto row = std::find_if(std::begin(kPayloads), std::end(kPayloads),
+                                [&](const Payload& p) { return p.profileType == st.ProfileType; });
+  if (row == std::end(kPayloads) || (io.Old() && row->old == kNotInOldFormat)) return;
+  for (const StateField& field : row->fields) WalkField(io, st, field);
+  if (!row->bySub.empty()) {
+    const double sub = ReadNumber(st, row->fields[0]);
+    for (std::size_t k = 0; k < row->bySub.size(); ++k) {
+      if (sub == static_cast<double>(k + 1)) io(st.*row->bySub[k]);
+    }
+  }
+  for (int k = 0; k < row->spares; ++k) io.Spare();
 }
 
 template <class Io, class State>

@@ -283,11 +283,4 @@ void ClearLoads(ProjectState& st);
 /// axial force alone).
 void ClearLoadsKeepAxial(ProjectState& st);
 
-/// True for the members carried by a plate (24, 25, 27 and 51 to 56): no axial load, all loads
-/// in the z direction.
-constexpr bool IsPlateType(int profileType) {
-  return profileType == 24 || profileType == 25 || profileType == 27 ||
-         (profileType >= 51 && profileType <= 56);
-}
-
 }  // namespace korvane

@@ -9,21 +9,31 @@
 namespace korvane {
 namespace {
 
-using S = ProjectState;
+/// The rows in the order of the family table.
+std::array<OptimiserRow, kOptimiserRows> MakeRows() {
+  std::array<OptimiserRow, kOptimiserRows> rows;
+  std::size_t count = 0;
+  for (const Family& family : AllFamilies()) {
+    if (family.search.name == nullptr) continue;
+    const SearchSeries& s = family.search;
+    const FamilyCatalogue& catalogue = family.catalogues[0];
+    rows.at(count) = {static_cast<int>(count) + 1,
+                      family.code,
+                      s.name,
+                      s.word,
+                      s.size,
+                      catalogue.cat,
+                      s.last,
+                      catalogue.index};
+    ++count;
+  }
+  return rows;
+}
 
-constexpr std::array<OptimiserRow, kOptimiserRows> kRows{{
-    {1, 1, "HEA", "HEA", SizeText::Number, Cat::HEA, 23, &S::idxHEA},
-    {2, 2, "HEB", "HEB", SizeText::Number, Cat::HEB, 23, &S::idxHEB},
-    {3, 3, "HEM", "HEM", SizeText::Number, Cat::HEM, 23, &S::idxHEM},
-    {4, 4, "IPE", "IPE", SizeText::Number, Cat::IPE, 17, &S::idxIPE},
-    {5, 5, "UPE", "UPE", SizeText::Number, Cat::UPE, 13, &S::idxUPE},
-    {6, 6, "SHS", "RHS ", SizeText::Square, Cat::SHS, 100, &S::idxRHSs},
-    {7, 7, "RHS", "RHS", SizeText::Rectangular, Cat::RHS, 157, &S::idxRHSr},
-    {8, 8, "CFSHS", "CHRHS", SizeText::Rectangular, Cat::CFSHS, 98, &S::idxCFRHSs},
-    {9, 9, "CFRHS", "CFRHS", SizeText::Rectangular, Cat::CFRHS, 115, &S::idxCFRHSr},
-    {10, 10, "L1", "L ", SizeText::Square, Cat::L1, 59, &S::idxLeq},
-    {11, 11, "L2", "L ", SizeText::Rectangular, Cat::L2, 48, &S::idxLuneq},
-}};
+const std::array<OptimiserRow, kOptimiserRows>& Rows() {
+  static const std::array<OptimiserRow, kOptimiserRows> rows = MakeRows();
+  return rows;
+}
 
 /// No section of a catalogue is heavier than a search starts with, kg/m.
 constexpr double kStartWeight = 1000.0;
@@ -69,12 +79,12 @@ std::string DeflectionText(const Design& design) {
 }  // namespace
 
 std::span<const OptimiserRow> AllOptimiserRows() {
-  return kRows;
+  return Rows();
 }
 
 const OptimiserRow& OptimiserRowOf(int row) {
   if (row < 1 || row > kOptimiserRows) throw ArithmeticFault("index out of range");
-  return kRows[static_cast<std::size_t>(row - 1)];
+  return Rows()[static_cast<std::size_t>(row - 1)];
 }
 
 bool CanOptimise(const ProjectState& st) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/calculation.h"
+#include "sections/profile_table.h"
 
 namespace korvane {
 
@@ -17,23 +18,17 @@ enum Criterion { kCriterionUls = 0, kCriterionSls = 1, kCriterionUlsSls = 2, kCr
 inline constexpr const char* kCriterionCaptions[] = {"ULS (Buckling/Section Control)",
                                                      "SLS (Deflection - z-dir)", "ULS/SLS"};
 
-/// How a row's name shows the size.
-enum class SizeText {
-  Number,      ///< the designation with two digits at least: "HEA100"
-  Square,      ///< side x side x thickness, columns 1, 1, 2
-  Rectangular  ///< h x b x thickness, columns 1, 2, 3
-};
-
-/// One series.
+/// One series: a family that has one (Family::search), with what its row of the table tells.
 struct OptimiserRow {
-  int row;  ///< 1 to 11
-  int ProfileType;
-  const char* series;  ///< the series in words of the command line: "HEA", "SHS"
-  const char* word;    ///< beginning of the name on the row
-  SizeText size;
-  Cat catalogue;
-  int last;                    ///< last catalogue index of the search
-  int16 ProjectState::*index;  ///< the family's size index, which is also the row's BestIndex
+  int row = 0;  ///< 1 to 11
+  int ProfileType = 0;
+  const char* series = "";  ///< the series in words of the command line: "HEA", "SHS"
+  const char* word = "";    ///< beginning of the name on the row
+  SizeText size = SizeText::Number;
+  Cat catalogue = Cat::Count;
+  int last = 0;  ///< last catalogue index of the search
+  /// The family's size index, which is also the row's BestIndex.
+  int16 ProjectState::*index = nullptr;
 };
 
 inline constexpr int kOptimiserRows = 11;

@@ -25,7 +25,7 @@ void DrawSectionReport(DrawingTarget& t, double line, const Design& d) {
   t.FontSize = kBodySize;
   line = DrawSectionValues(t, line + 2.5, d) + 1;
   PutText(t, kC8, line, ModulusLine(d));
-  if (d.st.ProfileType == 24 || d.st.ProfileType == 25) {
+  if (IsHsq(d.st.ProfileType)) {
     PutText(t, kC1, line + 1,
             "Mdy takes into account flange loading of " + Format(FlangeLoad(d.st) / 60, "0.0") +
                 " kN/m flange (incl loadf)");

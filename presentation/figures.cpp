@@ -6,6 +6,7 @@
 #include "presentation/label_placer.h"
 #include "presentation/section_outlines.h"
 #include "presentation/symbols.h"
+#include "sections/profile_table.h"
 
 namespace korvane {
 namespace {
@@ -235,8 +236,8 @@ Point FigureOrigin(double H, double W) {
 }
 
 std::string_view ReportLetter(int profileType, std::string_view letter) {
-  const bool oneWall = profileType == 31 || (profileType >= 51 && profileType <= 56);
-  return oneWall && letter == "tw" ? "t" : letter;
+  const Family* family = FindFamily(profileType);
+  return family != nullptr && letter == "tw" ? family->words.wall : letter;
 }
 
 void DrawSectionFigure(DrawingTarget& target, const Box& place, Destination destination,

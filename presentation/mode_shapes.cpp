@@ -6,6 +6,8 @@
 #include <numbers>
 #include <string>
 
+#include "core/supports.h"
+
 namespace korvane {
 
 namespace {
@@ -23,27 +25,28 @@ double Raw(int supportType, int mode, double x) {
   constexpr std::array pinnedFixed{3.926602, 7.068583, 10.210176};
   constexpr std::array fixedFixed{4.730041, 7.853205, 10.995608};
   constexpr std::array fixedFree{1.875104, 4.694091, 7.854757};
-  switch (supportType) {
-    case 0:
+  const Support* support = FindSupport(supportType);
+  if (support == nullptr || IsSpring(supportType)) return 0;
+  switch (support->stiff) {
+    case RigidCase::Pinned:
       return std::sin(mode * std::numbers::pi * x);
-    case 1: {
+    case RigidCase::Propped: {
       const double l = pinnedFixed[m];  // pinned at 0, clamped at 1
       const double s = (std::cosh(l) - std::cos(l)) / (std::sinh(l) - std::sin(l));
       return Clamped(l, s, 1 - x);
     }
-    case 2: {
+    case RigidCase::Fixed: {
       const double l = fixedFixed[m];
       const double s = (std::cosh(l) - std::cos(l)) / (std::sinh(l) - std::sin(l));
       return Clamped(l, s, x);
     }
-    case 4: {
+    case RigidCase::Cantilever: {
       const double l = fixedFree[m];
       const double s = (std::cosh(l) + std::cos(l)) / (std::sinh(l) + std::sin(l));
       return Clamped(l, s, x);
     }
-    default:
-      return 0;
   }
+  return 0;
 }
 
 double Greatest(int supportType, int mode) {

@@ -167,20 +167,10 @@ double DrawBlock(DrawingTarget& t, double column, double line, const char* headi
 /// The typed distance of the webs, on a trapezoid the run of its slope: the section record has no
 /// field for it, but the figure has its letter.
 std::optional<double> WebDistance(const ProjectState& st) {
-  switch (st.ProfileType) {
-    case 23:
-      return st.p23_a;
-    case 24:
-      return st.p24_a;
-    case 25:
-      return st.p25_a;
-    case 27:
-      return st.p27_a;
-    case 55:
-      return st.p55_a;
-    default:
-      return std::nullopt;
-  }
+  const Family* family = FindFamily(st.ProfileType);
+  const Dimension* a = family == nullptr ? nullptr : DimensionOf(*family, "a");
+  if (a == nullptr) return std::nullopt;
+  return ReadNumber(st, a->field);
 }
 
 ShownValues::iterator Named(ShownValues& values, std::string_view name) {
@@ -189,15 +179,15 @@ ShownValues::iterator Named(ShownValues& values, std::string_view name) {
 }
 
 const char* DimensionHeading(int type) {
-  if (type == 24 || type == 25 || type == 27) return "Dimensions:";
-  return type == 10 || type == 11 ? "Dimension and Weight:" : "Dimensions and weight:";
+  if (IsTwoWebUnequal(type)) return "Dimensions:";
+  return IsAngle(type) ? "Dimension and Weight:" : "Dimensions and weight:";
 }
 
 }  // namespace
 
 double DrawSectionValues(DrawingTarget& t, double line, const Design& d) {
   const int type = d.st.ProfileType;
-  const bool weightApart = type == 24 || type == 25 || type == 27;
+  const bool weightApart = IsTwoWebUnequal(type);
   ShownValues dimensions = Dimensions(d.st, d.rec);
   ShownValues properties = Properties(d.st, d.rec);
   if (const std::optional<double> a = WebDistance(d.st)) {
@@ -225,76 +215,30 @@ double DrawSectionValues(DrawingTarget& t, double line, const Design& d) {
 
 std::string ProfileLine(const Design& d) {
   const ProjectState& st = d.st;
-  const std::string size = NameDimensions(st, d.lib->catalogues);
-  const bool ch = st.p103_sub == 2;
-  switch (st.ProfileType) {
-    case 5:
-      return "  UPE " + size;
-    case 16:
-      return "  UNP " + size;
-    case 6:
-    case 7:
-      return "  RHS " + size + " (Hotf.)";
-    case 8:
-      return "  CHRHS-Sq " + size + " (Coldf.)";
-    case 9:
-      return "  CFRHS-Rec " + size + " (Coldf.)";
-    case 10:
-    case 11:
-      return "  L " + size;
-    case 21:
-      return "  I  " + size;
-    case 22:
-      return "  I " + size;
-    case 23:
-    case 27:
-      return "  Box " + size;
-    case 24:
-    case 25:
-      return " HSQ " + size;
-    case 26:
-      return "  T " + size;
-    case 28:
-      return "  Fb " + size;
-    case 31:
-      return "  Tube " + size + (st.TubeKind == 1 ? " (Hot formed)" : " (Cold formed)");
-    case 41:
-      return "Identification: " + st.p41_name;
-    case 51:
-      return " Plate + Fb " + size;
-    case 52:
-    case 53:
-      return " Plate + L " + size;
-    case 54:
-      return " Plate + BF " + size;
-    case 55:
-      return " Plate + Trapez " + size;
-    case 56:
-      return " Plate + T " + size;
-    case 101: {
-      constexpr const char* words[] = {"  UB  ", "  UC  ", "  UBP  "};
-      const int sub = st.p101_sub;
-      return (sub >= 1 && sub <= 3 ? words[sub - 1] : "  U  ") + size;
-    }
-    case 102:
-      return "  J  " + size;
-    case 103:
-      return (ch ? "  CH " : "  PFC ") + size;
-    default:
-      return "  " + SectionTitle(st, d.lib->catalogues);
+  const Family* family = FindFamily(st.ProfileType);
+  const char* word = nullptr;
+  if (family != nullptr) {
+    word = family->words.page;
+    const FamilyCatalogue* catalogue =
+        family->sub == nullptr ? nullptr : CatalogueOfSub(*family, st.*family->sub);
+    if (catalogue != nullptr) word = catalogue->page;
   }
+  if (word == nullptr) return "  " + SectionTitle(st, d.lib->catalogues);
+  const FamilyWords& words = family->words;
+  return word + NameDimensions(st, d.lib->catalogues) + words.pageEnd +
+         (words.pageOption == nullptr ? std::string() : words.pageOption(st));
 }
 
 std::string ModulusLine(const Design& d) {
   const Family* family = FindFamily(d.st.ProfileType);
-  if (family == nullptr || !family->bendingFrame) return {};
+  if (family == nullptr || !family->options.bending) return {};
   return std::string("Section class 1-2: ") +
          (d.st.BendingCapacityMode == 1 ? "Elastic section modulus " : "Plastic section modulus ");
 }
 
 std::string ClassFourLine(const Design& d) {
-  const int type = d.st.ProfileType;
-  if (type == 10 || type == 11 || type == 28 || type == 31 || type == 41) return {};
+  const Family* family = FindFamily(d.st.ProfileType);
+  if (family != nullptr && !family->options.classFour) return {};
   const bool web = d.st.IgnoreWebBuckling == 1;
   const bool flange = d.st.IgnoreFlangeBuckling == 1;
   if (web && flange) return "Section class 4: Flange/Web buckling not taken into account";

@@ -8,6 +8,7 @@
 #include "analysis/loads.h"
 #include "checks/buckling_curves.h"
 #include "checks/results.h"
+#include "core/supports.h"
 #include "core/text.h"
 #include "presentation/figures.h"
 #include "presentation/grafik.h"
@@ -144,7 +145,7 @@ void DrawLoadInformation(DrawingTarget& t, const Layout& at, const ProjectState&
 // --- Buckling and lateral parameters ------------------------------------------------------------
 
 double DrawBucklingTable(DrawingTarget& t, double line, const Design& d) {
-  const bool angle = d.st.ProfileType == 10 || d.st.ProfileType == 11;
+  const bool angle = IsAngle(d.st.ProfileType);
   constexpr double first = kParameters + 22;
   constexpr double second = kParameters + 30;
   PutHeading(t, kParameters, line, "Buckling parameters:");
@@ -189,7 +190,7 @@ constexpr double kSketch = 5.4;  ///< lines of the heading and the sketch
 
 bool HasWebStiffeners(const ProjectState& st) {
   const Family* family = FindFamily(st.ProfileType);
-  return family != nullptr && family->webOption && st.WebStiffener == 1;
+  return family != nullptr && family->options.web && st.WebStiffener == 1;
 }
 
 /// Lines of the geometry with the gap below it.
@@ -214,11 +215,11 @@ void DrawGeometry(DrawingTarget& t, double line, const Design& d) {
                 Destination::Page, data, style);
   double below = line + kSketch;
   std::string options;
-  if (st.SupportType == 3 || st.SupportType == 5) {
+  if (IsSpring(st.SupportType)) {
     options = "Spring restraint:" + Format(st.SpringRestraint, "00") + "%  ";
   }
   const Family* family = FindFamily(st.ProfileType);
-  if (family != nullptr && family->webOption) {
+  if (family != nullptr && family->options.web) {
     options += std::string("Support stiffener: ") + (st.EndStiffener == 1 ? "Stiff" : "Weak");
     if (HasWebStiffeners(st)) {
       PutText(t, kParameters, below + 1,
@@ -315,7 +316,7 @@ void DrawControlReport(DrawingTarget& t, double line, const Design& d) {
   PutText(t, kC1 + 48, line + 1.2, ClassFourLine(d));
   PutHeading(t, kC1, kSection - 0.4, "Profile:");
   PutText(t, kC1 + 8, kSection - 0.4, ProfileLine(d));
-  if (d.st.ProfileType == 24 || d.st.ProfileType == 25) {
+  if (IsHsq(d.st.ProfileType)) {
     PutText(t, kC1 + 48, kSection - 0.4,
             "Mdy takes into account flange loading of " + Format(FlangeLoad(d.st) / 60, "0.0") +
                 " kN/m flange (incl loadf)");

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "presentation/section_shapes.h"
+#include "sections/profile_table.h"
 
 namespace korvane {
 namespace shapes {
@@ -36,28 +37,44 @@ Point Centroid(const SectionShape& s) {
 }
 
 struct Entry {
-  int code;
+  ShapeKind kind;
   SectionShape (*build)(const shapes::Source&);
   bool sideways;  // not symmetric left and right: the z axis follows from the outline
 };
 
 constexpr Entry kEntries[] = {
-    {1, shapes::RolledI, false},         {2, shapes::RolledI, false},
-    {3, shapes::RolledI, false},         {4, shapes::RolledI, false},
-    {5, shapes::ParallelChannel, false}, {6, shapes::Hollow, false},
-    {7, shapes::Hollow, false},          {8, shapes::Hollow, false},
-    {9, shapes::Hollow, false},          {10, shapes::Angle, false},
-    {11, shapes::Angle, false},          {15, shapes::TaperedI, false},
-    {16, shapes::TaperedChannel, false}, {21, shapes::WeldedI, false},
-    {22, shapes::SingleI, false},        {23, shapes::Box23, false},
-    {24, shapes::Hsq24, true},           {25, shapes::Hsq25, true},
-    {26, shapes::TSection, false},       {27, shapes::Box27, true},
-    {28, shapes::FlatBar, false},        {31, shapes::Tube, false},
-    {41, shapes::General, false},        {51, shapes::PlateFlat, false},
-    {52, shapes::PlateAngle, true},      {53, shapes::PlateWeldedAngle, true},
-    {54, shapes::PlateBulb, true},       {55, shapes::PlateTrapeze, false},
-    {56, shapes::PlateGirder, false},    {101, shapes::RolledI, false},
-    {102, shapes::RolledI, false},       {103, shapes::ParallelChannel, false}};
+    {ShapeKind::General, shapes::General, false},
+    {ShapeKind::RolledI, shapes::RolledI, false},
+    {ShapeKind::TaperedI, shapes::TaperedI, false},
+    {ShapeKind::ParallelChannel, shapes::ParallelChannel, false},
+    {ShapeKind::TaperedChannel, shapes::TaperedChannel, false},
+    {ShapeKind::Hollow, shapes::Hollow, false},
+    {ShapeKind::Angle, shapes::Angle, false},
+    {ShapeKind::WeldedI, shapes::WeldedI, false},
+    {ShapeKind::SingleI, shapes::SingleI, false},
+    {ShapeKind::Box, shapes::Box23, false},
+    {ShapeKind::HsqSymmetric, shapes::Hsq24, true},
+    {ShapeKind::HsqOneSided, shapes::Hsq25, true},
+    {ShapeKind::T, shapes::TSection, false},
+    {ShapeKind::BoxUnequal, shapes::Box27, true},
+    {ShapeKind::FlatBar, shapes::FlatBar, false},
+    {ShapeKind::Tube, shapes::Tube, false},
+    {ShapeKind::PlateFlat, shapes::PlateFlat, false},
+    {ShapeKind::PlateAngle, shapes::PlateAngle, true},
+    {ShapeKind::PlateWeldedAngle, shapes::PlateWeldedAngle, true},
+    {ShapeKind::PlateBulb, shapes::PlateBulb, true},
+    {ShapeKind::PlateTrapez, shapes::PlateTrapeze, false},
+    {ShapeKind::PlateT, shapes::PlateGirder, false},
+};
+
+const Entry* EntryOf(int profileType) {
+  const Family* family = FindFamily(profileType);
+  if (family == nullptr) return nullptr;
+  for (const Entry& entry : kEntries) {
+    if (entry.kind == family->shape) return &entry;
+  }
+  return nullptr;
+}
 
 }  // namespace
 
@@ -67,16 +84,14 @@ double SectionDimension::Length() const {
 
 SectionShape ShapeOfSection(const ProjectState& st, const SectionRecord& rec, bool notToScale,
                             int arcSteps) {
-  for (const Entry& entry : kEntries) {
-    if (entry.code != st.ProfileType) continue;
-    SectionShape shape = entry.build({st, rec, notToScale, arcSteps});
-    if (entry.sideways) {
-      // The true outline decides, also where walls are drawn thicker.
-      shape.zAxis = Centroid(notToScale ? entry.build({st, rec, false, arcSteps}) : shape).x;
-    }
-    return shape;
+  const Entry* entry = EntryOf(st.ProfileType);
+  if (entry == nullptr) return {};
+  SectionShape shape = entry->build({st, rec, notToScale, arcSteps});
+  if (entry->sideways) {
+    // The true outline decides, also where walls are drawn thicker.
+    shape.zAxis = Centroid(notToScale ? entry->build({st, rec, false, arcSteps}) : shape).x;
   }
-  return {};
+  return shape;
 }
 
 }  // namespace korvane

@@ -5,16 +5,10 @@
 #include <vector>
 
 #include "core/numeric.h"
+#include "core/supports.h"
 
 namespace korvane {
 namespace {
-
-enum class End { Pinned, Fixed, Spring, Free };
-
-// Ends at x = 0 and x = L of the six support cases.
-constexpr End kEnds[6][2] = {{End::Pinned, End::Pinned}, {End::Pinned, End::Fixed},
-                             {End::Fixed, End::Fixed},   {End::Spring, End::Spring},
-                             {End::Fixed, End::Free},    {End::Pinned, End::Spring}};
 
 void Hatch(DrawingTarget& t, Point from, double dx, double dy, int strokes, double sx, double sy) {
   for (int i = 0; i < strokes; ++i) {
@@ -66,15 +60,15 @@ void DrawSpring(DrawingTarget& t, Point p, double member, double size, int outwa
   t.Line(Beside(t, end, -size * 0.22, 0), Beside(t, end, size * 0.22, 0));
 }
 
-void DrawEnd(DrawingTarget& t, End end, Point p, double member, double size, int outward) {
+void DrawEnd(DrawingTarget& t, MemberEnd end, Point p, double member, double size, int outward) {
   switch (end) {
-    case End::Pinned:
+    case MemberEnd::Pinned:
       return DrawPinned(t, Beside(t, p, 0, member), size);
-    case End::Fixed:
+    case MemberEnd::Fixed:
       return DrawFixed(t, p, member, size, outward);
-    case End::Spring:
+    case MemberEnd::Spring:
       return DrawSpring(t, p, member, size, outward);
-    case End::Free:
+    case MemberEnd::Free:
       return;
   }
 }
@@ -153,9 +147,10 @@ void DrawDimension(DrawingTarget& target, Point a, Point b, double head) {
 
 void DrawSupports(DrawingTarget& target, int supportType, Point left, Point right, double half,
                   double size) {
-  if (supportType < 0 || supportType > 5) return;
-  DrawEnd(target, kEnds[supportType][0], left, half, size, -1);
-  DrawEnd(target, kEnds[supportType][1], right, half, size, 1);
+  const Support* support = FindSupport(supportType);
+  if (support == nullptr) return;
+  DrawEnd(target, support->left, left, half, size, -1);
+  DrawEnd(target, support->right, right, half, size, 1);
 }
 
 }  // namespace korvane

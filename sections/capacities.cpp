@@ -90,8 +90,8 @@ void NominalCapacities(const ProjectState& st, const Family& family, SectionForc
     f.My = My;
     f.Mz = Mz;
     f.Ncl = Ncl;
-    family.sectionClass(st, f, rec);
-    family.capacities(st, f, rec);
+    family.routines.sectionClass(st, f, rec);
+    family.routines.capacities(st, f, rec);
   };
   pass(10, 0, 0);
   rec.classMy = rec.class_;

@@ -12,8 +12,6 @@ namespace korvane {
 namespace {
 
 constexpr int kColumns = 16;
-constexpr int kNameFamily = 41;
-constexpr int kNameColumn = 3;
 
 /// Takes the next line off the text; nothing at its end.
 std::optional<std::string_view> NextLine(std::string_view& rest) {
@@ -39,7 +37,9 @@ number NumberOf(std::string_view line) {
 }
 
 bool IsName(const DatabaseRow& row, int column) {
-  return column == kNameColumn && row.col[1] == kNameFamily;
+  const Family* family = FamilyOfRow(row);
+  const StateField* field = family == nullptr ? nullptr : DatabaseField(family->code, column);
+  return field != nullptr && IsText(*field);
 }
 
 /// Whether the text held a complete row.

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/project_state.h"
+#include "sections/profile_table.h"
 #include "sections/readprofiles.h"
 
 namespace korvane {
@@ -14,7 +15,7 @@ namespace korvane {
 /// 3 to 16 the family's numbers. Of a general profile column 3 is its name.
 struct DatabaseRow {
   Indexed<number, 1, 16> col;
-  std::string name;  ///< column 3 of family 41
+  std::string name;  ///< the column that holds a text
 };
 
 /// Rows 0 to 80. Lives as long as the session; no design owns it.
@@ -45,6 +46,12 @@ std::string DatabaseEntry(const DatabaseRow& row, const Catalogues& cat);
 /// The list of the form, one entry for each row 0 to DbLast. A row whose catalogue entry does
 /// not exist (a damaged file) is shown as " ".
 std::vector<std::string> FillDatabaseList(const Database& db, const Catalogues& cat);
+
+/// The state's field of a family's column from 3 on, or nullptr where the family has none there.
+const StateField* DatabaseField(int family, int column);
+
+/// The family of a row, or nullptr where column 1 is no code.
+const Family* FamilyOfRow(const DatabaseRow& row);
 
 /// The family code of the row DbRow.
 int DatabaseRowType(const Database& db);

@@ -111,7 +111,10 @@ void EqualAngleCapacities(const ProjectState& st, SectionRecord& rec) {
   rec.Mvd1 = rec.Wu1 * st.fd / 1E6;
   rec.Mvd2 = rec.Wu2 * st.fd / 1E6;
   rec.Mvd3 = rec.Mvd1;
-  rec.Vdz = LegShear(st, rec.b, t);
+}
+
+void EqualAngleShear(const ProjectState& st, SectionRecord& rec) {
+  rec.Vdz = LegShear(st, rec.b, rec.tw);
   rec.Vdy = rec.Vdz;
 }
 
@@ -128,8 +131,11 @@ void UnequalAngleCapacities(const ProjectState& st, SectionRecord& rec) {
   rec.Mvd1 = rec.Wu1 * st.fd / 1E6;
   rec.Mvd2 = rec.Wu2 * st.fd / 1E6;
   rec.Mvd3 = rec.Wu3 * st.fd / 1E6;
-  rec.Vdz = LegShear(st, rec.h, t);
-  rec.Vdy = LegShear(st, rec.b, t);
+}
+
+void UnequalAngleShear(const ProjectState& st, SectionRecord& rec) {
+  rec.Vdz = LegShear(st, rec.h, rec.tw);
+  rec.Vdy = LegShear(st, rec.b, rec.tw);
 }
 
 }  // namespace korvane

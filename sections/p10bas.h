@@ -9,9 +9,14 @@ namespace korvane {
 void LoadEqualAngle(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
 void LoadUnequalAngle(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
 
-/// Class, effective area, axial, moment and shear capacities. Moment capacities are elastic, one
-/// for each corner point, and stay unreduced in class 4.
+/// Class, effective area, axial capacities in kN and moment capacities in kNm, elastic, one for
+/// each corner point; they stay unreduced in class 4. Reads fd, fyk, gammam1, epsilon. 12.1,
+/// 12.2.2 to 12.2.4.
 void EqualAngleCapacities(const ProjectState& st, SectionRecord& rec);
 void UnequalAngleCapacities(const ProjectState& st, SectionRecord& rec);
+
+/// Vdz and Vdy in kN, of the legs along z and y. 12.2.5.
+void EqualAngleShear(const ProjectState& st, SectionRecord& rec);
+void UnequalAngleShear(const ProjectState& st, SectionRecord& rec);
 
 }  // namespace korvane

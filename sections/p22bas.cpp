@@ -204,8 +204,8 @@ void BendingNominalCapacities(const ProjectState& st, const Family& family, Sect
   f.My = 10;
   f.Mz = 0;
   f.Ncl = 0;
-  family.sectionClass(st, f, rec);
-  family.capacities(st, f, rec);
+  family.routines.sectionClass(st, f, rec);
+  family.routines.capacities(st, f, rec);
 }
 
 void SingleNominalCapacities(const ProjectState& st, const Family& family, SectionForces& f,
@@ -217,8 +217,8 @@ void SingleNominalCapacities(const ProjectState& st, const Family& family, Secti
   const float32 MdyBottom = rec.MdyBottom;
   f.My = 0;
   f.Ncl = 10;
-  family.sectionClass(st, f, rec);
-  family.capacities(st, f, rec);
+  family.routines.sectionClass(st, f, rec);
+  family.routines.capacities(st, f, rec);
   rec.Ncrdshown = rec.Ncrd;
   rec.classTop = top;
   rec.classBottom = bottom;

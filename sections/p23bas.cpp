@@ -179,17 +179,11 @@ void BoxUnequalEffective(const ProjectState& st, SectionRecord& rec) {
 
 namespace {
 
-/// Overall height: the HSQ height is measured from the top of the bottom plate.
-double OverallHeight(const ProjectState& st, const SectionRecord& rec) {
-  return st.ProfileType == 27 ? double(rec.h) : rec.h + rec.tf2;
-}
-
-}  // namespace
-
-void HsqClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {
+/// Classes by side; H the overall height in mm.
+void TwoWebClass(const ProjectState& st, const SectionForces& f, double H, SectionRecord& rec) {
   const double eps = st.epsilon;
   const double My = ClassMoment(f);
-  const double s1 = My * 1E6 / rec.Iy * (OverallHeight(st, rec) - rec.ez - rec.tf1);
+  const double s1 = My * 1E6 / rec.Iy * (H - rec.ez - rec.tf1);
   const double s2 = -My * 1E6 / rec.Iy * (rec.ez - rec.tf2 - rec.r);
   const double ratio = rec.d / rec.tw;
   const auto web = [&](double first, double second) {
@@ -203,20 +197,14 @@ void HsqClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec
   rec.classBottom = GoverningClass(st, web(s2, s1), std::max(plate(rec.tf2), outstand));
 }
 
-double FlangeLoad(const ProjectState& st) {
-  if (st.HsqKind != 0 || st.AnalysisMode != 1) return 0;
-  const double q = FlangeLineLoad(st) * 60;
-  if (st.ProfileType == 25) return q;
-  return st.ProfileType == 24 ? q * st.p24_load / 100 : 0;
-}
-
-void HsqCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {
+/// Capacities by side under the loading qf of one flange, which counts as FlangeLoad tells.
+void TwoWebCapacities(const ProjectState& st, const SectionForces& f, double qf,
+                      SectionRecord& rec) {
   rec.Ntd = ForceOf(st, rec.A);
   rec.betaA = rec.Aeff / rec.A;
   rec.Ncrd = ForceOf(st, rec.betaA * rec.A);
 
   double factor = 1;
-  const double qf = FlangeLoad(st);
   const double Mf = 1.75 * st.fyk / st.gammam1 * rec.tf2 * rec.tf2 / 6;
   if (qf > 0.2 * Mf) {
     if (1 - qf / Mf < 0) {
@@ -229,6 +217,31 @@ void HsqCapacities(const ProjectState& st, const SectionForces& f, SectionRecord
   const double a = rec.h - rec.ezpl - rec.tf1;
   SideShear(st, f, {rec.h + rec.tf2 - rec.tf1, rec.h - rec.tf1, a, rec.h - rec.tf1 - a}, rec);
   rec.Mdy = std::min<double>(rec.MdyTop, rec.MdyBottom);
+}
+
+}  // namespace
+
+void HsqClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {
+  // The HSQ height is measured from the top of the bottom plate.
+  TwoWebClass(st, f, rec.h + rec.tf2, rec);
+}
+
+void BoxUnequalClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {
+  TwoWebClass(st, f, rec.h, rec);
+}
+
+double FlangeLoad(const ProjectState& st) {
+  if (!IsHsq(st.ProfileType) || st.HsqKind != 0 || st.AnalysisMode != 1) return 0;
+  const double q = FlangeLineLoad(st) * 60;
+  return IsOneSidedHsq(st.ProfileType) ? q : q * st.p24_load / 100;
+}
+
+void HsqCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {
+  TwoWebCapacities(st, f, FlangeLoad(st), rec);
+}
+
+void BoxUnequalCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {
+  TwoWebCapacities(st, f, 0, rec);
 }
 
 }  // namespace korvane

@@ -30,11 +30,15 @@ void HsqSymmetricEffective(const ProjectState& st, SectionRecord& rec);
 void HsqOneSidedEffective(const ProjectState& st, SectionRecord& rec);
 void BoxUnequalEffective(const ProjectState& st, SectionRecord& rec);
 
-/// Reads My only; Ncl plays no part.
+/// classTop and classBottom; read My only, Ncl plays no part. 12.1.
+void BoxUnequalClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
 void HsqClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
 /// SingleCapacities with the flange loading of HSQ beams; sets flangeOverloaded when the load
 /// on one flange exceeds what it can carry.
 void HsqCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
+
+/// The same without flange loading.
+void BoxUnequalCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
 
 /// Load on one flange, kN per metre and flange length as the check counts it, 0 when flange
 /// loading does not apply.

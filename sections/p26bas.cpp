@@ -115,8 +115,8 @@ void FlatCapacities(const ProjectState& st, const SectionForces& f, SectionRecor
 
 void FlatNominalCapacities(const ProjectState& st, const Family& family, SectionForces& f,
                            SectionRecord& rec) {
-  family.sectionClass(st, f, rec);
-  family.capacities(st, f, rec);
+  family.routines.sectionClass(st, f, rec);
+  family.routines.capacities(st, f, rec);
   rec.Mdyshown = rec.Mdy;
   rec.Ncrdshown = rec.Ncrd;
   rec.Mdzshown = rec.Mdz;

@@ -127,7 +127,7 @@ void GeneralShear(const ProjectState& st, SectionRecord& rec) {
 
 void GeneralNominalCapacities(const ProjectState& st, const Family& family, SectionForces& f,
                               SectionRecord& rec) {
-  family.capacities(st, f, rec);
+  family.routines.capacities(st, f, rec);
   GeneralShear(st, rec);
 }
 

@@ -4,172 +4,216 @@
 #include <algorithm>
 #include <array>
 
-#include "sections/capacities.h"
-#include "sections/p01bas.h"
-#include "sections/p05bas.h"
-#include "sections/p06bas.h"
-#include "sections/p10bas.h"
-#include "sections/p22bas.h"
-#include "sections/p23bas.h"
-#include "sections/p26bas.h"
-#include "sections/p31bas.h"
-#include "sections/p51bas.h"
+#include "sections/family_parts.h"
 
 namespace korvane {
 
 namespace {
 
-/// The steps of a family after its dimension step.
-struct RoutineSet {
-  SectionFn effective, shear;
-  ForceFn sectionClass, capacities, bucklingClass;
-  NominalFn nominal;
-  SectionControlKind sectionControl;
-  BucklingKind buckling;
-  bool lateral;
-};
-
-using SC = SectionControlKind;
-using BK = BucklingKind;
-
-constexpr RoutineSet kRolled{EffectiveSection,    RolledShear,         SectionClass,
-                             SectionCapacities,   SectionClass,        NominalCapacities,
-                             SC::DoubleSymmetric, BK::DoubleSymmetric, true};
-// Column buckling classifies channels by the rolled I routine.
-constexpr RoutineSet kChannel{ChannelEffectiveSection, ChannelShear,        ChannelClass,
-                              SectionCapacities,       SectionClass,        NominalCapacities,
-                              SC::DoubleSymmetric,     BK::DoubleSymmetric, true};
-constexpr RoutineSet kHollow{BoxEffectiveSection, HollowShear, BoxClass,   BoxCapacities, BoxClass,
-                             NominalCapacities,   SC::Hollow,  BK::Hollow, false};
-constexpr RoutineSet kBox{BoxEffectiveSection, BoxShear,   BoxClass,   BoxCapacities, BoxClass,
-                          NominalCapacities,   SC::Hollow, BK::Hollow, false};
-constexpr RoutineSet kEqualAngle{
-    EqualAngleCapacities, nullptr, nullptr, nullptr, nullptr, nullptr, SC::Angle, BK::Angle, false};
-constexpr RoutineSet kUnequalAngle{UnequalAngleCapacities,
-                                   nullptr,
-                                   nullptr,
-                                   nullptr,
-                                   nullptr,
-                                   nullptr,
-                                   SC::Angle,
-                                   BK::Angle,
-                                   false};
-constexpr RoutineSet kWelded{EffectiveSection,    WeldedShear,         WeldedClass,
-                             SectionCapacities,   WeldedClass,         NominalCapacities,
-                             SC::DoubleSymmetric, BK::DoubleSymmetric, true};
-constexpr RoutineSet kSingle{SingleEffectiveSection, WeldedShear,         SingleClass,
-                             SingleCapacities,       SingleClass,         SingleNominalCapacities,
-                             SC::SingleSymmetric,    BK::SingleSymmetric, true};
-constexpr RoutineSet kHsqSymmetric{HsqSymmetricEffective, TwoWebShear, HsqClass,
-                                   HsqCapacities,         nullptr,     BendingNominalCapacities,
-                                   SC::SingleSymmetric,   BK::None,    false};
-constexpr RoutineSet kHsqOneSided{HsqOneSidedEffective, TwoWebShear, HsqClass,
-                                  HsqCapacities,        nullptr,     BendingNominalCapacities,
-                                  SC::SingleSymmetric,  BK::None,    false};
-// The box with unequal flanges has capacities but no control of its own.
-constexpr RoutineSet kBoxUnequal{
-    BoxUnequalEffective,      TwoWebShear, HsqClass, HsqCapacities, nullptr,
-    BendingNominalCapacities, SC::None,    BK::None, false};
-constexpr RoutineSet kT{TClass, nullptr, nullptr, nullptr, nullptr, nullptr, SC::T, BK::T, false};
-constexpr RoutineSet kFlatBar{FlatShear,      nullptr,     FlatClass,
-                              FlatCapacities, FlatClass,   FlatNominalCapacities,
-                              SC::FlatBar,    BK::FlatBar, true};
-constexpr RoutineSet kTube{TubeShear, nullptr,  TubeClass, TubeCapacities, TubeClass,
-                           nullptr,   SC::Tube, BK::Tube,  false};
-constexpr RoutineSet kGeneral{GeneralEffective,
-                              nullptr,
-                              GeneralClass,
-                              GeneralCapacities,
-                              GeneralClass,
-                              GeneralNominalCapacities,
-                              SC::DoubleSymmetric,
-                              BK::DoubleSymmetric,
-                              true};
-constexpr RoutineSet kPlateFlat{FlatStiffenerEffective,
-                                WeldedShear,
-                                FlatStiffenerClass,
-                                FlatStiffenerCapacities,
-                                nullptr,
-                                BendingNominalCapacities,
-                                SC::Plate,
-                                BK::None,
-                                true};
-constexpr RoutineSet kPlateAngle{AngleStiffenerEffective,
-                                 WeldedShear,
-                                 SingleClass,
-                                 SingleCapacities,
-                                 nullptr,
-                                 BendingNominalCapacities,
-                                 SC::Plate,
-                                 BK::None,
-                                 true};
-constexpr RoutineSet kPlateTrapez{TrapezEffective,  TwoWebShear, SingleClass,
-                                  SingleCapacities, nullptr,     BendingNominalCapacities,
-                                  SC::Plate,        BK::None,    true};
-constexpr RoutineSet kPlateT{SingleEffectiveSection,
-                             WeldedShear,
-                             SingleClass,
-                             SingleCapacities,
-                             nullptr,
-                             BendingNominalCapacities,
-                             SC::Plate,
-                             BK::None,
-                             true};
-
-/// Which frames and options of the windows apply to a family.
-struct Options {
-  bool web, sectionControl, bending;
-};
-constexpr Options kAll{true, true, true};
-constexpr Options kNoWeb{false, true, true};
-constexpr Options kBendingAndWeb{true, false, true};
-constexpr Options kNone{false, false, false};
-
-constexpr Family Row(int code, const char* menuControl, const char* menuCaption, const char* form,
-                     const char* formCaption, const char* word, LoadFn load, const RoutineSet& r,
-                     const Options& o) {
-  return {code,      menuControl,      menuCaption, form,           formCaption,  word,
-          load,      r.effective,      r.shear,     r.sectionClass, r.capacities, r.bucklingClass,
-          r.nominal, r.sectionControl, r.buckling,  r.lateral,      o.web,        o.sectionControl,
-          o.bending};
-}
+using namespace parts;
 
 // clang-format off
-constexpr std::array kFamilies{
-  Row(1, "mnup01", "HEA", "p01", "HEA", "HEA", LoadHEA, kRolled, kAll),
-  Row(2, "mnup02", "HEB", "p02", "HEB", "HEB", LoadHEB, kRolled, kAll),
-  Row(3, "mnup03", "HEM", "p03", "HEM", "HEM", LoadHEM, kRolled, kAll),
-  Row(4, "mnup04", "IPE", "p04", "IPE", "IPE", LoadIPE, kRolled, kAll),
-  Row(5, "mnup05", "UPE", "p05", "UPE", nullptr, LoadUPE, kChannel, kNoWeb),
-  Row(6, "mnup06", "RHS - Square (Hotformed)", "p06", "RHS-square - Hot formed", nullptr, LoadHotSquare, kHollow, kAll),
-  Row(7, "mnup07", "RHS - Rect (Hotformed)", "p07", "RHS-reqtangular - hot formed", nullptr, LoadHotRectangular, kHollow, kAll),
-  Row(8, "mnup08", "CFRHS - Square (Coldformed)", "p08", "CFRHS-square - cold formed", nullptr, LoadColdSquare, kHollow, kAll),
-  Row(9, "mnup09", "CFRHS - Rect (Coldformed)", "p09", "CFRHS-reqtangular - cold formed", nullptr, LoadColdRectangular, kHollow, kAll),
-  Row(10, "mnup10", "L-equal", "p10", "L-equal", nullptr, LoadEqualAngle, kEqualAngle, kNone),
-  Row(11, "mnup11", "L-unequal", "p11", "L-unequal", "L-unequal", LoadUnequalAngle, kUnequalAngle, kNone),
-  Row(15, "mnup15", "INP", "p15", "INP", "INP", LoadINP, kRolled, kAll),
-  Row(16, "mnup16", "UNP", "p16", "UNP", nullptr, LoadUNP, kChannel, kNoWeb),
-  Row(21, "mnup21", "I - double symmetric", "p21", "I - double symetric", nullptr, LoadWeldedI, kWelded, kAll),
-  Row(22, "mnup22", "I - single symmetric", "p22", "I - single symmetric", nullptr, LoadSingleI, kSingle, kBendingAndWeb),
-  Row(23, "mnup23", "Box ", "p23", "Box - Double symmetric", nullptr, LoadBox, kBox, kAll),
-  Row(24, "mnup24", "HSQ - Symmetric flange ", "p24", "HSQ -  symmetric flanges", nullptr, LoadHsqSymmetric, kHsqSymmetric, kBendingAndWeb),
-  Row(25, "mnup25", "HSQ - Non symmetric flange ", "p25", "HSQ - Non symmetric flanges", nullptr, LoadHsqOneSided, kHsqOneSided, kBendingAndWeb),
-  Row(26, "mnu26", "T", "p26", "T", nullptr, LoadT, kT, kNone),
-  Row(27, "mnup27", "Box - Non symmetric flanges", "p27", "BOX - Non symmetric flanges", nullptr, LoadBoxUnequal, kBoxUnequal, kBendingAndWeb),
-  Row(28, "mnup28", "Flatbar", "p28", "Flatbar", nullptr, LoadFlatBar, kFlatBar, kNoWeb),
-  Row(31, "mnup31", "&Tube", "p31", "Tube", nullptr, LoadTube, kTube, kNoWeb),
-  Row(41, "mnup41", "&General Profile ", "p41", "General profile", nullptr, LoadGeneral, kGeneral, kNoWeb),
-  Row(51, "mnu51", "Plate + Fb", "p51", "Plate + Flatbar", nullptr, LoadPlateFlat, kPlateFlat, kBendingAndWeb),
-  Row(52, "mnu52", "Plate + L", "p52", "Plate + L", nullptr, LoadPlateAngle, kPlateAngle, kBendingAndWeb),
-  Row(53, "mnu53", "Plate + L bult-up", "p53", "Plate + L-weld", nullptr, LoadPlateWeldedAngle, kPlateAngle, kBendingAndWeb),
-  Row(54, "mnu54", "Plate + Bulb Flat", "p54", "Plate + Bulb Flat", nullptr, LoadPlateBulb, kPlateAngle, kBendingAndWeb),
-  Row(55, "mnu55", "Plate + Trapez", "p55", "Plate + Trapez", nullptr, LoadPlateTrapez, kPlateTrapez, kBendingAndWeb),
-  Row(56, "mnu56", "Plate + T-girder", "p56", "Plate + T-girder", nullptr, LoadPlateT, kPlateT, kBendingAndWeb),
-  Row(101, "mnuu", "U", "p101", "British profile UB/UC/UBP", "U", LoadBritishU, kRolled, kAll),
-  Row(102, "mnuj", "J", "p102", "British profile J", "J", LoadJ, kRolled, kAll),
-  Row(103, "mnuc", "C", "p103", "British profile PFC/CH", nullptr, LoadBritishC, kChannel, kNoWeb),
-};
+constexpr auto kFamilies = std::to_array<Family>({
+  {.code = 1, .menuControl = "mnup01", .menuCaption = "HEA", .form = "p01", .formCaption = "HEA", .familyWord = "HEA",
+   .load = LoadHEA, .routines = kRolled, .options = kAll, .lateral = kLateralRolled, .curves = CurveRule::RolledI,
+   .catalogues = {{0, Cat::HEA, &S::idxHEA}},
+   .words = {.list = "HEA "},
+   .shape = ShapeKind::RolledI, .search = {"HEA", "HEA", SizeText::Number, 23}},
+  {.code = 2, .menuControl = "mnup02", .menuCaption = "HEB", .form = "p02", .formCaption = "HEB", .familyWord = "HEB",
+   .load = LoadHEB, .routines = kRolled, .options = kAll, .lateral = kLateralRolled, .curves = CurveRule::RolledI,
+   .catalogues = {{0, Cat::HEB, &S::idxHEB}},
+   .words = {.list = "HEB "},
+   .shape = ShapeKind::RolledI, .search = {"HEB", "HEB", SizeText::Number, 23}},
+  {.code = 3, .menuControl = "mnup03", .menuCaption = "HEM", .form = "p03", .formCaption = "HEM", .familyWord = "HEM",
+   .load = LoadHEM, .routines = kRolled, .options = kAll, .lateral = kLateralRolled, .curves = CurveRule::RolledI,
+   .catalogues = {{0, Cat::HEM, &S::idxHEM}},
+   .words = {.list = "HEM "},
+   .shape = ShapeKind::RolledI, .search = {"HEM", "HEM", SizeText::Number, 23}},
+  {.code = 4, .menuControl = "mnup04", .menuCaption = "IPE", .form = "p04", .formCaption = "IPE", .familyWord = "IPE",
+   .load = LoadIPE, .routines = kRolled, .options = kAll, .lateral = kLateralRolled, .curves = CurveRule::RolledI,
+   .catalogues = {{0, Cat::IPE, &S::idxIPE}},
+   .words = {.list = "IPE "},
+   .shape = ShapeKind::RolledI, .search = {"IPE", "IPE", SizeText::Number, 17}},
+  {.code = 5, .menuControl = "mnup05", .menuCaption = "UPE", .form = "p05", .formCaption = "UPE",
+   .load = LoadUPE, .routines = kChannel, .options = kNoWeb, .lateral = kLateralRolled, .curves = CurveRule::C,
+   .catalogues = {{0, Cat::UPE, &S::idxUPE}},
+   .words = {.page = "  UPE ", .list = "UPE "},
+   .shape = ShapeKind::ParallelChannel, .shown = kChannelShown, .search = {"UPE", "UPE", SizeText::Number, 13}},
+  {.code = 6, .menuControl = "mnup06", .menuCaption = "RHS - Square (Hotformed)", .form = "p06", .formCaption = "RHS-square - Hot formed",
+   .load = LoadHotSquare, .routines = kHollow, .options = kAll, .curves = CurveRule::A,
+   .catalogues = {{0, Cat::SHS, &S::idxRHSs}},
+   .words = {.page = "  RHS ", .pageEnd = " (Hotf.)"},
+   .shape = ShapeKind::Hollow, .shown = kHollowShown, .search = {"SHS", "RHS ", SizeText::Square, 100}},
+  {.code = 7, .menuControl = "mnup07", .menuCaption = "RHS - Rect (Hotformed)", .form = "p07", .formCaption = "RHS-reqtangular - hot formed",
+   .load = LoadHotRectangular, .routines = kHollow, .options = kAll, .curves = CurveRule::A,
+   .catalogues = {{0, Cat::RHS, &S::idxRHSr}},
+   .words = {.page = "  RHS ", .pageEnd = " (Hotf.)"},
+   .shape = ShapeKind::Hollow, .shown = kHollowShown, .search = {"RHS", "RHS", SizeText::Rectangular, 157}},
+  {.code = 8, .menuControl = "mnup08", .menuCaption = "CFRHS - Square (Coldformed)", .form = "p08", .formCaption = "CFRHS-square - cold formed",
+   .load = LoadColdSquare, .routines = kHollow, .options = kAll, .curves = CurveRule::B,
+   .catalogues = {{0, Cat::CFSHS, &S::idxCFRHSs}},
+   .words = {.page = "  CHRHS-Sq ", .pageEnd = " (Coldf.)"},
+   .shape = ShapeKind::Hollow, .shown = kHollowShown, .search = {"CFSHS", "CHRHS", SizeText::Rectangular, 98}},
+  {.code = 9, .menuControl = "mnup09", .menuCaption = "CFRHS - Rect (Coldformed)", .form = "p09", .formCaption = "CFRHS-reqtangular - cold formed",
+   .load = LoadColdRectangular, .routines = kHollow, .options = kAll, .curves = CurveRule::B,
+   .catalogues = {{0, Cat::CFRHS, &S::idxCFRHSr}},
+   .words = {.page = "  CFRHS-Rec ", .pageEnd = " (Coldf.)"},
+   .shape = ShapeKind::Hollow, .shown = kHollowShown, .search = {"CFRHS", "CFRHS", SizeText::Rectangular, 115}},
+  {.code = 10, .menuControl = "mnup10", .menuCaption = "L-equal", .form = "p10", .formCaption = "L-equal",
+   .load = LoadEqualAngle, .routines = kEqualAngle, .options = kNone, .curves = CurveRule::C,
+   .catalogues = {{0, Cat::L1, &S::idxLeq}},
+   .words = {.page = "  L "},
+   .shape = ShapeKind::Angle, .shown = kEqualAngleShown, .search = {"L1", "L ", SizeText::Square, 59}},
+  {.code = 11, .menuControl = "mnup11", .menuCaption = "L-unequal", .form = "p11", .formCaption = "L-unequal", .familyWord = "L-unequal",
+   .load = LoadUnequalAngle, .routines = kUnequalAngle, .options = kNone, .curves = CurveRule::C,
+   .catalogues = {{0, Cat::L2, &S::idxLuneq}},
+   .words = {.page = "  L "},
+   .shape = ShapeKind::Angle, .shown = kUnequalAngleShown, .search = {"L2", "L ", SizeText::Rectangular, 48}},
+  {.code = 15, .menuControl = "mnup15", .menuCaption = "INP", .form = "p15", .formCaption = "INP", .familyWord = "INP",
+   .load = LoadINP, .routines = kRolled, .options = kAll, .lateral = kLateralRolled, .curves = CurveRule::RolledI,
+   .catalogues = {{0, Cat::INP, &S::idxINP}},
+   .words = {.list = "INP "},
+   .shape = ShapeKind::TaperedI},
+  {.code = 16, .menuControl = "mnup16", .menuCaption = "UNP", .form = "p16", .formCaption = "UNP",
+   .load = LoadUNP, .routines = kChannel, .options = kNoWeb, .lateral = kLateralRolled, .curves = CurveRule::C,
+   .catalogues = {{0, Cat::UNP, &S::idxUNP}},
+   // The list shows the number of the same row in the table of UPE: kept as it always was.
+   .words = {.page = "  UNP ", .list = "UNP ", .listCatalogue = Cat::UPE},
+   .shape = ShapeKind::TaperedChannel, .shown = kTaperedChannelShown},
+  {.code = 21, .menuControl = "mnup21", .menuCaption = "I - double symmetric", .form = "p21", .formCaption = "I - double symetric",
+   .load = LoadWeldedI, .routines = kWelded, .options = kAll, .lateral = kLateralWelded, .curves = CurveRule::WeldedI,
+   .dimensions = {{&S::p21_h, "h", kSize}, {&S::p21_b, "b", kSize}, {&S::p21_tw, "tw", kThickness},
+                  {&S::p21_tf, "tf", kThickness}}, .titled = 4,
+   .words = {.title = "I ", .page = "  I  ", .list = "I ", .joints = "x/x"},
+   .shape = ShapeKind::WeldedI},
+  {.code = 22, .menuControl = "mnup22", .menuCaption = "I - single symmetric", .form = "p22", .formCaption = "I - single symmetric",
+   .load = LoadSingleI, .routines = kSingle, .options = kBendingAndWeb, .lateral = kLateralSingle, .curves = CurveRule::WeldedI,
+   .dimensions = {{&S::p22_h, "h", kSize}, {&S::p22_b, "b1", kSize}, {&S::p22_b2, "b2", kSize},
+                  {&S::p22_tw, "tw", kThickness}, {&S::p22_tf1, "tf1", kThickness},
+                  {&S::p22_tf2, "tf2", kThickness}}, .titled = 6,
+   .words = {.title = "I ", .page = "  I ", .list = "I ", .joints = "x/xxx", .listEnd = "  (Single symm.)"},
+   .shape = ShapeKind::SingleI, .shown = kSingleShown},
+  {.code = 23, .menuControl = "mnup23", .menuCaption = "Box ", .form = "p23", .formCaption = "Box - Double symmetric",
+   .load = LoadBox, .routines = kBox, .options = kAll, .curves = CurveRule::WeldedBox,
+   .dimensions = {{&S::p23_h, "h", kSize}, {&S::p23_b, "b", kSize}, {&S::p23_tw, "tw", kThickness},
+                  {&S::p23_tf, "tf", kThickness}, {&S::p23_a, "a", kSize}}, .titled = 4,
+   .words = {.title = "Box ", .page = "  Box ", .list = "Box ", .joints = "xxxx"},
+   .shape = ShapeKind::Box, .shown = kBoxShown},
+  {.code = 24, .menuControl = "mnup24", .menuCaption = "HSQ - Symmetric flange ", .form = "p24", .formCaption = "HSQ -  symmetric flanges",
+   .load = LoadHsqSymmetric, .routines = kHsqSymmetric, .options = kBendingAndWeb, .clearsN = true,
+   .dimensions = {{&S::p24_h, "h", kSize}, {&S::p24_b, "b", kSize}, {&S::p24_tw, "tw", kThickness},
+                  {&S::p24_tf1, "tf1", kThickness}, {&S::p24_tf2, "tf2", kThickness},
+                  {&S::p24_a, "a", kSize}, {&S::p24_c, "c", kThickness}}, .titled = 5,
+   .words = {.title = "HSQ ", .page = " HSQ ", .list = "HSQ ", .joints = "xxxxxx", .listEnd = "  (Symm fl)"},
+   .shape = ShapeKind::HsqSymmetric, .shown = kHsqSymmetricShown},
+  {.code = 25, .menuControl = "mnup25", .menuCaption = "HSQ - Non symmetric flange ", .form = "p25", .formCaption = "HSQ - Non symmetric flanges",
+   .load = LoadHsqOneSided, .routines = kHsqOneSided, .options = kBendingAndWeb, .clearsN = true,
+   .dimensions = {{&S::p25_h, "h", kSize}, {&S::p25_b1, "b1", kSize}, {&S::p25_b2, "b2", kSize},
+                  {&S::p25_tw, "tw", kThickness}, {&S::p25_tf1, "tf1", kThickness},
+                  {&S::p25_tf2, "tf2", kThickness}, {&S::p25_a, "a", kSize},
+                  {&S::p25_c, "c", kThickness}}, .titled = 6,
+   .words = {.title = "HSQ ", .page = " HSQ ", .list = "HSQ ", .joints = "xxxxxxx", .listEnd = "  (Non symm fl)"},
+   .shape = ShapeKind::HsqOneSided, .shown = kSidesShown},
+  {.code = 26, .menuControl = "mnu26", .menuCaption = "T", .form = "p26", .formCaption = "T",
+   .load = LoadT, .routines = kT, .options = kClassFourAlone, .curves = CurveRule::C,
+   .dimensions = {{&S::p26_h, "h", kSize}, {&S::p26_b, "b", kSize}, {&S::p26_tw, "tw", kThickness},
+                  {&S::p26_tf, "tf", kThickness}}, .titled = 4,
+   .words = {.title = "T ", .page = "  T ", .list = "T ", .joints = "xxx"},
+   .shape = ShapeKind::T, .shown = kTShown},
+  {.code = 27, .menuControl = "mnup27", .menuCaption = "Box - Non symmetric flanges", .form = "p27", .formCaption = "BOX - Non symmetric flanges",
+   .load = LoadBoxUnequal, .routines = kBoxUnequal, .options = kBendingAndWeb,
+   .dimensions = {{&S::p27_h, "h", kSize}, {&S::p27_b1, "b1", kSize}, {&S::p27_b2, "b2", kSize},
+                  {&S::p27_tw, "tw", kThickness}, {&S::p27_tf1, "tf1", kThickness},
+                  {&S::p27_tf2, "tf2", kThickness}, {&S::p27_a, "a", kSize}}, .titled = 6,
+   .words = {.title = "Box ", .page = "  Box ", .list = "BOX ", .joints = "xxxxxx", .listEnd = "  (Single sym)"},
+   .shape = ShapeKind::BoxUnequal, .shown = kSidesShown},
+  {.code = 28, .menuControl = "mnup28", .menuCaption = "Flatbar", .form = "p28", .formCaption = "Flatbar",
+   .load = LoadFlatBar, .routines = kFlatBar, .options = kNoWebNoClassFour, .lateral = kLateralRolled, .curves = CurveRule::C,
+   .dimensions = {{&S::p28_h, "h", kSize}, {&S::p28_tw, "tw", kThickness}}, .titled = 2,
+   .words = {.title = "Fb ", .page = "  Fb ", .list = "Fb ", .joints = "x"},
+   .shape = ShapeKind::FlatBar, .shown = kFlatBarShown},
+  {.code = 31, .menuControl = "mnup31", .menuCaption = "&Tube", .form = "p31", .formCaption = "Tube",
+   .load = LoadTube, .routines = kTube, .options = kNoWebNoClassFour, .curves = CurveRule::Tube,
+   .dimensions = {{&S::p31_d, "d", kThickness}, {&S::p31_tw, "tw", kThickness}}, .titled = 2,
+   .words = {.title = "Tube ", .page = "  Tube ", .pageOption = TubeEnd, .list = "Tube ", .joints = "x", .wall = "t"},
+   .shape = ShapeKind::Tube, .shown = kTubeShown},
+  {.code = 41, .menuControl = "mnup41", .menuCaption = "&General Profile ", .form = "p41", .formCaption = "General profile",
+   .load = LoadGeneral, .routines = kGeneral, .options = kNoWebNoClassFour, .lateral = kLateralGeneral, .givenConstants = true,
+   .dimensions = {{&S::p41_A, "Ax", kSize}, {&S::p41_Ay, "Ay", kSize}, {&S::p41_Az, "Az", kSize},
+                  {&S::p41_Iy, "Iy", kPower}, {&S::p41_Iz, "Iz", kPower},
+                  {&S::p41_Ix, "Ix", kPower}, {&S::p41_Iw, "Iw", kPower},
+                  {&S::p41_Wely, "Wely", kPower}, {&S::p41_Welz, "Welz", kPower},
+                  {&S::p41_Wply, "Wply", kPower}, {&S::p41_Wplz, "Wplz", kPower}},
+   .words = {.title = "General profile", .page = "Identification: ", .pageOption = GeneralName, .list = "General - "},
+   .shown = kGeneralShown},
+  {.code = 51, .menuControl = "mnu51", .menuCaption = "Plate + Fb", .form = "p51", .formCaption = "Plate + Flatbar",
+   .load = LoadPlateFlat, .routines = kPlateFlat, .options = kBendingAndWeb, .lateral = kLateralFlat, .clearsN = true,
+   .dimensions = {{&S::p51_b, "b1", kSize}, {&S::p51_tf1, "tf1", kThickness},
+                  {&S::p51_h, "h", kSize}, {&S::p51_tw, "t", kThickness}}, .titled = 4,
+   .words = {.title = "Plate + Fb ", .page = " Plate + Fb ", .list = "PLate + Fb ", .joints = "xxx", .wall = "t"},
+   .shape = ShapeKind::PlateFlat, .shown = kPlateFlatShown},
+  {.code = 52, .menuControl = "mnu52", .menuCaption = "Plate + L", .form = "p52", .formCaption = "Plate + L",
+   .load = LoadPlateAngle, .routines = kPlateAngle, .options = kBendingAndWeb, .lateral = kLateralFlanged, .clearsN = true,
+   .catalogues = {{0, Cat::L3, &S::p52_index}},
+   .dimensions = {{&S::p52_b1, "b1", kSize}, {&S::p52_t1, "t1", kThickness}}, .titled = 2,
+   .words = {.title = "Plate + ", .page = " Plate + L ", .list = "PLate + L ", .joints = "x", .wall = "t"},
+   .shape = ShapeKind::PlateAngle, .shown = kPlateAngleShown},
+  {.code = 53, .menuControl = "mnu53", .menuCaption = "Plate + L bult-up", .form = "p53", .formCaption = "Plate + L-weld",
+   .load = LoadPlateWeldedAngle, .routines = kPlateAngle, .options = kBendingAndWeb, .lateral = kLateralFlanged, .clearsN = true,
+   .dimensions = {{&S::p53_b1, "b1", kSize}, {&S::p53_tf1, "tf1", kThickness},
+                  {&S::p53_h, "h", kSize}, {&S::p53_b2, "b2", kSize},
+                  {&S::p53_tw, "tw", kThickness}, {&S::p53_tf2, "tf2", kThickness}}, .titled = 6,
+   .words = {.title = "Plate + L ", .page = " Plate + L ", .list = "PLate + L ", .joints = "xxxxx", .wall = "t"},
+   .shape = ShapeKind::PlateWeldedAngle, .shown = kSidesShown},
+  {.code = 54, .menuControl = "mnu54", .menuCaption = "Plate + Bulb Flat", .form = "p54", .formCaption = "Plate + Bulb Flat",
+   .load = LoadPlateBulb, .routines = kPlateAngle, .options = kBendingAndWeb, .lateral = kLateralFlanged, .clearsN = true,
+   .catalogues = {{0, Cat::HP, &S::p54_index}},
+   .dimensions = {{&S::p54_b1, "b1", kSize}, {&S::p54_t1, "t1", kThickness}}, .titled = 2,
+   .words = {.title = "Plate + ", .page = " Plate + BF ", .list = "PLate + BF ", .joints = "x", .wall = "t"},
+   .shape = ShapeKind::PlateBulb, .shown = kSidesShown},
+  {.code = 55, .menuControl = "mnu55", .menuCaption = "Plate + Trapez", .form = "p55", .formCaption = "Plate + Trapez",
+   .load = LoadPlateTrapez, .routines = kPlateTrapez, .options = kBendingAndWeb, .lateral = kLateralFlanged, .clearsN = true,
+   .dimensions = {{&S::p55_b1, "b1", kSize}, {&S::p55_tf1, "tf1", kThickness},
+                  {&S::p55_h, "h", kSize}, {&S::p55_b2, "b2", kSize},
+                  {&S::p55_tw, "tw", kThickness}, {&S::p55_a, "a", kSize}}, .titled = 5,
+   .words = {.title = "Plate + Trapez ", .page = " Plate + Trapez ", .list = "Plate + Trapez ", .joints = "xxxxx", .wall = "t"},
+   .shape = ShapeKind::PlateTrapez, .shown = kSidesShown},
+  {.code = 56, .menuControl = "mnu56", .menuCaption = "Plate + T-girder", .form = "p56", .formCaption = "Plate + T-girder",
+   .load = LoadPlateT, .routines = kPlateT, .options = kBendingAndWeb, .lateral = kLateralFlanged, .clearsN = true,
+   .dimensions = {{&S::p56_b1, "b1", kSize}, {&S::p56_tf1, "tf1", kThickness},
+                  {&S::p56_h, "h", kSize}, {&S::p56_b2, "b2", kSize},
+                  {&S::p56_tw, "tw", kThickness}, {&S::p56_tf2, "tf2", kThickness}}, .titled = 6,
+   .words = {.title = "Plate + T ", .page = " Plate + T ", .list = "PLate + T ", .joints = "xxxxx", .wall = "t"},
+   .shape = ShapeKind::PlateT, .shown = kPlateTShown},
+  {.code = 101, .menuControl = "mnuu", .menuCaption = "U", .form = "p101", .formCaption = "British profile UB/UC/UBP", .familyWord = "U",
+   .load = LoadBritishU, .routines = kRolled, .options = kAll, .lateral = kLateralRolled,
+   .catalogues = {{1, Cat::UB, &S::p101_idx1, "UB", "  UB  "},
+                  {2, Cat::UC, &S::p101_idx2, "UC", "  UC  "},
+                  {3, Cat::UBP, &S::p101_idx3, "UBP", "  UBP  "}},
+   .sub = &S::p101_sub,
+   .words = {.page = "  U  "},
+   .shape = ShapeKind::RolledI},
+  {.code = 102, .menuControl = "mnuj", .menuCaption = "J", .form = "p102", .formCaption = "British profile J", .familyWord = "J",
+   .load = LoadJ, .routines = kRolled, .options = kAll, .lateral = kLateralRolled,
+   .catalogues = {{0, Cat::J, &S::p102_idx}},
+   .words = {.page = "  J  "},
+   .shape = ShapeKind::RolledI},
+  {.code = 103, .menuControl = "mnuc", .menuCaption = "C", .form = "p103", .formCaption = "British profile PFC/CH",
+   .load = LoadBritishC, .routines = kChannel, .options = kNoWeb, .lateral = kLateralRolled,
+   .catalogues = {{1, Cat::PFC, &S::p103_idx1, "PFC", "  PFC "},
+                  {2, Cat::CH, &S::p103_idx2, "CH", "  CH ", "h b tw tf r r2 e es S g"}},
+   .sub = &S::p103_sub,
+   .words = {.page = "  PFC "},
+   .shape = ShapeKind::ParallelChannel, .shown = kChannelShown},
+
+});
 // clang-format on
+
+static_assert(std::adjacent_find(kFamilies.begin(), kFamilies.end(),
+                                 [](const Family& a, const Family& b) {
+                                   return a.code >= b.code;
+                                 }) == kFamilies.end(),
+              "FindFamily searches by ascending codes");
 
 }  // namespace
 
@@ -181,6 +225,25 @@ const Family* FindFamily(int profileType) {
   const auto it = std::lower_bound(kFamilies.begin(), kFamilies.end(), profileType,
                                    [](const Family& f, int code) { return f.code < code; });
   return it != kFamilies.end() && it->code == profileType ? &*it : nullptr;
+}
+
+const FamilyCatalogue* CatalogueOfSub(const Family& family, int sub) {
+  const auto it = std::find_if(family.catalogues.begin(), family.catalogues.end(),
+                               [sub](const FamilyCatalogue& c) { return c.sub == sub; });
+  return it == family.catalogues.end() ? nullptr : it;
+}
+
+const FamilyCatalogue* CatalogueOf(const Family& family, const ProjectState& st) {
+  if (family.catalogues.empty()) return nullptr;
+  if (family.sub == nullptr) return family.catalogues.begin();
+  const FamilyCatalogue* chosen = CatalogueOfSub(family, st.*family.sub);
+  return chosen == nullptr ? family.catalogues.begin() : chosen;
+}
+
+const Dimension* DimensionOf(const Family& family, std::string_view letter) {
+  const auto it = std::find_if(family.dimensions.begin(), family.dimensions.end(),
+                               [letter](const Dimension& d) { return letter == d.letter; });
+  return it == family.dimensions.end() ? nullptr : it;
 }
 
 }  // namespace korvane

@@ -63,74 +63,18 @@ constexpr std::array kItems{
   Item{"Mvd2", &R::Mvd2, kForce, "kNm"}, Item{"Mvd3", &R::Mvd3, kForce, "kNm"},
 };
 
-/// Names of what a family shows, separated by blanks.
-struct Lists {
-  const char* dimensions;
-  const char* properties;
-  const char* capacities;
-};
-
-constexpr const char* kIProperties = "A Aeff Ix Iy Iz Iw Wely Weffy Wply Welz Weffz Wplz";
-constexpr const char* kICapacities = "Ntd Ncd Mdy Mdz Vdz Vdy";
-constexpr const char* kSideProperties =
-    "A Aeff Ix Iy Iz Iw Wely1 Wely2 Wply Weffy1c Weffy1t Weffy2c Weffy2t";
-constexpr const char* kSideCapacities = "MdyTop MdyBottom Vdz";
-constexpr const char* kPlateDimensions = "h b1 b2 tw tf1 tf2 ez-el ez-pl S g";
 // clang-format on
 
-Lists ListsOf(int profileType, int britishChannel) {
-  switch (profileType) {
-    case 5:
-      return {"h b tw tf r e es S g", kIProperties, kICapacities};
-    case 16:
-      return {"h b tw tf r1 r2 e es S g", kIProperties, kICapacities};
-    case 103:
-      return {britishChannel == 2 ? "h b tw tf r r2 e es S g" : "h b tw tf r e es S g",
-              kIProperties, kICapacities};
-    case 6:
-    case 7:
-    case 8:
-    case 9:
-      return {"h b t r S g", "A Aeff Ix Iy Iz Wely Weffy Wply Welz Weffz Wplz", kICapacities};
-    case 23:
-      return {"h b tw tf S g", kIProperties, kICapacities};
-    case 10:
-      return {"h b t r ey ez u1 u2 v1 S g", "A Aeff Ix Iy Iz Iu Iv Wu1 Wv2 alfa",
-              "Ntd Ncrd Mud1 Mud3 Mvd1 Mvd2 Mvd3 VdzWork VdyWork"};
-    case 11:
-      return {"h b t r ey ez u1 u2 v1 v2 S g", "A Aeff Ix Iy Iz Iu Iv Wu1 Wv2 alfa",
-              "Ntd Ncrd Mud1 Mud2 Mud3 Mvd1 Mvd2 Mvd3 VdzWork VdyWork"};
-    case 22:
-      return {"h b1 b2 tw tf1 tf2 ez-el ez-pl zs S g", kSideProperties,
-              "Ntd Ncd MdyTop MdyBottom Vdz Vdy"};
-    case 24:
-      return {"h b tw tf1 tf2 ez-el ez-pl S g", kSideProperties, kSideCapacities};
-    case 25:
-    case 27:
-      return {kPlateDimensions, kSideProperties, kSideCapacities};
-    case 26:
-      return {"h b tw tf ez-el ez-pl S g", "A Aeff Ix Iy Iz Iw Wely1 Wely2 Wply Welz", "Ntd Ncrd"};
-    case 28:
-      return {"h tw S g", "A Ix Iy Iz Wely Wply Welz Wplz", kICapacities};
-    case 31:
-      return {"d t S g", "A Ix Iy Iz Wely Wply Welz Wplz",
-              "Ntd Ncrd MdyWork MdzWork VdzWork VdyWork"};
-    case 41:
-      return {"S", "A Avy Avz Ix Iy Iz Iw Wely Wply Welz Wplz",
-              "Ntd Ncrd MdyWork MdzWork VdzWork VdyWork"};
-    case 51:
-      return {"h b1 tw tf1 ez-el ez-pl S g", kSideProperties, kSideCapacities};
-    case 52:
-      return {"h b1 b2 tw tf1 tf2 r1 r2 ez-el ez-pl S g", kSideProperties, kSideCapacities};
-    case 53:
-    case 54:
-    case 55:
-      return {kPlateDimensions, kSideProperties, kSideCapacities};
-    case 56:
-      return {"h b1 b2 tw tf1 tf2 ez-el ez-pl zs S g", kSideProperties, kSideCapacities};
-    default:
-      return {"h b tw tf r S g", kIProperties, kICapacities};
+/// The lists of the family in force; those of a rolled I section for a code that does not exist.
+ShownLists ListsOf(const ProjectState& st) {
+  const Family* family = FindFamily(st.ProfileType);
+  if (family == nullptr) return {};
+  ShownLists lists = family->shown;
+  const FamilyCatalogue* catalogue = CatalogueOf(*family, st);
+  if (catalogue != nullptr && catalogue->shownDimensions != nullptr) {
+    lists.dimensions = catalogue->shownDimensions;
   }
+  return lists;
 }
 
 /// The symbol as printed: working values are listed under their plain names.
@@ -158,8 +102,9 @@ ShownValues Collect(const char* names, const SectionRecord& rec) {
 }  // namespace
 
 ShownValues Dimensions(const ProjectState& st, const SectionRecord& rec) {
-  ShownValues values = Collect(ListsOf(st.ProfileType, st.p103_sub).dimensions, rec);
-  if (st.ProfileType < 6 || st.ProfileType > 9) return values;
+  const ShownLists lists = ListsOf(st);
+  ShownValues values = Collect(lists.dimensions, rec);
+  if (!lists.wholeMillimetres) return values;
   // Hollow sections come in whole millimetres; only their walls and corners have a decimal.
   for (ShownValue& v : values) {
     if (v.name == "h" || v.name == "b") v.text = Format(v.value, "##0");
@@ -168,20 +113,21 @@ ShownValues Dimensions(const ProjectState& st, const SectionRecord& rec) {
 }
 
 ShownValues Properties(const ProjectState& st, const SectionRecord& rec) {
-  return Collect(ListsOf(st.ProfileType, st.p103_sub).properties, rec);
+  return Collect(ListsOf(st).properties, rec);
 }
 
 ShownValues Capacities(const ProjectState& st, const SectionRecord& rec) {
-  return Collect(ListsOf(st.ProfileType, st.p103_sub).capacities, rec);
+  return Collect(ListsOf(st).capacities, rec);
 }
 
 std::string ClassText(const ProjectState& st, const SectionRecord& rec) {
   const Family* family = FindFamily(st.ProfileType);
   if (family == nullptr) return {};
-  switch (family->sectionControl) {
+  switch (family->routines.sectionControl) {
     case SectionControlKind::T:
       return std::to_string(int(rec.class_)) + " (N)";
-    case SectionControlKind::Angle:
+    case SectionControlKind::EqualAngle:
+    case SectionControlKind::UnequalAngle:
     case SectionControlKind::Tube:
       return std::to_string(int(rec.class_));
     case SectionControlKind::SingleSymmetric:
@@ -192,7 +138,7 @@ std::string ClassText(const ProjectState& st, const SectionRecord& rec) {
     default:
       break;
   }
-  if (st.ProfileType == 41) return std::to_string(int(rec.class_));
+  if (family->givenConstants) return std::to_string(int(rec.class_));
   return std::to_string(int(rec.classN)) + "/" + std::to_string(int(rec.classMy)) + " N/My";
 }
 

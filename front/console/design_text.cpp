@@ -6,6 +6,7 @@
 
 #include "checks/buckling_curves.h"
 #include "checks/results.h"
+#include "core/supports.h"
 #include "core/text.h"
 #include "sections/profile_table.h"
 #include "sections/shown_values.h"
@@ -48,17 +49,14 @@ void AddView(std::string& out, const View& view, bool colour) {
   }
 }
 
-constexpr const char* kSupports[] = {"pinned - pinned", "pinned - fixed", "fixed - fixed",
-                                     "spring - spring", "fixed - free",   "pinned - spring"};
-
 void AddMember(std::string& out, const Design& d) {
   const ProjectState& st = d.st;
   out += "Project:         " + st.iproj + "\n";
   out += "Identification:  " + st.iident + "\n";
   out += "Member:          L = " + Format(st.L, "#0.000") + " m";
-  if (st.SupportType >= 0 && st.SupportType <= 5) {
-    out += std::string(", ") + kSupports[st.SupportType];
-    if (st.SupportType == 3 || st.SupportType == 5) {
+  if (const Support* support = FindSupport(st.SupportType)) {
+    out += std::string(", ") + support->name;
+    if (IsSpring(st.SupportType)) {
       out += " (restraint " + Format(st.SpringRestraint, "#0") + " %)";
     }
   }
@@ -90,7 +88,7 @@ void AddForces(std::string& out, const Design& d) {
 }
 
 void AddBuckling(std::string& out, const Design& d) {
-  const bool angle = d.st.ProfileType == 10 || d.st.ProfileType == 11;
+  const bool angle = IsAngle(d.st.ProfileType);
   const auto letter = angle ? AngleCurveLetter : CurveLetter;
   out += std::string("Buckling (") + (angle ? "u, v" : "y, z") + "):  length factor " +
          Format(d.st.bly, "#0.00") + ", " + Format(d.st.blz, "#0.00") + "   curve " +

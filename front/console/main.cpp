@@ -63,19 +63,10 @@ const Family* FamilyByName(const std::string& name) {
 }
 
 void ListSizes(const Family& family, const Catalogues& cat) {
-  ProjectState st;
-  st.ProfileType = family.code;
-  const int subs = family.code == 101 ? 3 : family.code == 103 ? 2 : 1;
-  for (int sub = 1; sub <= subs; ++sub) {
-    st.p101_sub = sub;
-    st.p103_sub = sub;
-    const SizeList sizes = SizesOf(st);
-    if (!sizes.hasCatalogue) {
-      std::cout << "typed dimensions, no catalogue\n";
-      return;
-    }
-    for (int row = 0; row < ListLength(sizes.catalogue); ++row) {
-      std::printf("%4d  %s\n", row, ListEntry(sizes.catalogue, cat, row).c_str());
+  if (family.catalogues.empty()) std::cout << "typed dimensions, no catalogue\n";
+  for (const FamilyCatalogue& catalogue : family.catalogues) {
+    for (int row = 0; row < ListLength(catalogue.cat); ++row) {
+      std::printf("%4d  %s\n", row, ListEntry(catalogue.cat, cat, row).c_str());
     }
   }
 }

@@ -142,7 +142,7 @@ void ToggleModal(Session& s) {
 
 bool LateralOffered(const Session& s) {
   const Family* family = FamilyOf(s);
-  if (family == nullptr || !family->lateral) return false;
+  if (family == nullptr || family->lateral.method == LateralMethod::None) return false;
   const int type = s.st().ProfileType;
   return !(type >= 51 && type <= 56) || s.design().beam.My_gov < 0;
 }
@@ -253,25 +253,25 @@ void AddOptions(std::vector<Control>& c) {
     c.back().checked = [k](const Session& s) { return s.st().SupportType == k; };
   }
   c.back().returnKey = TakeSpring;
-  const auto inFrame = [&c](Control control, bool Family::*flag) {
+  const auto inFrame = [&c](Control control, bool FamilyOptions::*flag) {
     control.enabled = [flag](const Session& s) {
       const Family* family = FamilyOf(s);
-      return family != nullptr && family->*flag;
+      return family != nullptr && family->options.*flag;
     };
     c.push_back(std::move(control));
   };
   inFrame(
       ValueOption("obuckling0", "Plastic section modulus", &ProjectState::BendingCapacityMode, 0),
-      &Family::bendingFrame);
+      &FamilyOptions::bending);
   inFrame(
       ValueOption("obuckling1", "Elastic section modulus", &ProjectState::BendingCapacityMode, 1),
-      &Family::bendingFrame);
+      &FamilyOptions::bending);
   inFrame(ValueOption("osectionc0", "Conservative control for N+My, N+Mz, My+Mz and N+My+Mz",
                       &ProjectState::SectionControlMode, 0),
-          &Family::sectionControlFrame);
+          &FamilyOptions::sectionControl);
   inFrame(ValueOption("osectionc1", " Valid for Double Symmetric Profiles ",
                       &ProjectState::SectionControlMode, 1),
-          &Family::sectionControlFrame);
+          &FamilyOptions::sectionControl);
   const auto bucklingOptions = [](const Session& s) {
     const int type = s.st().ProfileType;
     return type != 10 && type != 11 && type != 28 && type != 31 && type != 41;
@@ -320,7 +320,7 @@ void AddButtons(std::vector<Control>& c) {
   c.push_back(Picture("cbuttsupport", "Support and web stiffeners", opens("endstiff")));
   c.back().enabled = [](const Session& s) {
     const Family* family = FamilyOf(s);
-    return family != nullptr && family->webOption;
+    return family != nullptr && family->options.web;
   };
   c.push_back(Picture("cbuttlateral", "Lateral torsional buckling parameters", opens("vipping")));
   c.back().enabled = LateralOffered;
@@ -340,16 +340,16 @@ void AddPanes(std::vector<Control>& c) {
   c.push_back(FrameOf("columnframe", "Column data", [](const Session& s) {
     return s.design().forces.N > 0 && !IsPlateType(s.st().ProfileType);
   }));
-  const auto flag = [](bool Family::*member) {
+  const auto flag = [](bool FamilyOptions::*member) {
     return [member](const Session& s) {
       const Family* family = FamilyOf(s);
-      return family != nullptr && family->*member;
+      return family != nullptr && family->options.*member;
     };
   };
   c.push_back(FrameOf("frsectionc", "Section Control (ref ch12.2.6 in NS)",
-                      flag(&Family::sectionControlFrame)));
+                      flag(&FamilyOptions::sectionControl)));
   c.push_back(FrameOf("frbuckling", "Section class 1-2: Bending moment capacity based on",
-                      flag(&Family::bendingFrame)));
+                      flag(&FamilyOptions::bending)));
   c.push_back(FrameOf("fr15", "Section class 4", [](const Session& s) {
     const int type = s.st().ProfileType;
     return type != 10 && type != 11 && type != 28 && type != 31 && type != 41;

@@ -94,6 +94,11 @@ const std::vector<Choice> kChoices{
     {"hot tube", 31, 355, 300, 300, 0, 10, 10, 1, a, a},
 };
 
+CurveRule RuleOf(int type) {
+  const Family* family = FindFamily(type);
+  return family == nullptr ? CurveRule::Kept : family->curves;
+}
+
 TEST(BucklingCurves, AreChosenByFamilyAndProportions) {
   for (const Choice& k : kChoices) {
     SCOPED_TRACE(k.name);
@@ -110,7 +115,7 @@ TEST(BucklingCurves, AreChosenByFamilyAndProportions) {
     rec.tf = k.tf;
     rec.tw = k.tw;
     rec.tmax = k.tmax;
-    ChooseBucklingCurves(rec, st);
+    ChooseBucklingCurves(RuleOf(st.ProfileType), rec, st);
     EXPECT_EQ(st.BucklingCurveY, k.y);
     EXPECT_EQ(st.BucklingCurveZ, k.z);
   }
@@ -128,7 +133,7 @@ TEST(BucklingCurves, StayForFamiliesWithoutARule) {
     rec.b = 100;
     rec.tf = 10;
     rec.tw = 10;
-    ChooseBucklingCurves(rec, st);
+    ChooseBucklingCurves(RuleOf(st.ProfileType), rec, st);
     EXPECT_EQ(st.BucklingCurveY, 3) << type;
     EXPECT_EQ(st.BucklingCurveZ, 4) << type;
   }
@@ -144,10 +149,10 @@ TEST(BucklingCurves, CompareTheProportionInSinglePrecision) {
   ProjectState st;
   st.ProfileType = 1;
   st.fyk = 355;
-  ChooseBucklingCurves(rec, st);
+  ChooseBucklingCurves(RuleOf(st.ProfileType), rec, st);
   EXPECT_EQ(st.BucklingCurveY, b);
   rec.h = std::nextafter(rec.h.Single(), 1000.0F);
-  ChooseBucklingCurves(rec, st);
+  ChooseBucklingCurves(RuleOf(st.ProfileType), rec, st);
   EXPECT_EQ(st.BucklingCurveY, a);
 }
 

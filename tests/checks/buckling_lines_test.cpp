@@ -225,7 +225,7 @@ TEST(BucklingLines, DoNotExistForAFamilyWithoutControl) {
   bench.AddPoint({0.1, 50, 50, 0, 0});
   bench.ControlSection();
   bench.ControlBuckling();
-  bench.family.sectionControl = Kind::None;
+  bench.family.routines.sectionControl = Kind::None;
   bench.Compose();
   ExpectLine(bench.out.lineSection, kNoLine);
   ExpectLine(bench.out.lineVz, kNoLine);
@@ -240,7 +240,7 @@ TEST(BucklingLines, DoNotExistForAFamilyWithoutControl) {
 /// Lbar = 2000/20/76.40915 = 1.3087438 and 2.6174876; 0.35 + 0.7*Lbar = 1.2661207, 2.1822413;
 /// Xu = 0.4435594, Xv = 0.1791091.
 CheckBench Angle() {
-  CheckBench bench = Column(11, Kind::Angle, BucklingKind::Angle);
+  CheckBench bench = Column(11, Kind::UnequalAngle, BucklingKind::Angle);
   bench.st.L = 2;
   bench.st.BucklingCurveY = 1;
   bench.st.BucklingCurveZ = 1;

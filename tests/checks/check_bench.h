@@ -32,11 +32,15 @@ struct CheckBench {
 
   CheckBench(int profileType, SectionControlKind control, BucklingKind kind) {
     family.code = profileType;
-    family.sectionClass = KeepRecord;
-    family.capacities = KeepRecord;
-    family.bucklingClass = KeepRecord;
-    family.sectionControl = control;
-    family.buckling = kind;
+    if (const Family* row = FindFamily(profileType)) {
+      family.lateral = row->lateral;
+      family.givenConstants = row->givenConstants;
+    }
+    family.routines.sectionClass = KeepRecord;
+    family.routines.capacities = KeepRecord;
+    family.routines.bucklingClass = KeepRecord;
+    family.routines.sectionControl = control;
+    family.routines.buckling = kind;
     st.ProfileType = profileType;
     st.LateralTorsionalBuckling = 0;
     st.fyk = 355;

@@ -203,17 +203,17 @@ TEST(ColumnBuckling, MemberIsClassifiedForItsGoverningForces) {
 }
 
 TEST(ColumnBuckling, ClassRoutinesOfTheFamilies) {
-  const auto rolled = FindFamily(1)->sectionClass;
+  const auto rolled = FindFamily(1)->routines.sectionClass;
   for (const int type : {1, 5, 15, 16, 101, 102, 103}) {
-    EXPECT_EQ(FindFamily(type)->bucklingClass, rolled) << type;
+    EXPECT_EQ(FindFamily(type)->routines.bucklingClass, rolled) << type;
   }
-  EXPECT_NE(FindFamily(5)->sectionClass, rolled);
-  EXPECT_NE(FindFamily(16)->sectionClass, rolled);
-  EXPECT_NE(FindFamily(103)->sectionClass, rolled);
-  EXPECT_NE(FindFamily(21)->bucklingClass, rolled);
-  EXPECT_EQ(FindFamily(21)->bucklingClass, FindFamily(21)->sectionClass);
+  EXPECT_NE(FindFamily(5)->routines.sectionClass, rolled);
+  EXPECT_NE(FindFamily(16)->routines.sectionClass, rolled);
+  EXPECT_NE(FindFamily(103)->routines.sectionClass, rolled);
+  EXPECT_NE(FindFamily(21)->routines.bucklingClass, rolled);
+  EXPECT_EQ(FindFamily(21)->routines.bucklingClass, FindFamily(21)->routines.sectionClass);
   for (const int type : {24, 25, 27, 51, 52, 53, 54, 55, 56}) {
-    EXPECT_EQ(FindFamily(type)->buckling, BucklingKind::None) << type;
+    EXPECT_EQ(FindFamily(type)->routines.buckling, BucklingKind::None) << type;
   }
 }
 

@@ -13,7 +13,7 @@ namespace {
 /// Replaces the routines of a bench by those of the family.
 CheckBench RealBench(int type) {
   const Family& family = *FindFamily(type);
-  CheckBench bench(type, family.sectionControl, family.buckling);
+  CheckBench bench(type, family.routines.sectionControl, family.routines.buckling);
   bench.family = family;
   return bench;
 }
@@ -38,7 +38,7 @@ CheckBench HollowBench() {
 double HollowExponent(double n) {
   CheckBench bench = HollowBench();
   bench.f.N = -n * 1900 * 355 / 1.1 / 1000;
-  bench.family.capacities(bench.st, bench.f, bench.rec);
+  bench.family.routines.capacities(bench.st, bench.f, bench.rec);
   EXPECT_EQ(bench.rec.alfa, bench.rec.beta);
   return bench.rec.alfa;
 }

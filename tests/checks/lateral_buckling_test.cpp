@@ -44,6 +44,8 @@ protected:
 
   void Run(int type) {
     st.ProfileType = type;
+    bench.family.lateral = FindFamily(type)->lateral;
+    bench.family.givenConstants = FindFamily(type)->givenConstants;
     LateralTorsionalStep(bench.family, st, bench.f, bench.rec, bench.beam, bench.ltb);
   }
 
@@ -265,7 +267,7 @@ void NoteForces(const ProjectState&, const SectionForces& f, SectionRecord& rec)
 }
 
 TEST_F(Lateral, CapacitiesAreAskedForTheMomentConsidered) {
-  bench.family.capacities = NoteForces;
+  bench.family.routines.capacities = NoteForces;
   bench.f.N = -33;
   bench.beam.MyAbsMax = 77;
   StraightMoments(10, 30);

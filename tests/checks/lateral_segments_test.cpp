@@ -36,6 +36,8 @@ protected:
 
   void Run(int type, int points) {
     st.ProfileType = type;
+    bench.family.lateral = FindFamily(type)->lateral;
+    bench.family.givenConstants = FindFamily(type)->givenConstants;
     st.LtbSegments = points;
     LateralTorsionalStep(bench.family, st, bench.f, bench.rec, bench.beam, bench.ltb);
   }

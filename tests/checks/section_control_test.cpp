@@ -171,7 +171,7 @@ void ClassByShear(const ProjectState&, const SectionForces& f, SectionRecord& re
 
 TEST_F(SectionControlTest, ClassIsThatOfTheGoverningPoint) {
   CheckBench bench = Open();
-  bench.family.sectionClass = ClassByShear;
+  bench.family.routines.sectionClass = ClassByShear;
   bench.ControlSection();
   EXPECT_EQ(bench.out.ClassGoverning, 1);  // nothing checked
   bench.AddPoint({0.1, 50, 10, 0, 0});
@@ -183,7 +183,7 @@ TEST_F(SectionControlTest, ClassIsThatOfTheGoverningPoint) {
 
 TEST_F(SectionControlTest, TubeTakesTheClassOfEachPoint) {
   CheckBench bench(31, Kind::Tube, BucklingKind::None);
-  bench.family.sectionClass = ClassByShear;
+  bench.family.routines.sectionClass = ClassByShear;
   bench.AddPoint({0.1, 50, 10, 0, 0});
   bench.AddPoint({0.2, 0, 0, 0, 0});
   bench.ControlSection();
@@ -216,7 +216,7 @@ void NoteForces(const ProjectState&, const SectionForces& f, SectionRecord& rec)
 
 TEST_F(SectionControlTest, PointsHandAbsoluteForcesToTheCapacities) {
   CheckBench bench = Open();
-  bench.family.capacities = NoteForces;
+  bench.family.routines.capacities = NoteForces;
   bench.f.N = -7;
   bench.AddPoint({0.1, -1, -2, -3, -4});
   bench.ControlSection();
@@ -230,7 +230,7 @@ TEST_F(SectionControlTest, PointsHandAbsoluteForcesToTheCapacities) {
 
 TEST_F(SectionControlTest, SinglySymmetricKeepsTheSignOfMy) {
   CheckBench bench = Single();
-  bench.family.capacities = NoteForces;
+  bench.family.routines.capacities = NoteForces;
   bench.AddPoint({0.1, -1, -2, -3, -4});
   bench.ControlSection();
   EXPECT_EQ(bench.rec.Mfdy, -1);

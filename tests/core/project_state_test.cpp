@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/family_kinds.h"
 #include "tests/core/state_values.h"
 
 namespace korvane {

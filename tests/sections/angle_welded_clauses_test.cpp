@@ -70,8 +70,8 @@ TEST(AngleClauses, ClassFourLowersCompressionAlone) {
       m->Load();
     }
     slender.st.epsilon = 0.3;
-    slender.family().effective(slender.st, slender.rec);
-    stocky.family().effective(stocky.st, stocky.rec);
+    slender.family().routines.effective(slender.st, slender.rec);
+    stocky.family().routines.effective(stocky.st, stocky.rec);
     const SectionRecord& r = slender.rec;
     EXPECT_EQ(int(r.class_), 4);
     EXPECT_EQ(int(stocky.rec.class_), 1);

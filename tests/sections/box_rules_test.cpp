@@ -39,11 +39,11 @@ TEST(Box, WarpingSurfaceAndWidthBetweenTheWebs) {
 TEST(Box, GoesTheWayOfTheHollowSections) {
   const Family& box = *FindFamily(23);
   const Family& tube = *FindFamily(6);
-  EXPECT_EQ(box.effective, tube.effective);
-  EXPECT_EQ(box.sectionClass, tube.sectionClass);
-  EXPECT_EQ(box.capacities, tube.capacities);
-  EXPECT_EQ(box.nominal, tube.nominal);
-  EXPECT_NE(box.shear, tube.shear);
+  EXPECT_EQ(box.routines.effective, tube.routines.effective);
+  EXPECT_EQ(box.routines.sectionClass, tube.routines.sectionClass);
+  EXPECT_EQ(box.routines.capacities, tube.routines.capacities);
+  EXPECT_EQ(box.routines.nominal, tube.routines.nominal);
+  EXPECT_NE(box.routines.shear, tube.routines.shear);
 }
 
 TEST(Box, TheSignOfAMomentHasNoSayInItsClass) {

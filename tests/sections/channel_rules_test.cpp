@@ -85,7 +85,7 @@ TEST(ChannelEffective, ClassFourKeepsTheElasticModulusAboutZ) {
   ASSERT_EQ(m.rec.class_, 4);
   ASSERT_LT(m.rec.Aeff, 0.9 * m.rec.A);
   EXPECT_EQ(double(m.rec.Weffz), double(m.rec.Welz));
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_NEAR(m.rec.Mdz, m.rec.Welz * m.st.fyk / 1.1 / 1E6, 1e-3);
 }
 

@@ -225,11 +225,11 @@ TEST(HollowCapacity, ShearAlongYTakesOffBothFlanges) {
   m.f.N = 0.0;
   ASSERT_LE(m.rec.class_, 2);
   m.f.Vy = 0.75 * m.rec.Vdy;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   const double Avy = m.rec.A / 3;
   EXPECT_NEAR(m.rec.Mvdz, (m.rec.Wplz - 0.25 * Avy * Avy / 4 / 10) * fd, 1e-3);
   m.f.Vy = 1.5 * m.rec.Vdy;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_NEAR(m.rec.Mvdz, (m.rec.Wplz - Avy * Avy / 4 / 10) * fd, 1e-3);
   EXPECT_NEAR(m.rec.Mfdz, 95. * 200 * 5 * fd, 1e-3);
   EXPECT_NEAR(m.rec.Mfdy, 195. * 100 * 5 * fd, 1e-3);
@@ -243,7 +243,7 @@ TEST(HollowCapacity, ThePlasticMomentAboutZHasNoUpperLimit) {
   m.All();
   const double fd = 235 / 1.1 / 1E6;
   m.f.N = 0.0;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   const double af = std::min(1 - 2000 / m.rec.A, 0.5);
   ASSERT_GT(af, 0.2);
   EXPECT_NEAR(m.rec.Mndzpl, m.rec.Wplz * fd / (1 - af / 2), 1e-3);
@@ -259,7 +259,7 @@ TEST(HollowCapacity, TheWebsCountWithAHalfAtMost) {
   m.All();
   m.f.N = -0.6 * m.rec.Ntd;
   ASSERT_GT(1 - 1000 / m.rec.A, 0.6);
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_NEAR(m.rec.Mndy, m.rec.Mdy * 0.4 / 0.75, 1e-3);
   const double af = 1 - 2000 / m.rec.A;
   EXPECT_NEAR(m.rec.Mndz, m.rec.Mdz * 0.4 / (1 - af / 2), 1e-3);

@@ -149,7 +149,7 @@ void ExpectShearReduction(Made& m, const ShearCase& c) {
   SCOPED_TRACE(c.name);
   m.rec.ezpl = c.ezpl;
   m.f.Vz = 0.75 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   const double loss = 0.25 * c.modulus * kFd / 1E6;
   ExpectClose(m.rec.Mvred, loss, "Mvred");
   EXPECT_NEAR(m.rec.MvdyTop, m.rec.MdyTop - loss, 1e-3);
@@ -177,13 +177,13 @@ TEST(Hsq, ShearReducesNothingUpToHalfAndNoMoreThanTheWholeWeb) {
   Made m(24);
   m.All();
   m.f.Vz = 0.5 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.MvdyTop), double(m.rec.MdyTop));
   m.f.Vz = m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   const double whole = m.rec.Mvred;
   m.f.Vz = 3 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.Mvred), whole);
 }
 
@@ -233,7 +233,7 @@ TEST(Hsq, FlangeLoadingLowersTheShearedCapacitiesToo) {
   ExpectClose(m.rec.MdyTop, m.rec.betaTop * m.rec.Wply * kFd / 1E6 * factor, "MdyTop");
   ExpectClose(m.rec.MdyBottom, m.rec.betaBottom * m.rec.Wply * kFd / 1E6 * factor, "MdyBottom");
   m.f.Vz = 0.75 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_NEAR(m.rec.MvdyTop, m.rec.MdyTop - m.rec.Mvred, 1e-3);
 }
 

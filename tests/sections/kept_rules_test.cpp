@@ -91,10 +91,10 @@ TEST(Rolled, ShearBeyondHalfJumpsToTheFlangesAndThePlasticRest) {
   m.All();
   m.f.N = 0.0;
   m.f.Vz = 0.5 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.Mvndy), double(m.rec.Mndy));
   m.f.Vz = m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_NEAR(m.rec.Mvndy, m.rec.Mfdy, 1e-3);
 }
 
@@ -158,7 +158,7 @@ TEST(Hollow, TheExponentRunsFromItsValueToTheCapAndFallsToOne) {
   m.All();
   const auto exponent = [&](double n) {
     m.f.N = n * m.rec.Ncrd;
-    m.family().capacities(m.st, m.f, m.rec);
+    m.family().routines.capacities(m.st, m.f, m.rec);
     return double(m.rec.alfa);
   };
   EXPECT_NEAR(exponent(0), 1.66, 1e-6);
@@ -331,7 +331,7 @@ TEST(Tube, ExactlyNinetyEpsSquaredIsClassThreeAndClassFourCostsNothing) {
   m.st.p31_d = 901.0;
   m.All();
   EXPECT_EQ(m.rec.class_, 4);
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_NEAR(m.rec.Ncrd, m.rec.A * 235 / 1.1 / 1000, 1e-2);
 }
 
@@ -339,7 +339,7 @@ TEST(Tube, AMomentCapacityUsedUpByShearReadsAsOne) {
   Made m(31);
   m.All();
   m.f.Vz = m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.Mvdy), 1);
 }
 

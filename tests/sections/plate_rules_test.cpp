@@ -163,8 +163,8 @@ TEST(Plate, AnAngleLosesItsLegOnceInTheAreaAndTwiceInTheMoments) {
   m.st.p53_tf2 = 8.0;
   m.All();
   ExpectEffective(m.rec, {1860977.76, 1591231.49, 932593.204, 3271058.51, 4066.03615});
-  EXPECT_EQ(m.family().effective, FindFamily(52)->effective);
-  EXPECT_EQ(m.family().effective, FindFamily(54)->effective);
+  EXPECT_EQ(m.family().routines.effective, FindFamily(52)->routines.effective);
+  EXPECT_EQ(m.family().routines.effective, FindFamily(54)->routines.effective);
 }
 
 // Two outstands of 295 above (rho 0.2873), none below; 401.84/6 and 241.84/4 between the walls
@@ -323,7 +323,7 @@ TEST(Plate, ClassFourTakesTheSmallerEffectiveModulusOfEachSide) {
   m.All();
   ASSERT_EQ(int(m.rec.classTop), 4);
   m.rec.classBottom = 4;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   ExpectClose(m.rec.MdyTop, 209891.254 * kFd / 1E6, "MdyTop");
   ExpectClose(m.rec.MdyBottom, 52778.9109 * kFd / 1E6, "MdyBottom");
 }
@@ -348,7 +348,7 @@ void ExpectShearReduction(Made& m, const ShearCase& c) {
   SCOPED_TRACE(c.ezpl);
   m.rec.ezpl = c.ezpl;
   m.f.Vz = 0.75 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   const double loss = 0.25 * c.modulus * kFd / 1E6;
   ExpectClose(m.rec.Mvred, loss, "Mvred");
   EXPECT_NEAR(m.rec.MvdyTop, m.rec.MdyTop - loss, 1e-3);

@@ -31,7 +31,7 @@ void Capacities(Made& m, double N, double Vz, double Vy) {
   m.f.N = N;
   m.f.Vz = Vz;
   m.f.Vy = Vy;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
 }
 
 TEST(RolledClass, AnUnstressedTipHasTheFactorOfAnEvenStress) {

@@ -72,9 +72,10 @@ struct Made {
   }
   SectionRecord& All() {
     Load();
-    family().effective(st, rec);
-    if (family().shear) family().shear(st, rec);
-    if (family().nominal) family().nominal(st, family(), f, rec);
+    const RoutineSet& routines = family().routines;
+    if (routines.effective) routines.effective(st, rec);
+    if (routines.shear) routines.shear(st, rec);
+    if (routines.nominal) routines.nominal(st, family(), f, rec);
     return rec;
   }
   void ClassFor(double N, double My, double Mz) {
@@ -82,7 +83,7 @@ struct Made {
     f.N = N;
     f.My = My;
     f.Mz = Mz;
-    family().sectionClass(st, f, rec);
+    family().routines.sectionClass(st, f, rec);
   }
 };
 

@@ -19,7 +19,7 @@ const double kPlain = std::acos(-1.0);
 Made Tube() {
   Made m(31);
   m.All();
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   return m;
 }
 
@@ -81,13 +81,13 @@ TEST(Tube, ShearTakesItsShareOfTheMomentBothWays) {
   Made m = Tube();
   m.f.Vz = 0.75 * m.rec.Vdz;
   m.f.Vy = 0.9 * m.rec.Vdy;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   ExpectClose(m.rec.Mdy, kMdy, "Mdy");
   ExpectClose(m.rec.Mvdy, 0.75 * kMdy, "Mvdy");
   ExpectClose(m.rec.Mvdz, 0.36 * kMdy, "Mvdz");
   m.f.Vz = 0.5 * m.rec.Vdz;
   m.f.Vy = 2 * m.rec.Vdy;  // the share is at most 1
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.Mvdy), double(m.rec.Mdy));
   EXPECT_EQ(double(m.rec.Mvdz), 1);
 }
@@ -96,7 +96,7 @@ TEST(Tube, AxialForceUpToASeventhCostsNothing) {
   Made m = Tube();
   const auto share = [&m](double n) {
     m.f.N = n * m.rec.Ntd;
-    m.family().capacities(m.st, m.f, m.rec);
+    m.family().routines.capacities(m.st, m.f, m.rec);
     EXPECT_EQ(double(m.rec.Mndz), double(m.rec.Mndy));
     return m.rec.Mndy / m.rec.Mdy;
   };
@@ -115,7 +115,7 @@ TEST(Tube, ShearBesideAxialForceLeavesNothing) {
   m.f.N = 0.3 * m.rec.Ntd;
   m.f.Vz = 0.51 * m.rec.Vdz;
   m.f.Vy = 0.5 * m.rec.Vdy;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.Mvndy), 0);
   EXPECT_EQ(double(m.rec.Mvndz), double(m.rec.Mndz));
 }
@@ -124,13 +124,13 @@ TEST(Tube, ClassThreeAndTheOptionTakeTheElasticModulus) {
   Made m = Tube();
   const double Wel = kPlain / 64 * (std::pow(300., 4) - std::pow(280., 4)) / 150;
   m.st.BendingCapacityMode = 1;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   ExpectClose(m.rec.Mdy, Wel * kFd / 1E6, "option");
   EXPECT_EQ(double(m.rec.Mdz), double(m.rec.Mdy));
   m.st.BendingCapacityMode = 0;
   for (const int sectionClass : {3, 4}) {
     m.rec.class_ = sectionClass;
-    m.family().capacities(m.st, m.f, m.rec);
+    m.family().routines.capacities(m.st, m.f, m.rec);
     ExpectClose(m.rec.Mdy, Wel * kFd / 1E6, "class");
   }
 }
@@ -191,7 +191,7 @@ TEST(General, ShearReducesNoMoment) {
   Made m = General();
   m.f.Vz = m.rec.Vdz;
   m.f.Vy = m.rec.Vdy;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.Mvdy), double(m.rec.Mdy));
   EXPECT_EQ(double(m.rec.Mvdz), double(m.rec.Mdz));
   EXPECT_EQ(double(m.rec.Mvndy), double(m.rec.Mndy));
@@ -206,7 +206,7 @@ TEST(General, AxialForceReducesBySizeAboutBothAxes) {
   m.All();
   for (const double sign : {-1., 1.}) {
     m.f.N = sign * 0.5 * m.rec.Ntd;
-    m.family().capacities(m.st, m.f, m.rec);
+    m.family().routines.capacities(m.st, m.f, m.rec);
     EXPECT_EQ(double(m.rec.alfa), 2);
     ExpectClose(m.rec.beta, 2.5, "beta");
     ExpectClose(m.rec.Mndy, 0.55 * 1.3E6 * kFd / 1E6, "Mndy");
@@ -219,7 +219,7 @@ TEST(General, AxialForceReducesBySizeAboutBothAxes) {
 TEST(General, LittleAxialForceReducesNothing) {
   Made m = General();
   m.f.N = 0.09 * m.rec.Ntd;  // 1.1*0.91 = 1.001; 0.09 below 0.2727; 5*0.09 below 1
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.Mndy), double(m.rec.Mdy));
   EXPECT_EQ(double(m.rec.Mndz), double(m.rec.Mdz));
   EXPECT_EQ(double(m.rec.beta), 1);

@@ -283,7 +283,7 @@ TEST(SingleCapacity, EachSideTakesTheModulusOfItsClass) {
   const auto with = [&m](int top, int bottom) {
     m.rec.classTop = top;
     m.rec.classBottom = bottom;
-    m.family().capacities(m.st, m.f, m.rec);
+    m.family().routines.capacities(m.st, m.f, m.rec);
   };
   with(2, 3);
   EXPECT_NEAR(m.rec.MdyTop, m.rec.Wply * fd, 0.01);
@@ -309,7 +309,7 @@ double ShearedModulus(double ep) {
   m.All();
   m.rec.ezpl = ep;
   m.f.Vz = 0.75 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_NEAR(m.rec.MvdyTop, m.rec.MdyTop - m.rec.Mvred, 1e-3);
   EXPECT_NEAR(m.rec.MvdyBottom, m.rec.MdyBottom - m.rec.Mvred, 1e-3);
   return m.rec.Mvred * 1E6 * 1.1 / 355 / 0.25;
@@ -328,14 +328,14 @@ TEST(SingleCapacity, ShearTakesNothingUpToHalfAndNoMoreThanAll) {
   Made m = Unequal();
   m.All();
   m.f.Vz = 0.5 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_EQ(double(m.rec.MvdyTop), double(m.rec.MdyTop));
   m.f.Vz = m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   const double all = m.rec.Mvred;
   EXPECT_GT(all, 0);
   m.f.Vz = 1.5 * m.rec.Vdz;
-  m.family().capacities(m.st, m.f, m.rec);
+  m.family().routines.capacities(m.st, m.f, m.rec);
   EXPECT_NEAR(m.rec.Mvred, all, 1e-4);
 }
 
