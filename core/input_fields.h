@@ -55,6 +55,13 @@ bool IsText(const InputField& field);
 /// The number of an input in its unit, a position as x/L while its flag says so; 0 for a text.
 double ReadInput(const ProjectState& st, const InputRef& input);
 
+/// The text of an input; empty for a number, and StoreText stores none there.
+std::string ReadText(const ProjectState& st, const InputRef& input);
+void StoreText(ProjectState& st, const InputRef& input, const std::string& text);
+
+/// Copies one input from another state, as it is stored.
+void CopyInput(const ProjectState& from, ProjectState& to, const InputRef& input);
+
 /// The limit of an input as it stands for this state.
 Limit LimitOf(const ProjectState& st, const InputRef& input);
 

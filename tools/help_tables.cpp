@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "front/named_session.h"
 #include "front/platform.h"
-#include "front/session.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
@@ -115,7 +115,7 @@ std::string FieldTable(const Form& form, const Session& s, const ProjectState& n
     if (c.kind != Kind::Input) continue;
     std::string accepted = c.field.IsNumber() ? "any number" : "any text";
     std::string message;
-    if (c.field.IsNumber() && HasLimit(c.field.input.field->limit)) {
+    if (c.field.Limited()) {
       const Limit& limit = c.field.input.field->limit;
       accepted = RangeWords(InForce(limit, newProject)) + (limit.follows != nullptr ? " *" : "");
       message = Messages(limit, newProject);
@@ -190,13 +190,12 @@ std::string TitleOf(const Form& form, const Session& s) {
 /// One form with the values of a new project in its fields.
 std::string FormSection(const Form& form, const std::shared_ptr<const Library>& library) {
   Platform platform;
-  Session s(library, platform, false);
+  NamedSession s(library, platform, false);
   s.Start();
   const ProjectState newProject = s.st();
   s.Focus("korvane");
   if (const Family* family = FamilyOfForm(form.name)) s.st().ProfileType = family->code;
   if (form.name != "korvane") s.Show(form.name);
-  s.Fill(form.name);
   const std::string body = FieldTable(form, s, newProject) + OtherControls(form, s) +
                            (form.name == "korvane" ? Commands(form) : "");
   if (body.empty()) return {};

@@ -200,7 +200,8 @@ TEST(DecimalComma, IsThatOfTheDrawnPanes) {
   const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
   const QTemporaryDir folder;
   DesktopPlatform platform;
-  Session session(library, platform, true, Folders{library->folder, folder.path().toStdString()});
+  NamedSession session(library, platform, true,
+                       Folders{library->folder, folder.path().toStdString()});
   session.Start();
   session.Focus("korvane");
   const ResultPane results(session, ResultPane::Form::Short);

@@ -84,7 +84,7 @@ protected:
       }
     });
     answer.start(20);
-    desktop_->window().ActionOf(command)->trigger();
+    desktop_->window().ActionOf(*FindControl(*TheForms().main, command))->trigger();
     QCoreApplication::processEvents();
     return asked;
   }
@@ -95,7 +95,7 @@ protected:
   QTemporaryDir folder_;
   DesktopPlatform platform_;
   std::shared_ptr<const Library> library_;
-  Session session_;
+  NamedSession session_;
   std::unique_ptr<Desktop> desktop_;
 };
 

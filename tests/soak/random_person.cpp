@@ -58,8 +58,8 @@ RandomPerson::RandomPerson(std::shared_ptr<const Library> library, const SoakFil
 
 void RandomPerson::StartSession() {
   platform_ = std::make_unique<SoakPlatform>(dice_, files_, counts_);
-  session_ = std::make_unique<Session>(library_, *platform_, dice_.Chance(30),
-                                       Folders{library_->folder, files_.folder});
+  session_ = std::make_unique<NamedSession>(library_, *platform_, dice_.Chance(30),
+                                            Folders{library_->folder, files_.folder});
   ++counts_.sessions;
   try {
     session_->Start();
@@ -120,7 +120,7 @@ void RandomPerson::Do() {
 }
 
 std::optional<RandomPerson::Target> RandomPerson::Find(std::initializer_list<Kind> kinds) {
-  const std::vector<std::string>& open = session_->OpenForms();
+  const std::vector<std::string> open = session_->OpenForms();
   const bool top = dice_.Chance(80);
   const std::string& name =
       top ? open.back()
@@ -208,15 +208,15 @@ void RandomPerson::MoveBetweenForms() {
 void RandomPerson::UseFiles() {
   switch (dice_.Below(5)) {
     case 0:
-      return session_->OpenCommand();
+      return session_->files().Open();
     case 1:
-      return session_->SaveAsCommand();
+      return session_->files().SaveAs();
     case 2:
-      return session_->SaveCommand();
+      return session_->files().Save();
     case 3:
-      return session_->OpenRecent(dice_.Between(1, 4));
+      return session_->files().OpenRecent(dice_.Between(1, 4));
     default:
-      return session_->NewCommand();
+      return session_->files().New();
   }
 }
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "../design/random_states.h"
-#include "front/session.h"
+#include "front/named_session.h"
 
 namespace korvane {
 
@@ -92,7 +92,7 @@ private:
   Dice dice_;
   SoakCounts counts_;
   std::unique_ptr<SoakPlatform> platform_;
-  std::unique_ptr<Session> session_;
+  std::unique_ptr<NamedSession> session_;
 };
 
 }  // namespace korvane
