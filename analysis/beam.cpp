@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "analysis/running_sums.h"
+#include "analysis/stations.h"
 #include "core/family_kinds.h"
 #include "core/supports.h"
 
@@ -28,8 +29,22 @@ public:
   PlaneModel& operator=(const PlaneModel&) = delete;
 
   const PartList<ForcePart>& Parts() const { return parts_; }
-  Force AtStation(int i, double x) const {
-    return sums_ ? Forces(sums_->AtStation(i, x), x) : Force{};
+  /// Moments and shears of the stations away from the ends.
+  void AtStations(double L, StationRow& M, StationRow& V) const {
+    if (!sums_) {
+      M = {};
+      V = {};
+      return;
+    }
+    for (std::size_t i = 1; i < kLastStation;) {
+      const auto end = static_cast<std::size_t>(sums_->RunEnd(int(i), kLastStation - 1)) + 1;
+      const ForceBranch sum = sums_->AtStation(int(i), kStationPlaces[i] * L);
+      for (; i < end; ++i) {
+        const double x = kStationPlaces[i] * L;
+        M[i] = sum.M(x);
+        V[i] = sum.V(x);
+      }
+    }
   }
   /// By the branches alone, without the rules of the ends.
   Force At(double x) const { return sums_ ? Forces(sums_->At(x), x) : Force{}; }
@@ -109,6 +124,8 @@ void AddLoadPoints(const ProjectState& st, BeamResults& out) {
 
 /// Characteristic points behind the last slot in use.
 void AddUserPoints(const ProjectState& st, BeamResults& out) {
+  // Only a file can hold it; fewer points than the even ones would be checked.
+  if (st.cp_count < 0) throw ArithmeticFault("calculation points below 0");
   out.pt_first = out.pt_last + 1;
   out.pt_last = out.pt_last + st.cp_count;
   for (int k = 0; k < st.cp_count; ++k) out.pt_x[out.pt_first + k] = st.cp_x[k + 1] / st.L;
@@ -132,23 +149,29 @@ void Finals(const ProjectState& st, BeamResults& out) {
 void PlaneStations(const ProjectState& st, const PlaneModel& model, Plane plane,
                    BeamResults& results) {
   PlaneForces& out = Of(plane, results);
+  StationRow M;
+  StationRow V;
+  model.AtStations(st.L, M, V);
+  Force start;
+  Force end;
+  for (const ForcePart& p : model.Parts()) {
+    start = {start.M + p.M0, start.V + p.V0};
+    end = {end.M + p.ML, end.V + p.VL};
+  }
+  M.front() = start.M;
+  V.front() = start.V;
+  M.back() = end.M;
+  V.back() = end.V;
+  for (int i = 0; i <= kLastStation; ++i) {
+    out.M[i] = M[static_cast<std::size_t>(i)];
+    out.V[i] = V[static_cast<std::size_t>(i)];
+  }
   out.M_max = 0;
   out.M_min = 0;
   out.V_max = 0;
   out.V_min = 0;
-  for (int i = 0; i <= 50; ++i) {
-    Force f;
-    if (i == 0) {
-      for (const ForcePart& p : model.Parts()) f = {f.M + p.M0, f.V + p.V0};
-    } else if (i == 50) {
-      for (const ForcePart& p : model.Parts()) f = {f.M + p.ML, f.V + p.VL};
-    } else {
-      f = model.AtStation(i, (i / 50.0) * st.L);
-    }
-    out.M[i] = f.M;
-    out.V[i] = f.V;
-    Widen({out.M[i], out.V[i]}, out);
-  }
+  Widen(out.M, out.M_max, out.M_min);
+  Widen(out.V, out.V_max, out.V_min);
   QuarterPoints(plane, out);
   for (int j = 0; j <= 10; ++j) {
     out.M_pt[j] = out.M[5 * j];

@@ -172,7 +172,9 @@ DeflectionPart PointDeflection(Case support, double L, double KP, double a) {
   const double b = L - a;
   if (support == Case::Cantilever) {
     const double tip = KP / 6 * (2 * L * L * L - 3 * L * L * b + b * b * b);
-    p.a = std::min(a, L);  // the free end takes the tip value wherever the load stands
+    // The free end takes the tip value wherever the load stands; with a negative length every
+    // station lies before the load.
+    p.a = L < 0 ? a : std::min(a, L);
     p.left = {{0, 0, KP * a / 2, -KP / 6}};
     p.right = {{tip, -KP * a * a / 2}, true};
     return p;

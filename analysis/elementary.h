@@ -63,6 +63,8 @@ struct DeflectionSum {
 
   /// mm at x.
   double At(double x, double L) const { return Quartic(plain, x) + Quartic(mirrored, L - x); }
+  /// The same where no load is mirrored, whose quartic is 0.
+  double PlainAt(double x) const { return Quartic(plain, x) + 0.0; }
   void Add(const DeflectionBranch& b) { AddTo(b.mirrored ? mirrored : plain, b.c); }
   void Add(const DeflectionSum& s) {
     AddTo(plain, s.plain);
@@ -78,6 +80,14 @@ private:
   }
 };
 
+/// Places for values that are not there before they are written.
+template <class T, std::size_t Size>
+union Places {
+  static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
+  Places() {}
+  std::array<T, Size> values;
+};
+
 /// Fixed-capacity list: a plane has at most a line load, 60 slices and 16 load entries, each in
 /// two parts where a spring support blends two cases. A member has few loads as a rule, so the
 /// places of the others are never written.
@@ -85,7 +95,6 @@ template <class Part>
 class PartList {
 public:
   static constexpr std::size_t kCapacity = 160;
-  static_assert(std::is_trivially_copyable_v<Part> && std::is_trivially_destructible_v<Part>);
 
   PartList() = default;
   PartList(const PartList&) = delete;
@@ -93,21 +102,17 @@ public:
 
   void Add(const Part& part) {
     if (count_ == kCapacity) throw ArithmeticFault("too many loads");
-    ::new (static_cast<void*>(&places_.parts[count_])) Part(part);
+    ::new (static_cast<void*>(&places_.values[count_])) Part(part);
     ++count_;
   }
   std::size_t size() const { return count_; }
   bool empty() const { return count_ == 0; }
   const Part& operator[](std::size_t i) const { return begin()[i]; }
-  const Part* begin() const { return places_.parts.data(); }
+  const Part* begin() const { return places_.values.data(); }
   const Part* end() const { return begin() + count_; }
 
 private:
-  union Places {
-    Places() {}
-    std::array<Part, kCapacity> parts;
-  };
-  Places places_;
+  Places<Part, kCapacity> places_;
   std::size_t count_ = 0;
 };
 

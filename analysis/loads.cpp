@@ -16,11 +16,6 @@ struct GroupFactors {
   double Of(int group) const { return group == 0 ? p : group == 1 ? v1 : v2; }
 };
 
-struct LineLoad {
-  float32 ProjectState::*q;
-  int16 ProjectState::*pv;
-  int16 ProjectState::*yz;
-};
 constexpr std::array<LineLoad, 4> kLineLoads{{
     {&ProjectState::q1, &ProjectState::q1_pv, &ProjectState::q1_yz},
     {&ProjectState::q2, &ProjectState::q2_pv, &ProjectState::q2_yz},
@@ -72,6 +67,10 @@ GroupFactors UlsFactors(const ProjectState& st) {
 }
 
 }  // namespace
+
+const LineLoad& LineLoadOf(int n) {
+  return kLineLoads.at(static_cast<std::size_t>(n - 1));
+}
 
 const Trapezoid& TrapezoidOf(int t) {
   using S = ProjectState;

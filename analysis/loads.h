@@ -21,6 +21,15 @@ struct Trapezoid {
 /// Trapezoid 1 to 3.
 const Trapezoid& TrapezoidOf(int t);
 
+/// Members of the state that hold one line load over the whole length.
+struct LineLoad {
+  float32 ProjectState::*q;
+  int16 ProjectState::*pv;
+  int16 ProjectState::*yz;
+};
+/// Line load 1 to 4.
+const LineLoad& LineLoadOf(int n);
+
 /// Loads of one plane. Index 1..3 trapezoids, 1..8 load entries. kN/m, kN, kNm.
 struct PlaneLoads {
   float32 q;                        ///< full line load

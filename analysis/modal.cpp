@@ -22,7 +22,8 @@ constexpr std::array<std::array<double, 3>, 4> kModes{{
 }  // namespace
 
 void ModalAnalysisRun(const ProjectState& st, double S, double Iy, ModalResults& out) {
-  out.ModalMass = 102 * ModalLineLoad(st) + S;
+  // The load record counts in load mode only.
+  out.ModalMass = (st.AnalysisMode == 1 ? 102 * ModalLineLoad(st) : 0) + S;
   const Support* support = FindSupport(st.SupportType);
   if (support == nullptr || IsSpring(st.SupportType)) return;
   const std::array<double, 3>& constants = kModes.at(static_cast<std::size_t>(support->stiff));

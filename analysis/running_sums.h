@@ -19,31 +19,41 @@ public:
 
   /// Keeps a reference to the parts. L in m.
   RunningSums(const PartList<Part>& parts, double L)
-      : parts_(parts), L_(L), walks_(!(L > 0) || parts.size() <= kFew) {
-    if (walks_) return;
+      : parts_(parts), L_(L), ordered_(L > 0), walks_(!ordered_ || parts.size() <= kFew) {
+    if (!ordered_) return;
     first_.fill(kNone);
     for (std::size_t n = 0; n < parts.size(); ++n) {
       const std::size_t i = FirstRightOf(parts[n]);
       next_[n] = first_[i];
       first_[i] = static_cast<Index>(n);
     }
-    left_[kLast + 1] = {};
+    if (walks_) return;
+    auto& left = left_.values;
+    auto& right = right_.values;
+    left[kLast + 1] = {};
     for (std::size_t i = kLast + 1; i-- > 0;) {
-      left_[i] = left_[i + 1];
-      ForEachAt(i + 1, [&](const Part& part) { left_[i].Add(part.left); });
+      left[i] = left[i + 1];
+      ForEachAt(i + 1, [&](const Part& part) { left[i].Add(part.left); });
     }
     for (std::size_t i = 0; i <= kLast; ++i) {
-      right_[i] = i == 0 ? Sum{} : right_[i - 1];
-      ForEachAt(i, [&](const Part& part) { right_[i].Add(part.right); });
+      right[i] = i == 0 ? Sum{} : right[i - 1];
+      ForEachAt(i, [&](const Part& part) { right[i].Add(part.right); });
     }
   }
 
   /// All loads at station i, at its place x.
   Sum AtStation(int i, double x) const {
     if (walks_) return Walk(x);
-    Sum sum = left_[static_cast<std::size_t>(i)];
-    sum.Add(right_[static_cast<std::size_t>(i)]);
+    Sum sum = left_.values[static_cast<std::size_t>(i)];
+    sum.Add(right_.values[static_cast<std::size_t>(i)]);
     return sum;
+  }
+
+  /// The last station, up to `last`, with the same sum as station i.
+  int RunEnd(int i, int last) const {
+    if (!ordered_) return i;
+    while (i < last && first_[static_cast<std::size_t>(i) + 1] == kNone) ++i;
+    return i;
   }
 
   /// All loads at any x: the loads between its two stations are asked one by one.
@@ -53,8 +63,8 @@ public:
     // The quotient is rounded; x < L keeps i below the last station.
     if (x < Station(i)) --i;
     if (x >= Station(i + 1)) ++i;
-    Sum sum = left_[i + 1];
-    sum.Add(right_[i]);
+    Sum sum = left_.values[i + 1];
+    sum.Add(right_.values[i]);
     ForEachAt(i + 1, [&](const Part& part) { sum.Add(part.At(x)); });
     return sum;
   }
@@ -92,13 +102,12 @@ private:
 
   const PartList<Part>& parts_;
   double L_;
-  /// Asks the parts one by one: there are few, or the length isn't positive and the stations
-  /// don't stand in order.
-  bool walks_;
-  std::array<Index, kLast + 2> first_;  ///< the parts whose right begins at a station, chained
+  bool ordered_;  ///< the length is positive, so the stations stand in order
+  bool walks_;    ///< asks the parts one by one: there are few, or the stations have no order
+  std::array<Index, kLast + 2> first_;  ///< parts whose right begins at a station, chained
   std::array<Index, PartList<Part>::kCapacity> next_;
-  std::array<Sum, kLast + 2> left_;   ///< of the parts that a station is on the left of
-  std::array<Sum, kLast + 2> right_;  ///< of the others
+  Places<Sum, kLast + 2> left_;   ///< of the parts that a station is on the left of
+  Places<Sum, kLast + 2> right_;  ///< of the others
 };
 
 }  // namespace korvane

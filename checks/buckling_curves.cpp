@@ -56,35 +56,41 @@ double LengthFactorOfCase(int bucklingCase) {
   }
 }
 
-void ChooseBucklingCurves(CurveRule rule, const SectionRecord& rec, ProjectState& st) {
-  const auto choose = [&st](int y, int z) {
-    st.BucklingCurveY = y;
-    st.BucklingCurveZ = z;
-  };
+std::optional<CurvePair> CurvesOf(CurveRule rule, const SectionRecord& rec,
+                                  const ProjectState& st) {
+  using Pair = CurvePair;
   switch (rule) {
     case CurveRule::RolledI: {
       // Compared in single precision.
       const bool deep = float32(1.2 * rec.b) < rec.h;
-      if (st.fyk > 440) return deep ? choose(kA0, kA0) : choose(kA, kA);
-      return deep ? choose(kA, kB) : choose(kB, kC);
+      if (st.fyk > 440) return deep ? Pair{kA0, kA0} : Pair{kA, kA};
+      return deep ? Pair{kA, kB} : Pair{kB, kC};
     }
     case CurveRule::WeldedI:
-      return rec.tmax <= 40 ? choose(kB, kC) : choose(kC, kD);
+      return rec.tmax <= 40 ? Pair{kB, kC} : Pair{kC, kD};
     case CurveRule::WeldedBox: {
       // The stockier plates of a hot welded box take the weaker curve.
       const bool stocky = rec.b / rec.tf < 30 && rec.h / rec.tw < 30;
-      return st.BoxWeld == 0 && stocky ? choose(kC, kC) : choose(kB, kB);
+      return st.BoxWeld == 0 && stocky ? Pair{kC, kC} : Pair{kB, kB};
     }
     case CurveRule::Tube:
-      return st.TubeKind != 0 ? choose(kA, kA) : choose(kB, kB);
+      return st.TubeKind != 0 ? Pair{kA, kA} : Pair{kB, kB};
     case CurveRule::A:
-      return choose(kA, kA);
+      return Pair{kA, kA};
     case CurveRule::B:
-      return choose(kB, kB);
+      return Pair{kB, kB};
     case CurveRule::C:
-      return choose(kC, kC);
+      return Pair{kC, kC};
     case CurveRule::Kept:
-      return;
+      break;
+  }
+  return std::nullopt;
+}
+
+void ChooseBucklingCurves(CurveRule rule, const SectionRecord& rec, ProjectState& st) {
+  if (const auto curves = CurvesOf(rule, rec, st)) {
+    st.BucklingCurveY = curves->y;
+    st.BucklingCurveZ = curves->z;
   }
 }
 

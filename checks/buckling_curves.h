@@ -2,6 +2,8 @@
 // Buckling curves: imperfection factors, letters and the automatic choice.
 #pragma once
 
+#include <optional>
+
 #include "core/project_state.h"
 #include "sections/profile_table.h"
 
@@ -22,6 +24,15 @@ const char* AngleCurveLetter(int curve);
 /// Buckling length factor of end condition case 1 to 5 (0: no buckling); case 6 is typed in and
 /// has none, which reads as -1.
 double LengthFactorOfCase(int bucklingCase);
+
+/// Indices of the curves about y and z.
+struct CurvePair {
+  int y, z;
+};
+
+/// The curves that a rule chooses by proportions (mm) and fyk (MPa); none for CurveRule::Kept.
+/// Table 11.
+std::optional<CurvePair> CurvesOf(CurveRule rule, const SectionRecord& rec, const ProjectState& st);
 
 /// Sets BucklingCurveY and BucklingCurveZ by the family's rule, the proportions (mm) and fyk (MPa);
 /// a family without a rule keeps those in force. Table 11.

@@ -75,12 +75,9 @@ void ClassifyMember(const Family& family, const ProjectState& st, const BeamResu
   family.routines.capacities(st, f, rec);
 }
 
-bool HasKlt(BucklingKind kind) {
-  return kind == BucklingKind::DoubleSymmetric || kind == BucklingKind::FlatBar;
-}
-
-void MomentFactorsOf(const Family& family, const ProjectState& st, const BeamResults& beam,
-                     const SectionForces& f, const SectionRecord& rec, BucklingResults& b) {
+void MomentFactorsOf(const Family& family, bool ownKlt, const ProjectState& st,
+                     const BeamResults& beam, const SectionForces& f, const SectionRecord& rec,
+                     BucklingResults& b) {
   const bool plastic = rec.class_ <= 2 && st.BendingCapacityMode == 0;
   const double Wely = family.routines.buckling == BucklingKind::SingleSymmetric
                           ? std::min<double>(rec.Wely1, rec.Wely2)
@@ -89,7 +86,7 @@ void MomentFactorsOf(const Family& family, const ProjectState& st, const BeamRes
   const double mu0z = plastic ? rec.Wplz / rec.Welz - 1 : 0;
   b.ky = MomentFactor(st, f, rec, b.Lybar * (2 * beam.betaMy - 4) + mu0y, b.Xy, 1.5);
   b.kz = MomentFactor(st, f, rec, b.Lzbar * (2 * beam.betaMz - 4) + mu0z, b.Xz, 1.5);
-  if (HasKlt(family.routines.buckling)) {
+  if (ownKlt || HasKlt(family.routines.buckling)) {
     b.klt = MomentFactor(st, f, rec, 0.15 * (b.Lzbar * beam.betaMy - 1), b.Xz, 1.0);
   }
 }
@@ -176,6 +173,13 @@ void AngleControl(const ProjectState& st, const BeamResults& beam, const Section
 void BucklingControl(const Family& family, const ProjectState& st, const BeamResults& beam,
                      const LtbResults& ltb, SectionForces& f, SectionRecord& rec,
                      BucklingResults& b, CheckResults& out) {
+  BucklingControlWith({st.BucklingCurveY, st.BucklingCurveZ, false}, family, st, beam, ltb, f, rec,
+                      b, out);
+}
+
+void BucklingControlWith(const BucklingChoice& choice, const Family& family, const ProjectState& st,
+                         const BeamResults& beam, const LtbResults& ltb, SectionForces& f,
+                         SectionRecord& rec, BucklingResults& b, CheckResults& out) {
   out.bucklingRan = true;
   out.textY = BucklingText::None;
   out.textZ = BucklingText::None;
@@ -184,17 +188,16 @@ void BucklingControl(const Family& family, const ProjectState& st, const BeamRes
   const BucklingKind kind = family.routines.buckling;
   if (kind == BucklingKind::Angle) {
     AngleSlendernesses(st, rec, b);
-    Reductions(st, rec, AngleImperfectionFactor(st.BucklingCurveY),
-               AngleImperfectionFactor(st.BucklingCurveZ), b);
+    Reductions(st, rec, AngleImperfectionFactor(choice.curveY),
+               AngleImperfectionFactor(choice.curveZ), b);
     AngleControl(st, beam, f, rec, b, out);
     return;
   }
 
   ClassifyMember(family, st, beam, out, f, rec);
   Slendernesses(st, rec, b);
-  Reductions(st, rec, ImperfectionFactor(st.BucklingCurveY), ImperfectionFactor(st.BucklingCurveZ),
-             b);
-  MomentFactorsOf(family, st, beam, f, rec, b);
+  Reductions(st, rec, ImperfectionFactor(choice.curveY), ImperfectionFactor(choice.curveZ), b);
+  MomentFactorsOf(family, choice.ownKlt, st, beam, f, rec, b);
   const bool bendY = beam.MyAbsMax != 0;
   const bool bendZ = beam.MzAbsMax != 0;
   switch (kind) {

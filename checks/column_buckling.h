@@ -18,6 +18,20 @@ void BucklingControl(const Family& family, const ProjectState& st, const BeamRes
                      const LtbResults& ltb, SectionForces& f, SectionRecord& rec,
                      BucklingResults& b, CheckResults& out);
 
+/// The same with curves and klt other than those in force, for what they would give.
+struct BucklingChoice {
+  int curveY, curveZ;
+  bool ownKlt;  ///< klt is worked out for a singly symmetric section too
+};
+void BucklingControlWith(const BucklingChoice& choice, const Family& family, const ProjectState& st,
+                         const BeamResults& beam, const LtbResults& ltb, SectionForces& f,
+                         SectionRecord& rec, BucklingResults& b, CheckResults& out);
+
+/// Whether the control of this kind works out klt.
+constexpr bool HasKlt(BucklingKind kind) {
+  return kind == BucklingKind::DoubleSymmetric || kind == BucklingKind::FlatBar;
+}
+
 /// The lateral reduction that the buckling check takes: 1 when lateral buckling is off.
 double LateralReduction(const ProjectState& st, const LtbResults& ltb);
 

@@ -8,37 +8,65 @@ namespace korvane {
 
 namespace {
 
-std::string F1(double v) {
-  return Format(v, "0.0");
+Decimals F1(double v) {
+  return {v, 1};
 }
-std::string F2(double v) {
-  return Format(v, "0.00");
-}
-
-std::string Fraction(double a, double b) {
-  return F1(a) + "/" + F1(b);
+Decimals F2(double v) {
+  return {v, 2};
 }
 
-/// "  <  1.00 (0.50L; Ch 12.2.4)".
-std::string PointLimit(double iufa, double x, const char* reference) {
-  return "  <  " + F2(iufa) + " (" + F2(x) + reference;
+/// "12.3/45.6".
+struct Fraction {
+  double a, b;
+};
+void Append(std::string& out, const Fraction& f) {
+  korvane::Append(out, F1(f.a));
+  out += '/';
+  korvane::Append(out, F1(f.b));
 }
 
-void SetLine(CheckLine& line, std::string label, std::string formula, std::string numbers,
-             double ir, std::string limit, int colour) {
-  line.label = std::move(label);
-  line.formula = std::move(formula);
-  line.numbers = std::move(numbers);
-  line.value = F2(ir);
-  line.limit = std::move(limit);
+/// " + 1.02*12.3/45.6".
+struct FactoredTerm {
+  double k, M, Md;
+};
+void Append(std::string& out, const FactoredTerm& t) {
+  out += " + ";
+  korvane::Append(out, F2(t.k));
+  out += '*';
+  Append(out, Fraction{t.M, t.Md});
+}
+
+/// "[12.3/45.6]^1.66", with the brackets of the line.
+struct RaisedTerm {
+  char open;
+  Fraction fraction;
+  const char* close;
+  double exponent;
+};
+void Append(std::string& out, const RaisedTerm& t) {
+  out += t.open;
+  Append(out, t.fraction);
+  out += t.close;
+  korvane::Append(out, F2(t.exponent));
+}
+
+/// An empty line in the memory that it has.
+void Clear(CheckLine& line) {
+  for (std::string* text : {&line.label, &line.formula, &line.numbers, &line.value, &line.limit}) {
+    text->clear();
+  }
+  line.colour = 0;
+}
+
+void SetValue(CheckLine& line, double ir, int colour) {
+  Compose(line.value, F2(ir));
   line.colour = colour;
 }
 
-/// Wording of the section line.
-struct Wording {
-  std::string label, formula, numbers;
-  const char* reference;
-};
+/// "  <  1.00 (0.50L; Ch 12.2.4)".
+void SetPointLimit(CheckLine& line, double iufa, double x, const char* reference) {
+  Compose(line.limit, "  <  ", F2(iufa), " (", F2(x), reference);
+}
 
 bool IsTube(SectionControlKind kind) {
   return kind == SectionControlKind::Tube;
@@ -47,11 +75,14 @@ bool IsClosed(SectionControlKind kind) {
   return kind == SectionControlKind::Hollow || IsTube(kind);
 }
 
-Wording AxialWording(const GoverningSection& s, SectionControlKind kind) {
-  const std::string numbers = Fraction(s.N, s.Nd) + " = ";
-  if (IsTube(kind)) return {"N:", "IR = N/Nd = ", numbers, "L; Ch 12.2.3)"};
-  if (s.N < 0) return {"N:", "IR = N/Ntd = ", numbers, "L; Ch 12.2.3.1)"};
-  return {"N:", "IR = N/Ncd = ", numbers, "L; Ch 12.2.3.2)"};
+// Each of these words label, formula and numbers of the section line and returns the reference
+// that ends its limit.
+
+const char* WordAxial(const GoverningSection& s, SectionControlKind kind, CheckLine& line) {
+  line.label = "N:";
+  Compose(line.numbers, Fraction{s.N, s.Nd}, " = ");
+  line.formula = IsTube(kind) ? "IR = N/Nd = " : s.N < 0 ? "IR = N/Ntd = " : "IR = N/Ncd = ";
+  return IsTube(kind) ? "L; Ch 12.2.3)" : s.N < 0 ? "L; Ch 12.2.3.1)" : "L; Ch 12.2.3.2)";
 }
 
 /// One moment with its shear: axis is 'y' with Vz, or 'z' with Vy.
@@ -70,133 +101,117 @@ AxisTerms AboutZ(const GoverningSection& s) {
   return {'z', "Vy", s.Mz, s.Mvdz, s.Mvndz, s.Vy, s.Vdy};
 }
 
-Wording MomentWording(const AxisTerms& t, SectionControlKind kind) {
-  const std::string M = std::string("M") + t.axis;
+const char* WordMoment(const AxisTerms& t, SectionControlKind kind, CheckLine& line) {
   const bool plain = t.Unsheared();
-  const std::string label = IsTube(kind) && !plain ? M + "+" + t.shear + ":" : M + ":";
-  const std::string numbers = Fraction(t.M, t.Mvd) + " = ";
-  if (plain) return {label, "IR = " + M + "/Md" + t.axis + " = ", numbers, "L; Ch 12.2.4)"};
-  return {label, "IR = " + M + "/Mvd" + t.axis + " = ", numbers, "L; Ch 12.2.7)"};
+  if (IsTube(kind) && !plain) {
+    Compose(line.label, 'M', t.axis, '+', t.shear, ':');
+  } else {
+    Compose(line.label, 'M', t.axis, ':');
+  }
+  Compose(line.formula, "IR = M", t.axis, plain ? "/Md" : "/Mvd", t.axis, " = ");
+  Compose(line.numbers, Fraction{t.M, t.Mvd}, " = ");
+  return plain ? "L; Ch 12.2.4)" : "L; Ch 12.2.7)";
 }
 
 /// The second half compares Vy with half of Vdz, and its last open-section string names My in
 /// the place of Mz: both are fixed as they stand.
-Wording BiaxialWording(const GoverningSection& s, SectionControlKind kind) {
+const char* WordBiaxial(const GoverningSection& s, SectionControlKind kind, CheckLine& line) {
   const bool first = s.Vz < 0.5 * s.Vdz;
   const bool second = s.Vy < 0.5 * s.Vdz;
-  const char* reference = "L; Ch 12.2.6.)";
-  if (IsClosed(kind)) {
-    if (s.exact) {
-      return {"My+Mz:",
-              std::string(first ? "IR = [My/Mdy]^alfa + " : "IR = [My/Mvdy]^alfa + ") +
-                  (second ? "[Mz/Mdz]^beta = " : "[Mz/Mvdz]^beta = "),
-              "[" + Fraction(s.My, s.Mvdy) + "]^" + F2(s.alfa) + " + [" + Fraction(s.Mz, s.Mvdz) +
-                  "]^" + F2(s.beta) + " = ",
-              reference};
-    }
-    return {"My+Mz:",
-            std::string(first ? "IR = My/Mdy + " : "IR = My/Mvdy + ") +
-                (second ? "Mz/Mdz = " : "Mz/Mvdz = "),
-            Fraction(s.My, s.Mvdy) + " + " + Fraction(s.Mz, s.Mvdz) + " =  ", reference};
-  }
+  const bool closed = IsClosed(kind);
+  const Fraction y{s.My, s.Mvdy};
+  const Fraction z{s.Mz, s.Mvdz};
+  line.label = "My+Mz:";
   if (s.exact) {
-    return {"My+Mz:",
-            std::string(first ? "IR = [My/Mdy]^alfa" : "IR = [My/Mvdy]^alfa") +
-                (second ? " + [Mz/Mdz]^beta = " : " + [Mz/Mvdz]^beta = "),
-            "[" + Fraction(s.My, s.Mvdy) + "]^2.00 + (" + Fraction(s.Mz, s.Mvdz) + ")^" +
-                F2(s.beta) + " = ",
-            reference};
+    Compose(line.formula, first ? "IR = [My/Mdy]^alfa + " : "IR = [My/Mvdy]^alfa + ",
+            second ? "[Mz/Mdz]^beta = " : "[Mz/Mvdz]^beta = ");
+    Compose(line.numbers, RaisedTerm{'[', y, "]^", closed ? s.alfa : 2.0}, " + ",
+            RaisedTerm{closed ? '[' : '(', z, closed ? "]^" : ")^", s.beta}, " = ");
+    return "L; Ch 12.2.6.)";
   }
-  return {"My+Mz:",
-          std::string(first ? "IR = My/Mdy" : "IR = My/Mvdy") +
-              (second ? " + Mz/Mdz = " : " + My/Mvdy = "),
-          Fraction(s.My, s.Mvdy) + " + " + Fraction(s.Mz, s.Mvdz) + " = ", reference};
+  Compose(line.formula, first ? "IR = My/Mdy" : "IR = My/Mvdy", " + ",
+          second   ? "Mz/Mdz = "
+          : closed ? "Mz/Mvdz = "
+                   : "My/Mvdy = ");
+  Compose(line.numbers, y, " + ", z, closed ? " =  " : " = ");
+  return "L; Ch 12.2.6.)";
 }
 
 constexpr const char* kAxialRef = "L; Ch 12.2.6)";
 constexpr const char* kAxialShearRef = "L; Ch 12.2.6/12.2.8)";
 
-Wording AxialMomentWording(const GoverningSection& s, const AxisTerms& t) {
-  const std::string M = std::string("M") + t.axis;
+const char* WordAxialMoment(const GoverningSection& s, const AxisTerms& t, CheckLine& line) {
   const bool sheared = t.Sheared();
-  const char* reference = sheared ? kAxialShearRef : kAxialRef;
-  const std::string label = "N+" + M + ":";
+  Compose(line.label, "N+M", t.axis, ':');
   if (s.exact) {
-    return {label, "IR = " + M + (sheared ? "/Mvnd" : "/Mnd") + t.axis + " = ",
-            Fraction(t.M, t.Mvnd) + " = ", reference};
+    Compose(line.formula, "IR = M", t.axis, sheared ? "/Mvnd" : "/Mnd", t.axis, " = ");
+    Compose(line.numbers, Fraction{t.M, t.Mvnd}, " = ");
+  } else {
+    Compose(line.formula, "IR = N/Nd+M", t.axis, sheared ? "/Mvd" : "/Md", t.axis, " = ");
+    Compose(line.numbers, Fraction{s.N, s.Nd}, " + ", Fraction{t.M, t.Mvd}, " = ");
   }
-  return {label, "IR = N/Nd+" + M + (sheared ? "/Mvd" : "/Md") + t.axis + " = ",
-          Fraction(s.N, s.Nd) + " + " + Fraction(t.M, t.Mvd) + " = ", reference};
+  return sheared ? kAxialShearRef : kAxialRef;
 }
 
-Wording AxialBiaxialWording(const GoverningSection& s, SectionControlKind kind) {
+const char* WordAxialBiaxial(const GoverningSection& s, SectionControlKind kind, CheckLine& line) {
   const bool shearedZ = s.Vz > 0.5 * s.Vdz;
   const bool shearedY = s.Vy > 0.5 * s.Vdy;
-  const char* reference = shearedZ || shearedY ? kAxialShearRef : kAxialRef;
-  if (!s.exact) {
-    return {"N+My+Mz:",
-            std::string(shearedZ ? "IR = N/Nd+My/Mvdy" : "IR = N/Nd+My/Mdy") +
-                (shearedY ? "+Mz/Mvdz = " : "+Mz/Mdz = "),
-            Fraction(s.N, s.Nd) + " + " + Fraction(s.My, s.Mvdy) + " + " + Fraction(s.Mz, s.Mvdz) +
-                " = ",
-            reference};
+  const bool closed = IsClosed(kind);
+  line.label = "N+My+Mz:";
+  if (s.exact) {
+    const char open = closed ? '[' : '(';
+    const char* const close = closed ? "]^" : ")^";
+    Compose(line.formula, shearedZ ? "IR = (My/Mvndy)^alfa " : "IR = (My/Mndy)^alfa ",
+            shearedY ? " + (Mz/Mvndz)^beta = " : " + (Mz/Mndz)^beta = ");
+    Compose(line.numbers, RaisedTerm{open, {s.My, s.Mvndy}, close, closed ? s.alfa : 2.0}, " + ",
+            RaisedTerm{open, {s.Mz, s.Mvndz}, close, s.beta}, " = ");
+  } else {
+    Compose(line.formula, shearedZ ? "IR = N/Nd+My/Mvdy" : "IR = N/Nd+My/Mdy",
+            shearedY ? "+Mz/Mvdz = " : "+Mz/Mdz = ");
+    Compose(line.numbers, Fraction{s.N, s.Nd}, " + ", Fraction{s.My, s.Mvdy}, " + ",
+            Fraction{s.Mz, s.Mvdz}, " = ");
   }
-  const std::string numbers = IsClosed(kind)
-                                  ? "[" + Fraction(s.My, s.Mvndy) + "]^" + F2(s.alfa) + " + [" +
-                                        Fraction(s.Mz, s.Mvndz) + "]^" + F2(s.beta) + " = "
-                                  : "(" + Fraction(s.My, s.Mvndy) + ")^2.00 + (" +
-                                        Fraction(s.Mz, s.Mvndz) + ")^" + F2(s.beta) + " = ";
-  return {"N+My+Mz:",
-          std::string(shearedZ ? "IR = (My/Mvndy)^alfa " : "IR = (My/Mndy)^alfa ") +
-              (shearedY ? " + (Mz/Mvndz)^beta = " : " + (Mz/Mndz)^beta = "),
-          numbers, reference};
+  return shearedZ || shearedY ? kAxialShearRef : kAxialRef;
 }
 
 /// An angle's line, put together from the terms that act.
-Wording AngleWording(const GoverningSection& s) {
-  Wording w{"", "IR =", "", "L; Ch 12.2.3.1)"};
-  const auto term = [&w](const std::string& text) {
-    w.numbers += w.numbers.empty() ? text : " + " + text;
+const char* WordAngle(const GoverningSection& s, CheckLine& line) {
+  line.label.clear();
+  line.formula = "IR =";
+  line.numbers.clear();
+  const auto term = [&](const char* label, const char* formula, const Fraction& fraction) {
+    line.label += label;
+    line.formula += formula;
+    if (!line.numbers.empty()) line.numbers += " + ";
+    Append(line.numbers, fraction);
   };
-  if (s.N != 0) {
-    w.label = "N";
-    w.formula += s.N > 0 ? " N/Ncd " : " N/Ntd ";
-    term(Fraction(s.N, s.Nd));
-  }
-  if (s.My != 0) {
-    w.label += s.N != 0 ? "+Mu" : "Mu";
-    w.formula += "Msud/Mrud";
-    term(Fraction(s.My, s.Mvdy));
-  }
-  if (s.Mz != 0) {
-    w.label += "+Mv";
-    w.formula += "+Msvd/Mrvd";
-    term(Fraction(s.Mz, s.Mvdz));
-  }
-  w.label += ":";
-  w.formula += " = ";
-  w.numbers += " = ";
-  return w;
+  if (s.N != 0) term("N", s.N > 0 ? " N/Ncd " : " N/Ntd ", {s.N, s.Nd});
+  if (s.My != 0) term(s.N != 0 ? "+Mu" : "Mu", "Msud/Mrud", {s.My, s.Mvdy});
+  if (s.Mz != 0) term("+Mv", "+Msvd/Mrvd", {s.Mz, s.Mvdz});
+  line.label += ':';
+  line.formula += " = ";
+  line.numbers += " = ";
+  return "L; Ch 12.2.3.1)";
 }
 
-Wording SectionWording(const GoverningSection& s, SectionControlKind kind) {
+const char* WordSection(const GoverningSection& s, SectionControlKind kind, CheckLine& line) {
   switch (s.term) {
     case Term::N:
-      return AxialWording(s, kind);
+      return WordAxial(s, kind, line);
     case Term::My:
-      return MomentWording(AboutY(s), kind);
+      return WordMoment(AboutY(s), kind, line);
     case Term::Mz:
-      return MomentWording(AboutZ(s), kind);
+      return WordMoment(AboutZ(s), kind, line);
     case Term::MyMz:
-      return BiaxialWording(s, kind);
+      return WordBiaxial(s, kind, line);
     case Term::NMy:
-      return AxialMomentWording(s, AboutY(s));
+      return WordAxialMoment(s, AboutY(s), line);
     case Term::NMz:
-      return AxialMomentWording(s, AboutZ(s));
+      return WordAxialMoment(s, AboutZ(s), line);
     case Term::NMyMz:
-      return AxialBiaxialWording(s, kind);
+      return WordAxialBiaxial(s, kind, line);
     default:
-      return AngleWording(s);
+      return WordAngle(s, line);
   }
 }
 
@@ -205,24 +220,34 @@ void ComposeSection(const Family& family, const ProjectState& st, const LtbResul
   const double iufa = st.iufa;
   const GoverningSection& s = out.section;
   if (s.term != Term::None) {
-    Wording w = SectionWording(s, family.routines.sectionControl);
-    SetLine(out.lineSection, std::move(w.label), std::move(w.formula), std::move(w.numbers),
-            out.IRsection, PointLimit(iufa, s.x, w.reference), CheckColour(out.IRsection, iufa));
+    CheckLine& line = out.lineSection;
+    const char* const reference = WordSection(s, family.routines.sectionControl, line);
+    SetValue(line, out.IRsection, CheckColour(out.IRsection, iufa));
+    SetPointLimit(line, iufa, s.x, reference);
   }
-  const auto shear = [iufa](CheckLine& line, const GoverningForce& g, const char* label,
-                            const char* formula) {
+  const auto force = [](CheckLine& line, const GoverningForce& g, const char* label,
+                        const char* formula, double ir) {
+    line.label = label;
+    line.formula = formula;
+    Compose(line.numbers, Fraction{g.S, g.Sd}, " = ");
+    SetValue(line, ir, g.fails ? 4 : 2);
+  };
+  const auto shear = [&](CheckLine& line, const GoverningForce& g, const char* label,
+                         const char* formula) {
     if (!g.set) return;
-    SetLine(line, label, formula, Fraction(g.S, g.Sd) + " = ", g.S / g.Sd,
-            PointLimit(iufa, g.x, "L; Ch 12.2.5)"), g.fails ? 4 : 2);
+    force(line, g, label, formula, g.S / g.Sd);
+    SetPointLimit(line, iufa, g.x, "L; Ch 12.2.5)");
   };
   shear(out.lineVz, out.Vz, "Vz:", "IR = Vz/Vdz = ");
   shear(out.lineVy, out.Vy, "Vy:", "IR = Vy/Vdy = ");
   if (out.lateral.set) {
-    const std::string where =
-        st.LtbSegments == 0 ? " (Ch 12.3.4.1)" : " (" + ltb.LtbSegmentText + ";  (Ch 12.3.4.1))";
-    SetLine(out.lineLateral,
-            "Lateral:", "IR = My/Mdb = ", Fraction(out.lateral.S, out.lateral.Sd) + " = ",
-            out.IRlateral, "  <  " + F2(iufa) + where, out.lateral.fails ? 4 : 2);
+    force(out.lineLateral, out.lateral, "Lateral:", "IR = My/Mdb = ", out.IRlateral);
+    if (st.LtbSegments == 0) {
+      Compose(out.lineLateral.limit, "  <  ", F2(iufa), " (Ch 12.3.4.1)");
+    } else {
+      Compose(out.lineLateral.limit, "  <  ", F2(iufa), " (", ltb.LtbSegmentText,
+              ";  (Ch 12.3.4.1))");
+    }
   }
 }
 
@@ -238,89 +263,98 @@ struct BucklingNumbers {
   BucklingKind kind;
 
   /// N "/(" X "*" Ncrd ")".
-  std::string Axial(double X) const { return F1(N) + "/(" + F2(X) + "*" + F1(rec.Ncrd) + ")"; }
-  static std::string Term(double k, double M, double Md) {
-    return " + " + F2(k) + "*" + Fraction(M, Md);
+  void SetAxial(CheckLine& line, double X) const {
+    Compose(line.numbers, F1(N), "/(", F2(X), '*', F1(rec.Ncrd), ')');
   }
-  std::string Limit(const char* clause) const { return "  <  " + F2(st.iufa) + clause; }
-  int Colour(double ir) const { return CheckColour(ir, st.iufa); }
+  /// Value and limit, and the signs of equality before them.
+  void Finish(CheckLine& line, double ir, const char* clause,
+              const char* compared = "  <  ") const {
+    line.numbers += " = ";
+    SetValue(line, ir, CheckColour(ir, st.iufa));
+    Compose(line.limit, compared, F2(st.iufa), clause);
+  }
 };
 
 constexpr const char* kPureClause = " (Ch 12.3.2.1)";
 constexpr const char* kCombinedClause = " (Ch 12.3.4.2)";
 
+struct PureWords {
+  const char *label, *formula;
+};
+PureWords WordsOf(BucklingText text) {
+  switch (text) {
+    case BucklingText::PureZ:
+      return {"Nz:", "IR = Nf/(Xz*Nd) = "};
+    case BucklingText::PureU:
+      return {"Nu:", "IR = N/(Xu*Ncd) = "};
+    case BucklingText::PureV:
+      return {"Nv:", "IR = N/(Xv*Nd) = "};
+    default:
+      return {"Ny:", "IR = Nf/(Xy*Nd) = "};
+  }
+}
+
 void ComposePure(const BucklingNumbers& n, BucklingText text, CheckLine& line) {
   const bool first = text == BucklingText::PureY || text == BucklingText::PureU;
-  const double X = first ? n.b.Xy : n.b.Xz;
-  const double ir = first ? n.out.IRny : n.out.IRnz;
-  std::string limit = n.Limit(kPureClause);
+  const PureWords words = WordsOf(text);
+  line.label = words.label;
+  line.formula = words.formula;
+  n.SetAxial(line, first ? n.b.Xy : n.b.Xz);
   // Tubes, T sections and angles print the limit of the second axis without its "<", T sections
   // the first without the figure.
-  if (first && n.kind == BucklingKind::T) {
-    limit = std::string(" ") + kPureClause;
-  } else if (!first && (n.kind == BucklingKind::T || n.kind == BucklingKind::Tube ||
-                        n.kind == BucklingKind::Angle)) {
-    limit = " " + F2(n.st.iufa) + kPureClause;
-  }
-  const char* label = "Ny:";
-  const char* formula = "IR = Nf/(Xy*Nd) = ";
-  if (text == BucklingText::PureZ) {
-    label = "Nz:";
-    formula = "IR = Nf/(Xz*Nd) = ";
-  } else if (text == BucklingText::PureU) {
-    label = "Nu:";
-    formula = "IR = N/(Xu*Ncd) = ";
-  } else if (text == BucklingText::PureV) {
-    label = "Nv:";
-    formula = "IR = N/(Xv*Nd) = ";
-  }
-  SetLine(line, label, formula, n.Axial(X) + " = ", ir, std::move(limit), n.Colour(ir));
+  const bool bare = !first && (n.kind == BucklingKind::T || n.kind == BucklingKind::Tube ||
+                               n.kind == BucklingKind::Angle);
+  n.Finish(line, first ? n.out.IRny : n.out.IRnz, kPureClause, bare ? " " : "  <  ");
+  if (first && n.kind == BucklingKind::T) Compose(line.limit, ' ', kPureClause);
 }
 
 void ComposeCombined(const BucklingNumbers& n, CheckLine& line) {
   const bool angle = n.kind == BucklingKind::Angle;
   const double first = angle ? n.out.Mu : double(n.beam.MyAbsMax);
   const double second = angle ? n.out.Mv : double(n.beam.MzAbsMax);
-  std::string formula = "IR = N/(Xmin*Nd) ";
-  std::string numbers = n.Axial(n.b.Xmin);
+  line.label = angle ? "N+Mu+Mv:" : "N+My+Mz:";
+  line.formula = "IR = N/(Xmin*Nd) ";
+  n.SetAxial(line, n.b.Xmin);
   if (first != 0) {
-    formula += angle ? " + ku*Mu/Mud " : " + ky*My/Mdy ";
-    numbers += BucklingNumbers::Term(n.b.ky, first, angle ? n.out.Mud : double(n.rec.Mdy));
+    line.formula += angle ? " + ku*Mu/Mud " : " + ky*My/Mdy ";
+    Append(line.numbers, FactoredTerm{n.b.ky, first, angle ? n.out.Mud : double(n.rec.Mdy)});
   }
   if (second != 0) {
-    formula += angle ? " +  kv*Mv/Mvd " : " +  kz*Mz/Mdz ";
-    numbers += BucklingNumbers::Term(n.b.kz, second, angle ? n.out.Mvd : double(n.rec.Mdz));
+    line.formula += angle ? " +  kv*Mv/Mvd " : " +  kz*Mz/Mdz ";
+    Append(line.numbers, FactoredTerm{n.b.kz, second, angle ? n.out.Mvd : double(n.rec.Mdz)});
   }
+  line.formula += " = ";
   const bool inZ = angle || n.kind == BucklingKind::Tube;
-  const double ir = inZ ? n.out.IRcombinedZ : n.out.IRcombinedY;
-  SetLine(line, angle ? "N+Mu+Mv:" : "N+My+Mz:", formula + " = ", numbers + " = ", ir,
-          n.Limit(kCombinedClause), n.Colour(ir));
+  n.Finish(line, inZ ? n.out.IRcombinedZ : n.out.IRcombinedY, kCombinedClause);
 }
 
 void ComposeLateral(const BucklingNumbers& n, bool single, CheckLine& line) {
-  std::string formula = "IR = N/(Xz*Nd) + klt*My/Mdy/Xlt ";
-  std::string numbers = n.Axial(n.b.Xz) +
-                        BucklingNumbers::Term(n.b.klt, n.beam.MyAbsMax, n.rec.Mdy) + "/" +
-                        F2(n.Xlt);
+  line.label = single ? "N+My:" : "N+My+Mz:";
+  line.formula = "IR = N/(Xz*Nd) + klt*My/Mdy/Xlt ";
+  n.SetAxial(line, n.b.Xz);
+  Append(line.numbers, FactoredTerm{n.b.klt, n.beam.MyAbsMax, n.rec.Mdy});
+  line.numbers += '/';
+  korvane::Append(line.numbers, F2(n.Xlt));
   if (!single && n.beam.MzAbsMax != 0) {
-    formula += " +  kz*Mz/Mdz ";
-    numbers += BucklingNumbers::Term(n.b.kz, n.beam.MzAbsMax, n.rec.Mdz);
+    line.formula += " +  kz*Mz/Mdz ";
+    Append(line.numbers, FactoredTerm{n.b.kz, n.beam.MzAbsMax, n.rec.Mdz});
   }
-  SetLine(line, single ? "N+My:" : "N+My+Mz:", formula + " = ", numbers + " = ", n.out.IRcombinedZ,
-          n.Limit(kCombinedClause), n.Colour(n.out.IRcombinedZ));
+  line.formula += " = ";
+  n.Finish(line, n.out.IRcombinedZ, kCombinedClause);
 }
 
 void ComposeSingleCombined(const BucklingNumbers& n, CheckLine& line) {
-  SetLine(line, "N+My:", "IR = N/(Xmin*Nd)  + ky*My/Mdy  = ",
-          n.Axial(n.b.Xmin) + BucklingNumbers::Term(n.b.ky, n.beam.MyAbsMax, n.rec.Mdy) + " = ",
-          n.out.IRcombinedY, n.Limit(kCombinedClause), n.Colour(n.out.IRcombinedY));
+  line.label = "N+My:";
+  line.formula = "IR = N/(Xmin*Nd)  + ky*My/Mdy  = ";
+  n.SetAxial(line, n.b.Xmin);
+  Append(line.numbers, FactoredTerm{n.b.ky, n.beam.MyAbsMax, n.rec.Mdy});
+  n.Finish(line, n.out.IRcombinedY, kCombinedClause);
 }
 
 void ComposeBuckling(const BucklingNumbers& n, BucklingText text, CheckLine& line) {
-  line = {};
   switch (text) {
     case BucklingText::None:
-      return;
+      return Clear(line);
     case BucklingText::Combined:
     case BucklingText::CombinedAngle:
       return ComposeCombined(n, line);
@@ -340,14 +374,14 @@ void ComposeBuckling(const BucklingNumbers& n, BucklingText text, CheckLine& lin
 void ComposeLines(const Family* family, const ProjectState& st, const SectionRecord& rec,
                   const SectionForces& f, const BeamResults& beam, const LtbResults& ltb,
                   const BucklingResults& b, CheckResults& out) {
-  out.lineSection = {};
-  out.lineVz = {};
-  out.lineVy = {};
-  out.lineLateral = {};
+  Clear(out.lineSection);
+  Clear(out.lineVz);
+  Clear(out.lineVy);
+  Clear(out.lineLateral);
   if (family == nullptr || family->routines.sectionControl == SectionControlKind::None) {
-    out.lineBucklingY = {};
-    out.lineBucklingZ = {};
-    out.lineSlenderness = {};
+    Clear(out.lineBucklingY);
+    Clear(out.lineBucklingZ);
+    Clear(out.lineSlenderness);
     return;
   }
   ComposeSection(*family, st, ltb, out);
@@ -356,7 +390,7 @@ void ComposeLines(const Family* family, const ProjectState& st, const SectionRec
       st, rec, beam, b, out, f.N, LateralReduction(st, ltb), family->routines.buckling};
   ComposeBuckling(n, out.textY, out.lineBucklingY);
   ComposeBuckling(n, out.textZ, out.lineBucklingZ);
-  out.lineSlenderness = {};
+  Clear(out.lineSlenderness);
   if (out.slenderness) {
     const bool angle = family->routines.buckling == BucklingKind::Angle;
     out.lineSlenderness.label = angle ? "Slenderness: U/V-axis: " : "Slenderness: Y/Z-axis: ";

@@ -13,7 +13,9 @@ namespace {
 
 constexpr double kPi2 = kPiSingle * kPiSingle;
 
-/// A set of C factors that falls linearly with t = (1 - k)/0.5.
+/// A set of C factors that falls linearly with t = (1 - k)/0.5: between the values for k = 1 and
+/// k = 0.5 of a member under a spread load or a point load at mid-span, with pinned or fixed ends
+/// (ENV 1993-1-1, Annex F, Table F.1.2).
 struct CSet {
   double C1, C1t, C2, C2t, C3, C3t;
 };
@@ -41,6 +43,7 @@ double MiddleMoment(const PlaneForces& z) {
   return Mx;
 }
 
+/// C factors under end moments (ENV 1993-1-1, Annex F, Table F.1.1), by their ratio r.
 /// Reference value and slope of C1 and C3 for k = 1, 0.7, 0.5; a row holds from r = lower on.
 struct SegmentRow {
   double lower;
@@ -82,24 +85,6 @@ double CriticalMoment(const ProjectState& st, const SectionRecord& rec, double C
   return C1 * kPi2 * st.E * rec.Iz / (Lmm * Lmm) * (std::sqrt(B + D * D) - D);
 }
 
-/// Reduction of a plate carried family whose stiffener is compressed, from the stress sigma.
-double PlateReduction(LateralMethod method, const ProjectState& st, const SectionRecord& rec,
-                      double Lmm, LtbResults& ltb) {
-  const double G = st.E / 2.6;
-  double sigma = 0;
-  if (method == LateralMethod::FlatStiffener) {
-    sigma = (2 * std::pow(rec.h / Lmm, 2) + 1) * G * std::pow(rec.tw / rec.h, 2);
-  } else {
-    const double torsion = (std::pow(rec.tf2 / rec.tw, 2) * rec.Afc + rec.Afw) * G *
-                           std::pow(rec.tw / (rec.h - rec.tf), 2) / (3 * rec.Afc + rec.Afw);
-    sigma = torsion + kPi2 * st.E * rec.Iz / (rec.Afw / 3 + rec.Afc) / (Lmm * Lmm);
-  }
-  ltb.lamLT = std::sqrt(st.fyk / sigma);
-  const double lam = ltb.lamLT;
-  const double a = 1 + (lam - 0.6) * 0.35 + lam * lam;
-  return lam <= 0.6 ? 1 : (a - std::sqrt(a * a - 4 * lam * lam)) / (2 * lam * lam);
-}
-
 /// Moment signs that select the side of an asymmetric section.
 struct Signs {
   bool topCompressed;  ///< singly symmetric I: the top flange is compressed
@@ -111,24 +96,42 @@ struct Segment {
   double Lmm, alpha;
 };
 
-/// Mcr, lamLT, chiLT of the segment and the level term C2*zg; returns the design moment in
-/// kNm.
-double DesignMoment(const LateralRule& rule, const ProjectState& st, const SectionRecord& rec,
-                    double level, const Signs& signs, const Segment& segment, LtbResults& ltb) {
-  double w = rec.betay;
+/// Mcr, lamLT, chiLT of the segment and the level term C2*zg, with the way there; Mdb in kNm.
+LtbSegmentResult DesignMoment(const LateralRule& rule, const ProjectState& st,
+                              const SectionRecord& rec, double level, const Signs& signs,
+                              const Segment& segment, LtbResults& ltb) {
+  LtbSegmentResult s;
+  s.C1 = ltb.C1;
+  s.C3 = ltb.C3;
+  s.beta = rec.betay;
   if (IsPlate(rule.method)) {
-    w = signs.plateOnly ? rec.betaTop : rec.betaBottom;
-    ltb.chiLT = signs.plateOnly ? 1.0 : PlateReduction(rule.method, st, rec, segment.Lmm, ltb);
-    return MomentOf(st, ltb.chiLT * w * rec.Wply);
+    s.beta = signs.plateOnly ? rec.betaTop : rec.betaBottom;
+    ltb.chiLT = 1;
+    if (!signs.plateOnly) {
+      const PlateReduced reduced = PlateReduction(rule.method, st, rec, segment.Lmm);
+      ltb.lamLT = reduced.lamLT;
+      ltb.chiLT = reduced.chiLT;
+      s.sigma = reduced.sigma;
+      s.lamLT = ltb.lamLT;
+    }
+    s.chiLT = ltb.chiLT;
+    s.Mdb = MomentOf(st, s.chiLT * s.beta * rec.Wply);
+    return s;
   }
   if (rule.method == LateralMethod::SinglySymmetric) {
-    w = signs.topCompressed ? rec.betaTop : rec.betaBottom;
+    s.beta = signs.topCompressed ? rec.betaTop : rec.betaBottom;
     level -= ltb.C3 * (signs.topCompressed ? rec.zjTop : rec.zjBottom);
   }
   ltb.Mcr = CriticalMoment(st, rec, ltb.C1, level, segment.Lmm);
-  ltb.lamLT = std::sqrt(w * rec.Wply * st.fyk / ltb.Mcr);
+  ltb.lamLT = std::sqrt(s.beta * rec.Wply * st.fyk / ltb.Mcr);
   ltb.chiLT = Reduction(ltb.lamLT, segment.alpha);
-  return MomentOf(st, ltb.chiLT * w * rec.Wply);
+  s.alfa = segment.alpha;
+  s.D = level;
+  s.Mcr = ltb.Mcr;
+  s.lamLT = ltb.lamLT;
+  s.chiLT = ltb.chiLT;
+  s.Mdb = MomentOf(st, s.chiLT * s.beta * rec.Wply);
+  return s;
 }
 
 void ClassifyFor(const Family& family, const ProjectState& st, double My, SectionForces& f,
@@ -184,8 +187,12 @@ void LtbNoRestraints(const Family& family, ProjectState& st, SectionForces& f, S
   }
   ltb.Lk = st.L * st.k_ltb;
   const Signs signs{middle > 0, middle >= 0 && z.M_q[0] >= 0 && z.M_q[4] >= 0};
-  ltb.Mdb = DesignMoment(family.lateral, st, rec, ltb.C2 * ltb.zg, signs,
-                         {ltb.Lk * 1000, family.lateral.alpha}, ltb);
+  ltb.governing = DesignMoment(family.lateral, st, rec, ltb.C2 * ltb.zg, signs,
+                               {ltb.Lk * 1000, family.lateral.alpha}, ltb);
+  ltb.governing.M1 = z.M[0];
+  ltb.governing.M2 = z.M[50];
+  ltb.least = ltb.governing;
+  ltb.Mdb = ltb.governing.Mdb;
   ltb.Mdb_min = ltb.Mdb;
   ltb.chiLT_min = ltb.chiLT;
   if (st.LateralTorsionalBuckling == 0) {
@@ -221,6 +228,8 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
   ltb.Mdb_min = 1E16;
   ltb.chiLT_min = 1;
   ltb.C2 = 0;
+  ltb.governing = {};
+  ltb.least = {};
   ltb.Lk = st.k_ltb * st.L / (n + 1);
   double worst = 0;
   double C1 = 0;
@@ -241,8 +250,12 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
     ltb.C3 = c.C3;
     ClassifyFor(family, st, (M1 + M2) / 2, f, rec);
     const Signs signs{(M1 + M2) / 2 > 0, M1 >= 0 && M2 >= 0};
-    const double Mseg = DesignMoment(family.lateral, st, rec, 0, signs,
-                                     {ltb.Lk * 1000, family.lateral.alphaRestrained}, ltb);
+    LtbSegmentResult segment = DesignMoment(family.lateral, st, rec, 0, signs,
+                                            {ltb.Lk * 1000, family.lateral.alphaRestrained}, ltb);
+    segment.segment = g;
+    segment.M1 = M1;
+    segment.M2 = M2;
+    const double Mseg = segment.Mdb;
     const double Ms = SegmentMoment(M, i1, i2, IsPlate(family.lateral.method));
     const double ratio = std::fabs(Ms / Mseg);
     if (ratio >= worst) {  // a later segment wins a tie
@@ -252,10 +265,12 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
       C1 = c.C1;
       C3 = c.C3;
       st.LtbCriticalSegment = g;
+      ltb.governing = segment;
     }
     if (ltb.chiLT <= ltb.chiLT_min) {
       ltb.chiLT_min = ltb.chiLT;
       ltb.Mdb_min = Mseg;
+      ltb.least = segment;
     }
   }
   ltb.C1 = C1;
@@ -264,6 +279,22 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
 }
 
 }  // namespace
+
+PlateReduced PlateReduction(LateralMethod method, const ProjectState& st, const SectionRecord& rec,
+                            double Lmm) {
+  const double G = st.E / 2.6;
+  double sigma = 0;
+  if (method == LateralMethod::FlatStiffener) {
+    sigma = (2 * std::pow(rec.h / Lmm, 2) + 1) * G * std::pow(rec.tw / rec.h, 2);
+  } else {
+    const double torsion = (std::pow(rec.tf2 / rec.tw, 2) * rec.Afc + rec.Afw) * G *
+                           std::pow(rec.tw / (rec.h - rec.tf), 2) / (3 * rec.Afc + rec.Afw);
+    sigma = torsion + kPi2 * st.E * rec.Iz / (rec.Afw / 3 + rec.Afc) / (Lmm * Lmm);
+  }
+  const double lam = number(std::sqrt(st.fyk / sigma));
+  const double a = 1 + (lam - 0.6) * 0.35 + lam * lam;
+  return {sigma, lam, lam <= 0.6 ? 1 : (a - std::sqrt(a * a - 4 * lam * lam)) / (2 * lam * lam)};
+}
 
 SegmentFactors FactorsOfSegment(double r, double k) {
   std::size_t row = 0;

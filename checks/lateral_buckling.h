@@ -22,6 +22,14 @@ struct SegmentFactors {
 };
 SegmentFactors FactorsOfSegment(double r, double k);
 
+/// Stress (MPa), slenderness and reduction of a plate carried stiffener that is compressed, over
+/// the length in mm; reads the record's h, tw, tf, tf2, Afc, Afw and Iz. Throws ArithmeticFault.
+struct PlateReduced {
+  double sigma, lamLT, chiLT;
+};
+PlateReduced PlateReduction(LateralMethod method, const ProjectState& st, const SectionRecord& rec,
+                            double Lmm);
+
 /// C1, C2, C3 of one shape of the moment diagram.
 struct CFactors {
   double C1 = 0, C2 = 0, C3 = 0;

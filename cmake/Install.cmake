@@ -1,6 +1,4 @@
 # What is installed, and the Debian package.
-include(GNUInstallDirs)
-
 install(TARGETS korvane-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 file(GLOB KORVANE_DATA_FILES ${CMAKE_SOURCE_DIR}/data/*.dat)
 install(FILES ${KORVANE_DATA_FILES} DESTINATION ${CMAKE_INSTALL_DATADIR}/korvane)
@@ -8,7 +6,7 @@ file(GLOB KORVANE_EXAMPLES ${CMAKE_SOURCE_DIR}/examples/*.kvn)
 install(FILES ${KORVANE_EXAMPLES} DESTINATION ${CMAKE_INSTALL_DATADIR}/korvane/examples)
 install(FILES packaging/korvane-cli.bash-completion
   DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME korvane-cli)
-install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES packaging/copyright docs/VERIFICATION.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # Debian wants manual pages and the changelog compressed.
 find_program(GZIP gzip REQUIRED)
@@ -39,8 +37,7 @@ if(TARGET korvane)
     RENAME korvane.xml)
   install(FILES packaging/org.korvane.Korvane.metainfo.xml
     DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-  install(FILES packaging/icons/korvane.svg
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+  include(cmake/Icons.cmake)
 endif()
 
 set(CPACK_GENERATOR DEB)
@@ -49,9 +46,9 @@ set(CPACK_PACKAGE_CONTACT "KORVANE <maintainers@korvane.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "design of one steel member to NS 3472")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "KORVANE designs one steel member, a column or a beam, to NS 3472, 3rd
- edition: internal forces, section class and capacities, section control,
- buckling and lateral torsional buckling control, deflections and natural
- frequencies, from a window, a script or a batch.")
+edition: internal forces, section class and capacities, section control,
+buckling and lateral torsional buckling control, deflections and natural
+frequencies, from a window, a script or a batch.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)

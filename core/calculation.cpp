@@ -6,6 +6,7 @@
 #include "checks/compose.h"
 #include "checks/lateral_buckling.h"
 #include "checks/section_control.h"
+#include "core/calculation_history.h"
 #include "core/supports.h"
 #include "sections/profile_table.h"
 
@@ -55,6 +56,7 @@ void ComputeSection(Design& d) {
     RunStep("LateralTorsionalBuckling",
             [&] { LateralTorsionalStep(*family, st, d.forces, rec, d.beam, d.ltb); });
   } else {
+    if (st.LateralTorsionalBuckling != 0) d.history.ltbOffBy = st.ProfileType;
     st.LateralTorsionalBuckling = 0;
     st.LtbSegments = 0;
   }
@@ -84,8 +86,10 @@ void RunChecks(Design& d) {
     d.forces.Vy = 0;
     d.forces.Vz = 0;
   }
+  const int lateral = d.st.LateralTorsionalBuckling;
   RunStep("SectionControl",
           [&] { SectionControl(*family, d.st, d.beam, d.ltb, d.forces, d.rec, c); });
+  if (lateral != 0 && d.st.LateralTorsionalBuckling == 0) d.history.ltbOffBy = family->code;
   if (d.forces.N > 0 && family->routines.buckling != BucklingKind::None) {
     RunStep("BucklingControl",
             [&] { BucklingControl(*family, d.st, d.beam, d.ltb, d.forces, d.rec, d.buckling, c); });
@@ -96,7 +100,7 @@ void RunChecks(Design& d) {
 
 void Deflect(Design& d) {
   if (d.st.AnalysisMode != 1) {
-    d.deflections.DeflStiff = 0;
+    d.deflections = {};
     return;
   }
   RunStep("Deflections", [&] {
@@ -137,9 +141,9 @@ void StartDesign(Design& d) {
   }
 }
 
-void Calculate(Design& d) {
-  d.st.OptimiseOpen = 0;
-  d.st.ResultView = 3;
+namespace {
+
+void RunCalculation(Design& d) {
   Analyse(d);
   ComputeSection(d);
   RunChecks(d);
@@ -149,6 +153,22 @@ void Calculate(Design& d) {
   }
   ComposeResults(d);
   RefreshState(d.st);
+}
+
+}  // namespace
+
+void Calculate(Design& d) {
+  d.st.OptimiseOpen = 0;
+  d.st.ResultView = 3;
+  const bool removes = BeginHistory(d);
+  try {
+    RunCalculation(d);
+  } catch (const CalculationFault& fault) {
+    d.history.stoppedIn = fault.Step();
+    throw;
+  }
+  RememberOrigins(d);
+  if (removes) d.history.afterRemoval = std::make_shared<const ProjectState>(d.st);
 }
 
 void ComposeResults(Design& d) {

@@ -12,7 +12,9 @@
 #include "analysis/loads.h"
 #include "analysis/modal.h"
 #include "checks/check_line.h"
+#include "checks/history.h"
 #include "checks/results.h"
+#include "checks/verdict.h"
 #include "core/project_state.h"
 #include "core/setupbas.h"
 #include "sections/readprofiles.h"
@@ -60,6 +62,8 @@ struct Design {
   /// Messages that came up during the calculation, for a message box; the owner shows and
   /// clears them.
   std::vector<std::string> messages;
+  /// What the calculations did that their numbers don't show.
+  History history;
 };
 
 /// The start sequence without the window: new project, defaults file of the library's folder,
@@ -70,6 +74,17 @@ void StartDesign(Design& design);
 /// One whole calculation from the state to the composed result lines. Throws CalculationFault
 /// where a step fails; results stay as far as the calculation had got.
 void Calculate(Design& design);
+
+/// The verdict on the last calculation; changes nothing. Whoever shows a result asks for it.
+Verdict VerdictOf(const Design& design);
+
+/// Another input is in force: what calculations did to the former one is forgotten. To be called
+/// after a project was opened or begun.
+void ForgetFormerInput(Design& design);
+
+/// Keeps of which section the record's fields, klt and the buckling curves are. Calculate does it;
+/// for whoever leaves a silent calculation in force.
+void RememberOrigins(Design& design);
 
 /// Composes the result lines from the numbers of the last calculation, silent ones too.
 void ComposeResults(Design& design);

@@ -119,6 +119,7 @@ public:
   constexpr auto begin() const { return values_.begin(); }
   constexpr auto end() const { return values_.end(); }
   constexpr int size() const { return Last - First + 1; }
+  friend constexpr bool operator==(const Indexed&, const Indexed&) = default;
 
 private:
   static constexpr std::size_t Slot(int i) {

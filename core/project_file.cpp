@@ -222,6 +222,8 @@ FileResult ReadProject(std::string_view bytes, ProjectState& st) {
     return FileResult::OtherError;
   }
   if (reader.Old()) SetFieldsOfNoOldFile(st);
+  // The file knows no other length factor than its own.
+  st.k_ltb_before = ProjectState().k_ltb_before;
   return FileResult::Ok;
 }
 
@@ -239,10 +241,8 @@ FileResult OpenProject(const std::string& path, ProjectState& st) {
   return ReadProject(*bytes, st);
 }
 
-FileResult SaveProject(const std::string& path, const ProjectState& st) {
-  bool notFound = false;
-  if (WriteFileAtomically(path, ProjectText(st), &notFound)) return FileResult::Ok;
-  return notFound ? FileResult::NotFound : FileResult::OtherError;
+WriteResult SaveProject(const std::string& path, const ProjectState& st, const WriteRules& rules) {
+  return WriteFile(path, ProjectText(st), rules);
 }
 
 }  // namespace korvane

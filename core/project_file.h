@@ -5,16 +5,17 @@
 #include <string>
 #include <string_view>
 
+#include "core/files.h"
 #include "core/project_state.h"
 
 namespace korvane {
 
-/// What came of reading or writing a file.
+/// What came of reading a file.
 enum class FileResult {
   Ok,
-  NotFound,    ///< no such file, or no folder to write in
+  NotFound,    ///< no such file
   TooShort,    ///< past the end of the file: not compatible with this version
-  OtherError,  ///< anything else (an int beyond 16 bits, a read error, a full disk)
+  OtherError,  ///< anything else (an int beyond 16 bits, a read error)
 };
 
 /// Reads a project from the text of a file: versions above 260 in the current sequence, others
@@ -28,8 +29,8 @@ std::string ProjectText(const ProjectState& st);
 /// ReadProject on the file's content.
 FileResult OpenProject(const std::string& path, ProjectState& st);
 
-/// Writes the project beside the target, flushes it and renames it over the target: a failure
-/// leaves the old file as it was.
-FileResult SaveProject(const std::string& path, const ProjectState& st);
+/// Writes the project as WriteFile does: a failure leaves the old file as it was.
+WriteResult SaveProject(const std::string& path, const ProjectState& st,
+                        const WriteRules& rules = {});
 
 }  // namespace korvane

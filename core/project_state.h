@@ -252,10 +252,13 @@ struct ProjectState {
   int16 p103_idx2 = 0;               ///< row
 
   // Transient, not saved
+  float32 k_ltb_before = 1.0;  ///< k_ltb in force before the check was switched off
   int16 OptimiseOpen = 0;      ///< 1: the optimiser group of the main window is open
   int16 ResultView = 3;        ///< optimiser criterion: 0 ULS, 1 SLS, 2 ULS/SLS, 3 none
   int16 FigureNotToScale = 1;  ///< 1: the section figure is not to scale
   int16 DatabaseMode = 0;      ///< 1 while a section form is open from the database
+
+  friend bool operator==(const ProjectState&, const ProjectState&) = default;
 
 private:
   template <class T, int First, int Last>

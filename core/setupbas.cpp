@@ -9,7 +9,6 @@
 #include <utility>
 
 #include "core/field_io.h"
-#include "core/files.h"
 #include "core/text.h"
 
 namespace korvane {
@@ -101,10 +100,10 @@ void ReadDefaults(const std::string& folder, ProjectState& st) {
   }
 }
 
-bool WriteDefaults(const std::string& folder, const ProjectState& st) {
+WriteResult WriteDefaults(const std::string& folder, const ProjectState& st) {
   FieldWriter writer;
   WalkDefaults(writer, st);
-  return WriteFileAtomically(PathIn(folder, kDefaultsFile), writer.Bytes());
+  return WriteFile(PathIn(folder, kDefaultsFile), writer.Bytes());
 }
 
 void SetMaterial(const MaterialTable& materials, double tmax, ProjectState& st) {

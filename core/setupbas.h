@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/files.h"
 #include "core/project_state.h"
 
 namespace korvane {
@@ -32,9 +33,8 @@ MaterialTable ReadMaterials(const std::string& folder);
 /// their value.
 void ReadDefaults(const std::string& folder, ProjectState& st);
 
-/// Writes the fourteen lines of default_ns.dat atomically; errors are ignored. Returns whether
-/// the file was written.
-bool WriteDefaults(const std::string& folder, const ProjectState& st);
+/// Writes the fourteen lines of default_ns.dat as WriteFile does.
+WriteResult WriteDefaults(const std::string& folder, const ProjectState& st);
 
 /// The material step. For a row before the free entry fyk follows from the governing thickness
 /// tmax (mm): up to and with 40 mm the first stress. Always writes fd = fyk/gammam1 and

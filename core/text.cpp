@@ -7,8 +7,10 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace korvane {
@@ -136,6 +138,42 @@ void AppendFixed(std::string& out, const Decimal& d, const Pattern& p) {
   for (int i = 1; i <= decimals; ++i) out += d.At(-i);
 }
 
+// Magnitudes that are worked out without their decimal digits.
+constexpr std::array<double, 10> kPowersOfTen = {1E0, 1E1, 1E2, 1E3, 1E4, 1E5, 1E6, 1E7, 1E8, 1E9};
+constexpr double kLargestScaled = 1E14;
+
+// value * 10^decimals as Format rounds it, by one multiplication. Nothing near a tie and for
+// large values, where only the decimal digits tell the way: rounding to 15 digits moves a value
+// by 5E-15 of itself at most and the multiplication by 1.2E-16.
+std::optional<std::uint64_t> RoundedByProduct(double value, int decimals) {
+  if (decimals >= static_cast<int>(kPowersOfTen.size())) return std::nullopt;
+  const double scaled = std::fabs(value) * kPowersOfTen[static_cast<std::size_t>(decimals)];
+  if (!(scaled < kLargestScaled)) return std::nullopt;
+  const auto whole = static_cast<std::uint64_t>(scaled);
+  const double beyondTie = scaled - static_cast<double>(whole) - 0.5;
+  if (std::fabs(beyondTie) <= scaled * 6E-15) return std::nullopt;
+  return whole + (beyondTie > 0 ? 1 : 0);
+}
+
+// The digits of a rounded value with the point before the last maxDecimals of them.
+void AppendRounded(std::string& out, std::uint64_t rounded, bool negative, const Pattern& p) {
+  std::array<char, 48> text;
+  char* const end = text.data() + text.size();
+  char* at = end;
+  const auto digit = [&] {
+    *--at = static_cast<char>('0' + rounded % 10);
+    rounded /= 10;
+  };
+  if (rounded == 0) negative = false;
+  for (int i = 0; i < p.maxDecimals; ++i) digit();
+  char* last = end;
+  while (last - at > p.minDecimals && last[-1] == '0') --last;
+  if (p.point) *--at = '.';
+  for (int i = 0; i < p.minInteger || rounded != 0; ++i) digit();
+  if (negative) *--at = '-';
+  out.append(at, last);
+}
+
 void AppendExponent(std::string& out, int exponent, int minDigits, bool plus) {
   std::array<char, 12> text;
   char* const first = text.data();
@@ -190,8 +228,11 @@ struct Scan {
   std::string_view number;      // digits, point and exponent without the sign
   std::string_view exponent{};  // the digits of the exponent with a minus sign
   bool negative = false;
-  bool found = false;    // there is a digit at all
-  std::size_t past = 0;  // where the text goes on
+  bool found = false;          // there is a digit at all
+  std::size_t past = 0;        // where the text goes on
+  std::uint64_t mantissa = 0;  // the digits as a whole number where they are at most 18
+  std::size_t digits = 0;      // with leading zeros
+  std::size_t decimals = 0;    // those behind the point
 };
 
 Scan ScanNumber(std::string_view text) {
@@ -201,18 +242,25 @@ Scan ScanNumber(std::string_view text) {
     while (from < size && IsDigit(text[from])) ++from;
     return from;
   };
+  const auto takeDigits = [&](std::size_t from) {
+    std::size_t i = from;
+    for (; i < size && IsDigit(text[i]); ++i) {
+      s.mantissa = s.mantissa * 10 + static_cast<std::uint64_t>(text[i] - '0');
+    }
+    s.digits += i - from;
+    return i;
+  };
   std::size_t i = 0;
   while (i < size && IsBlank(text[i])) ++i;
   if (i < size && (text[i] == '-' || text[i] == '+')) s.negative = text[i++] == '-';
   const std::size_t start = i;
-  i = skipDigits(i);
-  std::size_t digits = i - start;
+  i = takeDigits(i);
   if (i < size && text[i] == '.') {
-    const std::size_t decimals = i + 1;
-    i = skipDigits(decimals);
-    digits += i - decimals;
+    const std::size_t whole = s.digits;
+    i = takeDigits(i + 1);
+    s.decimals = s.digits - whole;
   }
-  s.found = digits > 0;
+  s.found = s.digits > 0;
   if (!s.found) return s;
   if (i < size && (text[i] == 'E' || text[i] == 'e')) {
     const bool sign = i + 1 < size && (text[i + 1] == '-' || text[i + 1] == '+');
@@ -226,6 +274,16 @@ Scan ScanNumber(std::string_view text) {
   s.number = text.substr(start, i - start);
   s.past = i;
   return s;
+}
+
+// Whole numbers and short decimals are one division of two values that the type holds exactly,
+// which rounds as reading the digits would.
+template <class T>
+std::optional<T> ShortNumber(const Scan& s) {
+  constexpr std::uint64_t exact = std::uint64_t{1} << std::numeric_limits<T>::digits;
+  if (s.digits > 18 || !s.exponent.empty() || s.mantissa > exact) return std::nullopt;
+  if (s.decimals >= kPowersOfTen.size()) return std::nullopt;
+  return static_cast<T>(s.mantissa) / static_cast<T>(kPowersOfTen[s.decimals]);
 }
 
 // True when a number that the type can't hold is too large rather than too small.
@@ -244,6 +302,7 @@ bool IsHuge(const Scan& s) {
 template <class T>
 T Value(const Scan& s) {
   if (!s.found) return 0;
+  if (const auto value = ShortNumber<T>(s)) return s.negative && *value != 0 ? -*value : *value;
   T value = 0;
   const char* const first = s.number.data();
   if (std::from_chars(first, first + s.number.size(), value).ec == std::errc::result_out_of_range) {
@@ -252,67 +311,36 @@ T Value(const Scan& s) {
   return s.negative && value != 0 ? -value : value;
 }
 
-// Length of the UTF-8 sequence at the start of the text; 0 when it is not a valid one.
-std::size_t SequenceLength(std::string_view text) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-  const unsigned lead = byte(0);
-  if (lead < 0x80) return 1;
-  const std::size_t length = lead >= 0xC2 && lead <= 0xDF   ? 2
-                             : lead >= 0xE0 && lead <= 0xEF ? 3
-                             : lead >= 0xF0 && lead <= 0xF4 ? 4
-                                                            : 0;
-  if (length == 0 || text.size() < length) return 0;
-  for (std::size_t i = 1; i < length; ++i) {
-    if ((byte(i) & 0xC0) != 0x80) return 0;
+void AppendByPattern(std::string& out, double value, const Pattern& p) {
+  if (!p.exponent && p.minInteger < 9) {
+    if (const auto rounded = RoundedByProduct(value, p.maxDecimals)) {
+      return AppendRounded(out, *rounded, value < 0, p);
+    }
   }
-  // Overlong forms, surrogates and what lies beyond the last code point.
-  const unsigned second = byte(1);
-  const bool valid = !((lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
-                       (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F));
-  return valid ? length : 0;
-}
-
-bool IsUtf8(std::string_view text) {
-  while (!text.empty()) {
-    const std::size_t length = SequenceLength(text);
-    if (length == 0) return false;
-    text.remove_prefix(length);
-  }
-  return true;
-}
-
-// Windows-1252 from 0x80 to 0x9F; the five codes without a character stay controls.
-constexpr std::array<char16_t, 32> kWindows1252 = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-void AppendUtf8(std::string& out, char16_t code) {
-  const auto byte = [&out](unsigned v) { out += static_cast<char>(v); };
-  if (code < 0x80) return byte(code);
-  if (code < 0x800) {
-    byte(0xC0U | (code >> 6U));
-  } else {
-    byte(0xE0U | (code >> 12U));
-    byte(0x80U | ((code >> 6U) & 0x3FU));
-  }
-  byte(0x80U | (code & 0x3FU));
-}
-
-}  // namespace
-
-std::string Format(double value, std::string_view pattern) {
-  const Pattern p = ParsePattern(pattern);
   Decimal d = FifteenDigits(value);
   const int shift = p.integerPlaces - 1;
   d.RoundAt((p.exponent ? d.exponent - shift : 0) - p.maxDecimals);
   const int exponent = p.exponent && !d.IsZero() ? d.exponent - shift : 0;
   d.exponent -= exponent;
-  std::string out;
   if (value < 0 && !d.IsZero()) out += '-';
   AppendFixed(out, d, p);
   if (p.exponent) AppendExponent(out, exponent, p.minExponent, p.plus);
+}
+
+}  // namespace
+
+std::string Format(double value, std::string_view pattern) {
+  std::string out;
+  AppendByPattern(out, value, ParsePattern(pattern));
   return out;
+}
+
+void Append(std::string& out, Decimals number) {
+  Pattern p;
+  p.integerPlaces = p.minInteger = 1;
+  p.maxDecimals = p.minDecimals = number.decimals;
+  p.point = number.decimals > 0;
+  AppendByPattern(out, number.value, p);
 }
 
 std::string Str(float32 value) {
@@ -366,17 +394,6 @@ std::string WithDecimalComma(std::string text) {
     at = text.find_first_of(kDigits, end);
   }
   return text;
-}
-
-std::string ToUtf8(std::string_view bytes) {
-  if (IsUtf8(bytes)) return std::string(bytes);
-  std::string out;
-  out.reserve(bytes.size() * 2);
-  for (const char c : bytes) {
-    const auto b = static_cast<unsigned char>(c);
-    AppendUtf8(out, b >= 0x80 && b < 0xA0 ? kWindows1252[b - 0x80U] : char16_t(b));
-  }
-  return out;
 }
 
 }  // namespace korvane

@@ -17,6 +17,29 @@ namespace korvane {
 /// Throws ArithmeticFault for a value that is not finite, and so do Str and FileText.
 std::string Format(double value, std::string_view pattern);
 
+/// A number with so many decimals (0 to 9) among the parts of a text, as Format prints it by
+/// "0", "0.0", "0.00".
+struct Decimals {
+  double value;
+  int decimals;
+};
+
+/// One part of a text at its end.
+void Append(std::string& out, Decimals number);
+inline void Append(std::string& out, std::string_view text) {
+  out += text;
+}
+inline void Append(std::string& out, char c) {
+  out += c;
+}
+
+/// The text anew from its parts, in the memory that it has.
+template <class... Parts>
+void Compose(std::string& out, const Parts&... parts) {
+  out.clear();
+  (Append(out, parts), ...);
+}
+
 /// General form: the shortest digits that read back to the same value, with a leading blank in
 /// the place of the sign for a value that is not negative (" 100", " 6.3", "-.5").
 std::string Str(float32 value);

@@ -60,6 +60,7 @@ void ProjectFiles::New() {
   session_.KeepTexts();
   NewProject(session_.st(), session_.folders().program);
   ResetDatabase(session_.database());
+  ForgetFormerInput(session_.design());
   session_.Calculate();
 }
 
@@ -86,6 +87,7 @@ void ProjectFiles::AfterOpen() {
     if (form.input) session_.Unload(form);
   }
   session_.fields_.ForgetRefused();
+  ForgetFormerInput(session_.design());
   try {
     const Design& d = session_.design();
     SetMaterial(d.lib->materials, d.rec.tmax, session_.st());
@@ -135,9 +137,9 @@ void ProjectFiles::TakeTexts() {
 }
 
 bool ProjectFiles::Write(const std::string& path) {
-  const FileResult result = SaveProject(path, session_.st());
-  if (result == FileResult::NotFound) session_.platform_.Message("can't save file - " + path);
-  return result == FileResult::Ok;
+  const WriteStatus written = SaveProject(path, session_.st()).status;
+  if (written == WriteStatus::NoFolder) session_.platform_.Message("can't save file - " + path);
+  return written == WriteStatus::Ok;
 }
 
 void ProjectFiles::SavePathAs(const std::string& path) {

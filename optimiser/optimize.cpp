@@ -43,8 +43,10 @@ double UlsLimit(const OptimiserRow& row, const ProjectState& st) {
   return row.row == 11 ? 1.0 : static_cast<double>(st.iufa);
 }
 
-/// L/deflection of the z plane against the limit; no deflection is a division by zero.
+/// L/deflection of the z plane against the limit; no deflection is a division by zero. End forces
+/// give none to test.
 bool DeflectionPasses(const Design& design) {
+  if (design.st.AnalysisMode != 1) return true;
   const double deflection = std::fabs(design.deflections.DeflZ_max);
   if (deflection == 0.0) throw CalculationFault("optimiser deflection", "division by zero");
   return design.st.L * 1000.0 / deflection > design.st.DeflectionLimit;
@@ -88,6 +90,8 @@ const OptimiserRow& OptimiserRowOf(int row) {
 }
 
 bool CanOptimise(const ProjectState& st) {
+  // The codes of the families with a series come first; what lies below them, which only a file can
+  // hold, passes too: kept.
   return st.ProfileType <= kOptimiserRows;
 }
 
@@ -158,10 +162,12 @@ bool TakeOverRow(Design& design, const OptimiserResults& results) {
 }
 
 bool OptimiseCurrent(Design& design, OptimiserResults& results, const SearchProgress& progress) {
-  const int family = design.st.ProfileType;
-  if (family < 1 || family > kOptimiserRows) return false;
-  SearchRow(design, family, results, progress);
-  return true;
+  for (const OptimiserRow& row : Rows()) {
+    if (row.ProfileType != design.st.ProfileType) continue;
+    SearchRow(design, row.row, results, progress);
+    return true;
+  }
+  return false;
 }
 
 }  // namespace korvane

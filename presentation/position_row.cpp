@@ -9,7 +9,7 @@ namespace {
 constexpr double kSmaller = 0.85;  // size of the numbers against that of the labels
 constexpr std::size_t kInOneRow = 8;
 constexpr double kMark = 0.65;  // from the line to the first row, of the labels' size
-constexpr double kGap = 0.9;   // between two numbers, and the way of a thin line
+constexpr double kGap = 0.9;    // between two numbers, and the way of a thin line
 
 double RowHeight(double text) {
   return 1.3 * kSmaller * text;

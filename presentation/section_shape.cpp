@@ -37,41 +37,41 @@ Point Centroid(const SectionShape& s) {
 }
 
 struct Entry {
-  ShapeKind kind;
+  OutlineKind kind;
   SectionShape (*build)(const shapes::Source&);
   bool sideways;  // not symmetric left and right: the z axis follows from the outline
 };
 
 constexpr Entry kEntries[] = {
-    {ShapeKind::General, shapes::General, false},
-    {ShapeKind::RolledI, shapes::RolledI, false},
-    {ShapeKind::TaperedI, shapes::TaperedI, false},
-    {ShapeKind::ParallelChannel, shapes::ParallelChannel, false},
-    {ShapeKind::TaperedChannel, shapes::TaperedChannel, false},
-    {ShapeKind::Hollow, shapes::Hollow, false},
-    {ShapeKind::Angle, shapes::Angle, false},
-    {ShapeKind::WeldedI, shapes::WeldedI, false},
-    {ShapeKind::SingleI, shapes::SingleI, false},
-    {ShapeKind::Box, shapes::Box23, false},
-    {ShapeKind::HsqSymmetric, shapes::Hsq24, true},
-    {ShapeKind::HsqOneSided, shapes::Hsq25, true},
-    {ShapeKind::T, shapes::TSection, false},
-    {ShapeKind::BoxUnequal, shapes::Box27, true},
-    {ShapeKind::FlatBar, shapes::FlatBar, false},
-    {ShapeKind::Tube, shapes::Tube, false},
-    {ShapeKind::PlateFlat, shapes::PlateFlat, false},
-    {ShapeKind::PlateAngle, shapes::PlateAngle, true},
-    {ShapeKind::PlateWeldedAngle, shapes::PlateWeldedAngle, true},
-    {ShapeKind::PlateBulb, shapes::PlateBulb, true},
-    {ShapeKind::PlateTrapez, shapes::PlateTrapeze, false},
-    {ShapeKind::PlateT, shapes::PlateGirder, false},
+    {OutlineKind::General, shapes::General, false},
+    {OutlineKind::RolledI, shapes::RolledI, false},
+    {OutlineKind::TaperedI, shapes::TaperedI, false},
+    {OutlineKind::ParallelChannel, shapes::ParallelChannel, false},
+    {OutlineKind::TaperedChannel, shapes::TaperedChannel, false},
+    {OutlineKind::Hollow, shapes::Hollow, false},
+    {OutlineKind::Angle, shapes::Angle, false},
+    {OutlineKind::WeldedI, shapes::WeldedI, false},
+    {OutlineKind::SingleI, shapes::SingleI, false},
+    {OutlineKind::Box, shapes::Box23, false},
+    {OutlineKind::HsqSymmetric, shapes::Hsq24, true},
+    {OutlineKind::HsqOneSided, shapes::Hsq25, true},
+    {OutlineKind::T, shapes::TSection, false},
+    {OutlineKind::BoxUnequal, shapes::Box27, true},
+    {OutlineKind::FlatBar, shapes::FlatBar, false},
+    {OutlineKind::Tube, shapes::Tube, false},
+    {OutlineKind::PlateFlat, shapes::PlateFlat, false},
+    {OutlineKind::PlateAngle, shapes::PlateAngle, true},
+    {OutlineKind::PlateWeldedAngle, shapes::PlateWeldedAngle, true},
+    {OutlineKind::PlateBulb, shapes::PlateBulb, true},
+    {OutlineKind::PlateTrapez, shapes::PlateTrapeze, false},
+    {OutlineKind::PlateT, shapes::PlateGirder, false},
 };
 
 const Entry* EntryOf(int profileType) {
   const Family* family = FindFamily(profileType);
   if (family == nullptr) return nullptr;
   for (const Entry& entry : kEntries) {
-    if (entry.kind == family->shape) return &entry;
+    if (entry.kind == family->outline) return &entry;
   }
   return nullptr;
 }

@@ -42,12 +42,22 @@ void AddFlange(SectionShape& s, const char* letter, double x, double from, doubl
 /// Thickness of a web from x, told at the height y.
 void AddWeb(SectionShape& s, const char* letter, double x, double t, double y);
 
+// The outlines of the families, mm: each reads the section record, which the dimension step has
+// written, and what the record lacks from the state; each returns polygons, size, axes and the
+// dimensions with their letters.
+
+/// Parallel flanges with root fillets: HEA, HEB, HEM, IPE, UB, UC, UBP, J.
 SectionShape RolledI(const Source& s);
+/// Tapered flanges with rounded tips: INP.
 SectionShape TaperedI(const Source& s);
 SectionShape WeldedI(const Source& s);
+/// UPE, PFC, CH.
 SectionShape ParallelChannel(const Source& s);
+/// UNP.
 SectionShape TaperedChannel(const Source& s);
+/// Square and rectangular hollow sections, turned as RhsOrientation tells.
 SectionShape Hollow(const Source& s);
+/// Equal and unequal angles, with the principal axes.
 SectionShape Angle(const Source& s);
 SectionShape SingleI(const Source& s);
 SectionShape TSection(const Source& s);

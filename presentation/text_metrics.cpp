@@ -7,7 +7,10 @@
 namespace korvane {
 namespace {
 
-// Thousandths of an em for the characters U+0020 to U+017F.
+// Thousandths of an em for the characters U+0020 to U+017F: the advance widths that stand in the
+// font files of Liberation Sans, Regular and Bold (table hmtx, 2048 units to the em, by the
+// characters of table cmap), rounded. They are those of Arial. 365 is the box for what the font has
+// no letter for.
 constexpr char32_t kFirst = 0x20;
 using Widths = std::array<std::uint16_t, 0x160>;
 

@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/files.h"
 #include "core/text.h"
 #include "sections/databasebas.h"
 
@@ -75,7 +74,7 @@ void ReadDatabase(const std::string& path, Database& db) {
   }
 }
 
-bool WriteDatabase(const std::string& path, const Database& db) {
+WriteResult WriteDatabase(const std::string& path, const Database& db) {
   std::string text;
   for (int i = 0; i <= db.DbLast; ++i) {
     const DatabaseRow& row = db.DbTable[i];
@@ -88,7 +87,7 @@ bool WriteDatabase(const std::string& path, const Database& db) {
       text += "\r\n";
     }
   }
-  return WriteFileAtomically(path, text);
+  return WriteFile(path, text);
 }
 
 }  // namespace korvane

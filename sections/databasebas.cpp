@@ -20,6 +20,8 @@ using S = ProjectState;
 struct FamilyColumns {
   int family;
   FixedList<StateField, 13> from3{};
+  /// Loading takes the last row of the table, whichever is selected: kept as it always was.
+  bool loadsLastRow = false;
 };
 
 constexpr std::array<FamilyColumns, 16> kColumns{{
@@ -31,7 +33,9 @@ constexpr std::array<FamilyColumns, 16> kColumns{{
      {&S::p25_h, &S::p25_b1, &S::p25_b2, &S::p25_a, &S::p25_c, &S::p25_tw, &S::p25_tf1,
       &S::p25_tf2}},
     {26, {&S::p26_h, &S::p26_b, &S::p26_tw, &S::p26_tf}},
-    {27, {&S::p27_h, &S::p27_b1, &S::p27_b2, &S::p27_tw, &S::p27_tf1, &S::p27_tf2, &S::p27_a}},
+    {27,
+     {&S::p27_h, &S::p27_b1, &S::p27_b2, &S::p27_tw, &S::p27_tf1, &S::p27_tf2, &S::p27_a},
+     true},
     {28, {&S::p28_h, &S::p28_tw}},
     {31, {&S::p31_d, &S::p31_tw}},
     {41,
@@ -41,7 +45,7 @@ constexpr std::array<FamilyColumns, 16> kColumns{{
     {52, {&S::p52_b1, &S::p52_t1}},
     {53, {&S::p53_h, &S::p53_b1, &S::p53_b2, &S::p53_tw, &S::p53_tf1, &S::p53_tf2}},
     {54, {&S::p54_b1, &S::p54_t1}},
-    {55, {&S::p55_h, &S::p55_b1, &S::p55_b2, &S::p55_tw, &S::p55_tf1, &S::p55_a}},
+    {55, {&S::p55_h, &S::p55_b1, &S::p55_b2, &S::p55_tw, &S::p55_tf1, &S::p55_a}, true},
     {56, {&S::p56_h, &S::p56_b1, &S::p56_b2, &S::p56_tw, &S::p56_tf1, &S::p56_tf2}},
 }};
 
@@ -51,11 +55,6 @@ constexpr std::array<FamilyColumns, 2> kLoadExceptions{{
     {51, {&S::p51_h, &S::p56_b1, StateField{}, &S::p56_tw, &S::p56_tf1}},
     {52, {&S::p56_b1, &S::p56_tf1}},
 }};
-
-/// Kept as it always was: these families load the last row of the table, whichever is selected.
-constexpr bool LoadsLastRow(int family) {
-  return family == 27 || family == 55;
-}
 
 const FamilyColumns* ColumnsOf(std::span<const FamilyColumns> table, int family) {
   for (const FamilyColumns& c : table)
@@ -123,15 +122,16 @@ const Family* FamilyOfRow(const DatabaseRow& row) {
 void LoadDatabaseRow(const Database& db, ProjectState& st) {
   const Family* family = FindFamily(st.ProfileType);
   if (family == nullptr) return;
-  const DatabaseRow& row = db.DbTable[LoadsLastRow(st.ProfileType) ? db.DbLast : db.DbRow];
+  const FamilyColumns* columns = ColumnsOf(kLoadExceptions, st.ProfileType);
+  if (!columns) columns = ColumnsOf(kColumns, st.ProfileType);
+  const bool last = columns != nullptr && columns->loadsLastRow;
+  const DatabaseRow& row = db.DbTable[last ? db.DbLast : db.DbRow];
   // Column 2 is the sub-family where there are several, and column 3 then the catalogue row.
   if (family->sub != nullptr) st.*family->sub = ToInt16(row.col[2]);
   if (const FamilyCatalogue* catalogue = ExactCatalogue(*family, st)) {
     st.*catalogue->index = ToInt16(row.col[family->sub == nullptr ? 2 : 3]);
   }
-  const FamilyColumns* columns = ColumnsOf(kLoadExceptions, st.ProfileType);
-  if (!columns) columns = ColumnsOf(kColumns, st.ProfileType);
-  if (!columns) return;
+  if (columns == nullptr) return;
   for (std::size_t i = 0; i < columns->from3.size(); ++i)
     Fetch(row, static_cast<int>(i) + 3, columns->from3[i], st);
 }

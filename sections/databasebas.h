@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/files.h"
 #include "core/project_state.h"
 #include "sections/profile_table.h"
 #include "sections/readprofiles.h"
@@ -35,9 +36,8 @@ void ResetDatabase(Database& db);
 /// file leaves an empty table. DbRow and DbFile stay.
 void ReadDatabase(const std::string& path, Database& db);
 
-/// Writes rows 0 to DbLast, 16 lines a row, atomically. Errors are ignored; returns whether the
-/// file was written.
-bool WriteDatabase(const std::string& path, const Database& db);
+/// Writes rows 0 to DbLast, 16 lines a row, as WriteFile does.
+WriteResult WriteDatabase(const std::string& path, const Database& db);
 
 /// The text of one row in the list of the form. Throws ArithmeticFault for a catalogue row that
 /// does not exist.

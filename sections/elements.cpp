@@ -6,6 +6,8 @@
 
 namespace korvane {
 
+// The reduced slenderness sqrt(fy/sigma_cr) with sigma_cr = k*pi^2*E/(12*(1 - nu^2))*(t/c)^2 and
+// nu = 0.3: 28.4 is what remains for fy = 235 MPa.
 double PlateSlenderness(double ratio, double eps, double k) {
   return ratio / (28.4 * eps * std::sqrt(k));
 }
@@ -16,6 +18,8 @@ double EffectiveWidth(double ratio, double eps, double k, bool ignored) {
   return lam > 0.673 ? (lam - 0.22) / (lam * lam) : 1;
 }
 
+// Buckling factors of flat elements under a gradient of stress, for -1 <= psi <= 0 (internal) and
+// -3 <= psi <= 1 (outstand), as in ENV 1993-1-1, Tables 5.3.2 and 5.3.3.
 double InternalBendingFactor(double psi) {
   return 7.81 - 6.29 * psi + 9.78 * psi * psi;
 }
@@ -24,6 +28,8 @@ double OutstandFactor(double psi) {
   return 0.57 - 0.21 * psi + 0.07 * psi * psi;
 }
 
+// Class limits of internal elements and outstands: 12.1, the numbers of EN 1993-1-1, Table 5.2;
+// class 3 of a mixed web is 126/(2 + psi) where that table rounds to 42/(0.67 + 0.33*psi).
 int MixedInternalClass(double alpha, double psi, double w, double eps) {
   if (alpha > 0.5) {
     if (w <= 396 * eps / (13 * alpha - 1)) return 1;
@@ -73,6 +79,9 @@ int GoverningClass(const ProjectState& st, int webClass, int flangeClass) {
   return std::max(webClass, flangeClass);
 }
 
+// First the flange loses what buckles of it, which moves the axis to e1; the web is then reduced by
+// the stresses about that axis: of its compressed height hc it keeps 0.4*rho*hc at the flange and
+// 0.6*rho*hc at the axis. What is left has its axis at e2 from the compressed edge.
 BentSection ReduceInBending(const CompressedSide& s, double eps) {
   const double moment = s.z * s.A;
   const double A1 = s.A - s.removed;
@@ -106,6 +115,8 @@ struct WallLimit {
   double lam;     ///< shear slenderness
 };
 
+// A wall is stocky up to 72*eps/eta, and 31*eps*sqrt(k)/eta between stiffeners; 86.4 and 37.4 are
+// what sqrt(fy/(tau_cr*sqrt(3))) leaves for fy = 235 MPa, with k = 5.34 for a long panel.
 WallLimit Unstiffened(const ProjectState& st, const ShearWall& wall) {
   return {72 * st.epsilon / ShearEta(st), (1 / 86.4) / st.epsilon * wall.ratio};
 }
@@ -117,6 +128,8 @@ WallLimit Stiffened(const ProjectState& st, const ShearWall& wall) {
           (1 / 37.4) / st.epsilon / std::sqrt(k) * wall.ratio};
 }
 
+// Contribution of the web by its slenderness; a stiff end post carries the tension field
+// beyond 1.08. 12.2.5, the numbers of EN 1993-1-5, Table 5.1.
 double WallShear(const ProjectState& st, const ShearWall& wall, const WallLimit& limit,
                  bool stiffEnd, float32& area) {
   if (wall.ratio < limit.stocky) {

@@ -12,7 +12,10 @@ namespace korvane {
 
 SizeList SizesOf(const ProjectState& st) {
   const Family* family = FindFamily(st.ProfileType);
-  const FamilyCatalogue* catalogue = family == nullptr ? nullptr : CatalogueOf(*family, st);
+  if (family == nullptr) return {};
+  // A series that does not exist has no dimension step, so no name either.
+  if (family->sub != nullptr && CatalogueOfSub(*family, st.*family->sub) == nullptr) return {};
+  const FamilyCatalogue* catalogue = CatalogueOf(*family, st);
   if (catalogue == nullptr) return {};
   return {true, catalogue->cat, st.*catalogue->index};
 }

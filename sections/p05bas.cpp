@@ -62,6 +62,9 @@ void LoadUNP(const ProjectState& st, const Catalogues& cat, SectionRecord& rec) 
   const int row = st.idxUNP;
   rec.r1 = t(row, 5);
   rec.r2 = t(row, 6);
+  // The class test and the shear area read r, which this catalogue doesn't have: 0, so that no
+  // other family's radius counts.
+  rec.r = 0;
   LoadMetricSizes(t, row, rec.r1, rec);
   rec.e = t(row, 7);
   rec.es = t(row, 8) - rec.e;

@@ -142,18 +142,40 @@ void SingleEffectiveSection(const ProjectState& st, SectionRecord& rec) {
   rec.Aeff = rec.A - top - (1 - rhow) * rec.d * rec.tw - bottom;
 }
 
-void SingleClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {
+namespace {
+
+/// Stresses at the ends of the web, the upper one first, compression negative, N/mm2.
+struct WebStresses {
+  double upper, lower;
+};
+
+WebStresses StressesOfWeb(const SectionForces& f, const SectionRecord& rec) {
   const double My = ClassMoment(f);
   const double sN = f.Ncl * 1000 / rec.A;
-  const double s1 = -My * 1E6 / rec.Iy * (rec.ezel - rec.tf1 - rec.r) - sN;
-  const double s2 = My * 1E6 / rec.Iy * (rec.h - rec.ezel - rec.tf2 - rec.r) - sN;
-  const int webClass = InternalClass(s1, s2, rec.d / rec.tw, st.epsilon, ZeroStress::Compressed);
+  return {-My * 1E6 / rec.Iy * (rec.ezel - rec.tf1 - rec.r) - sN,
+          My * 1E6 / rec.Iy * (rec.h - rec.ezel - rec.tf2 - rec.r) - sN};
+}
+
+int FlangeClass(double ratio, double eps, bool strict) {
+  return ClassByLimits(ratio, 9 * eps, 10 * eps, 14 * eps, strict);
+}
+
+}  // namespace
+
+void SingleClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {
   const double eps = st.epsilon;
-  const auto flange = [eps](double ratio, bool strict) {
-    return ClassByLimits(ratio, 9 * eps, 10 * eps, 14 * eps, strict);
-  };
-  rec.classTop = GoverningClass(st, webClass, flange(rec.c1 / rec.tf1, true));
-  rec.classBottom = GoverningClass(st, webClass, flange(rec.c2 / rec.tf2, false));
+  const WebStresses s = StressesOfWeb(f, rec);
+  const int webClass = InternalClass(s.upper, s.lower, rec.d / rec.tw, eps, ZeroStress::Compressed);
+  rec.classTop = GoverningClass(st, webClass, FlangeClass(rec.c1 / rec.tf1, eps, true));
+  rec.classBottom = GoverningClass(st, webClass, FlangeClass(rec.c2 / rec.tf2, eps, false));
+}
+
+int BottomClassByCompression(const ProjectState& st, const SectionForces& f,
+                             const SectionRecord& rec) {
+  const double eps = st.epsilon;
+  const WebStresses s = StressesOfWeb(f, rec);
+  const int webClass = InternalClass(s.lower, s.upper, rec.d / rec.tw, eps, ZeroStress::Compressed);
+  return GoverningClass(st, webClass, FlangeClass(rec.c2 / rec.tf2, eps, false));
 }
 
 void SideCapacities(const ProjectState& st, double factor, SectionRecord& rec) {
@@ -206,24 +228,20 @@ void BendingNominalCapacities(const ProjectState& st, const Family& family, Sect
   f.Ncl = 0;
   family.routines.sectionClass(st, f, rec);
   family.routines.capacities(st, f, rec);
+  rec.classTopshown = rec.classTop;
+  rec.classBottomshown = rec.classBottom;
+  rec.MdyTopshown = rec.MdyTop;
+  rec.MdyBottomshown = rec.MdyBottom;
 }
 
 void SingleNominalCapacities(const ProjectState& st, const Family& family, SectionForces& f,
                              SectionRecord& rec) {
   BendingNominalCapacities(st, family, f, rec);
-  const int16 top = rec.classTop;
-  const int16 bottom = rec.classBottom;
-  const float32 MdyTop = rec.MdyTop;
-  const float32 MdyBottom = rec.MdyBottom;
   f.My = 0;
   f.Ncl = 10;
   family.routines.sectionClass(st, f, rec);
   family.routines.capacities(st, f, rec);
   rec.Ncrdshown = rec.Ncrd;
-  rec.classTop = top;
-  rec.classBottom = bottom;
-  rec.MdyTop = MdyTop;
-  rec.MdyBottom = MdyBottom;
 }
 
 }  // namespace korvane

@@ -44,6 +44,11 @@ inline double ClassMoment(const SectionForces& f) {
 /// Writes classTop and classBottom; `class` stays unwritten.
 void SingleClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
 
+/// Class of the bottom side under the hogging moment of f, with the web judged by the share of it
+/// that is compressed; SingleClass judges it by the share in tension.
+int BottomClassByCompression(const ProjectState& st, const SectionForces& f,
+                             const SectionRecord& rec);
+
 /// betaTop, betaBottom, MdyTop, MdyBottom for the classes that the record holds; factor
 /// multiplies both (flange loading of HSQ sections).
 void SideCapacities(const ProjectState& st, double factor, SectionRecord& rec);
@@ -65,7 +70,8 @@ void SingleCapacities(const ProjectState& st, const SectionForces& f, SectionRec
 /// Two passes, My = 10 and Ncl = 10; the shown values are those of the first.
 void SingleNominalCapacities(const ProjectState& st, const Family& family, SectionForces& f,
                              SectionRecord& rec);
-/// One pass, My = 10: sections that take bending only.
+/// One pass, My = 10, whose classes and capacities by side are the shown ones: sections that take
+/// bending only.
 void BendingNominalCapacities(const ProjectState& st, const Family& family, SectionForces& f,
                               SectionRecord& rec);
 

@@ -7,6 +7,7 @@
 
 namespace korvane {
 
+/// Dimension steps: typed dimensions to mm, mm2, mm3, mm4, kg/m, m2/m.
 void LoadBox(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
 /// HSQ with flanges symmetric about the vertical axis.
 void LoadHsqSymmetric(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
@@ -26,6 +27,7 @@ struct TwoWebFlange {
 void TwoWebEffective(const ProjectState& st, const TwoWebFlange& top, const TwoWebFlange& bottom,
                      double H, double depth, bool fullStripInertia, SectionRecord& rec);
 
+/// Aeff in mm2 and the effective moduli of both sides in mm3, for every class. 12.2.
 void HsqSymmetricEffective(const ProjectState& st, SectionRecord& rec);
 void HsqOneSidedEffective(const ProjectState& st, SectionRecord& rec);
 void BoxUnequalEffective(const ProjectState& st, SectionRecord& rec);
@@ -33,8 +35,8 @@ void BoxUnequalEffective(const ProjectState& st, SectionRecord& rec);
 /// classTop and classBottom; read My only, Ncl plays no part. 12.1.
 void BoxUnequalClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
 void HsqClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
-/// SingleCapacities with the flange loading of HSQ beams; sets flangeOverloaded when the load
-/// on one flange exceeds what it can carry.
+/// SingleCapacities (kN, kNm) with the flange loading of HSQ beams; sets flangeOverloaded when the
+/// load on one flange exceeds what it can carry.
 void HsqCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
 
 /// The same without flange loading.

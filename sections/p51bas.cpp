@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "sections/capacities.h"
 #include "sections/elements.h"
 #include "sections/p22bas.h"
 #include "sections/p23bas.h"
@@ -202,6 +203,61 @@ void LoadPlateT(const ProjectState& st, const Catalogues&, SectionRecord& rec) {
   TwoFlangeWarping(rec.h, rec);
 }
 
+namespace {
+
+/// How the strip taken off a flat counts in the second moment about the tip: as the rule has it,
+/// tw/2*w^2, or with its area times its distance squared.
+enum class Strip { Settled, Whole };
+
+/// The flat with its tip compressed, an outstand.
+BentSection TipCompressed(const ProjectState& st, const SectionRecord& rec, Strip strip) {
+  const double z = rec.h - rec.ezel;
+  const double psi = -(rec.hw - z) / z;
+  const double rho =
+      EffectiveWidth(rec.d / rec.tw, st.epsilon, OutstandFactor(psi), st.IgnoreWebBuckling == 1);
+  const double w = (1 - rho) * z;
+  const double A2 = rec.A - rec.tw * w;
+  const double e = (z * rec.A - rec.tw * w * w / 2) / A2;
+  const double shift =
+      strip == Strip::Settled ? rec.tw / 2 * w * w : rec.tw * w * (w / 2) * (w / 2);
+  return {e, z * z * rec.A + rec.Iy - rec.tw * w * w * w / 12 - shift - A2 * e * e};
+}
+
+/// Class of the flat with its tip compressed: alpha its share on the compressed side as the test
+/// takes it, k the buckling factor.
+int TipClass(double w, double alpha, double k, double eps) {
+  return alpha > 0 && w <= 10 * eps / alpha   ? 1
+         : alpha > 0 && w <= 11 * eps / alpha ? 2
+         : w <= 23 * eps * std::sqrt(k)       ? 3
+                                              : 4;
+}
+
+/// Stresses at the ends of the flat, the plate's first, compression negative, N/mm2.
+struct FlatStresses {
+  double plate, tip;
+};
+
+FlatStresses StressesOfFlat(const SectionForces& f, const SectionRecord& rec) {
+  const double My = ClassMoment(f);
+  return {-My * 1E6 / rec.Iy * (rec.ezel - rec.tf1 - rec.r),
+          My * 1E6 / rec.Iy * (rec.h - rec.ezel - rec.tf2 - rec.r)};
+}
+
+}  // namespace
+
+double FlatTipCapacity(const ProjectState& st, const SectionRecord& rec) {
+  const BentSection tip = TipCompressed(st, rec, Strip::Whole);
+  return MomentOf(st, std::min(tip.I / tip.e, tip.I / (rec.h - tip.e)));
+}
+
+int FlatClassByCompression(const ProjectState& st, const SectionForces& f,
+                           const SectionRecord& rec) {
+  const auto [plate, tip] = StressesOfFlat(f, rec);
+  const int flat =
+      TipClass(rec.d / rec.tw, tip / (tip - plate), OutstandFactor(plate / tip), st.epsilon);
+  return GoverningClass(st, flat, 1);
+}
+
 void FlatStiffenerEffective(const ProjectState& st, SectionRecord& rec) {
   const double eps = st.epsilon;
   const bool noWeb = st.IgnoreWebBuckling == 1;
@@ -215,17 +271,9 @@ void FlatStiffenerEffective(const ProjectState& st, SectionRecord& rec) {
   rec.Weffy1c = top.I / top.e;
   rec.Weffy2t = top.I / (H - top.e);
 
-  // Tip compressed: the flat is an outstand.
-  const double z = H - rec.ezel;
-  const double psi = -(rec.hw - z) / z;
-  const double rho = EffectiveWidth(rec.d / rec.tw, eps, OutstandFactor(psi), noWeb);
-  const double w = (1 - rho) * z;
-  const double A2 = rec.A - rec.tw * w;
-  const double e = (z * rec.A - rec.tw * w * w / 2) / A2;
-  const double I =
-      z * z * rec.A + rec.Iy - rec.tw * w * w * w / 12 - rec.tw / 2 * w * w - A2 * e * e;
-  rec.Weffy2c = I / e;
-  rec.Weffy1t = I / (H - e);
+  const BentSection tip = TipCompressed(st, rec, Strip::Settled);
+  rec.Weffy2c = tip.I / tip.e;
+  rec.Weffy1t = tip.I / (H - tip.e);
 
   const double rhow = EffectiveWidth(rec.d / rec.tw, eps, 0.43, noWeb);
   rec.Aeff = rec.A - plate - (1 - rhow) * rec.d * rec.tw;
@@ -253,9 +301,7 @@ void TrapezEffective(const ProjectState& st, SectionRecord& rec) {
 
 void FlatStiffenerClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {
   const double eps = st.epsilon;
-  const double My = ClassMoment(f);
-  const double s1 = -My * 1E6 / rec.Iy * (rec.ezel - rec.tf1 - rec.r);
-  const double s2 = My * 1E6 / rec.Iy * (rec.h - rec.ezel - rec.tf2 - rec.r);
+  const auto [s1, s2] = StressesOfFlat(f, rec);
   const double w = rec.d / rec.tw;
   const double alpha = s1 / (s1 - s2);
 
@@ -273,12 +319,7 @@ void FlatStiffenerClass(const ProjectState& st, const SectionForces& f, SectionR
   const int plate = ClassByLimits(rec.c1 / rec.tf1, 9 * eps, 10 * eps, 14 * eps, true);
   rec.classTop = GoverningClass(st, webTop, plate);
 
-  const double k = OutstandFactor(s1 / s2);
-  const int webBottom = alpha > 0 && w <= 10 * eps / alpha   ? 1
-                        : alpha > 0 && w <= 11 * eps / alpha ? 2
-                        : w <= 23 * eps * std::sqrt(k)       ? 3
-                                                             : 4;
-  rec.classBottom = GoverningClass(st, webBottom, 1);
+  rec.classBottom = GoverningClass(st, TipClass(w, alpha, OutstandFactor(s1 / s2), eps), 1);
 }
 
 void FlatStiffenerCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {

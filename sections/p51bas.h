@@ -7,6 +7,9 @@
 
 namespace korvane {
 
+/// Dimension steps: typed dimensions, and of the rolled stiffeners the row of the catalogue, to
+/// mm, mm2, mm3, mm4, mm6, kg/m, m2/m. The plate b1 x tf1 lies on top, h is the overall height.
+/// They throw ArithmeticFault for a catalogue row that does not exist.
 void LoadPlateFlat(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
 void LoadPlateAngle(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
 void LoadPlateWeldedAngle(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
@@ -18,14 +21,27 @@ void LoadPlateT(const ProjectState& st, const Catalogues& cat, SectionRecord& re
 struct BulbFlange {
   double width, thickness;
 };
+/// A bulb flat as a web tw x h with a flange of the same area: all in mm, A of the whole flat in
+/// mm2.
 BulbFlange EquivalentFlange(double tw, double bulb, double radius, double h, double A);
 
+/// Aeff in mm2 and the effective moduli of both sides in mm3, for every class. 12.2.
 void FlatStiffenerEffective(const ProjectState& st, SectionRecord& rec);
 void AngleStiffenerEffective(const ProjectState& st, SectionRecord& rec);
 void TrapezEffective(const ProjectState& st, SectionRecord& rec);
 
+/// Class of the flat whose tip is compressed, by the share of it that is compressed;
+/// FlatStiffenerClass takes the share in tension.
+int FlatClassByCompression(const ProjectState& st, const SectionForces& f,
+                           const SectionRecord& rec);
+/// Capacity in kNm with the tip compressed and the flat reduced, where the strip taken off counts
+/// with its whole second moment about the tip; FlatStiffenerEffective takes a part of it.
+double FlatTipCapacity(const ProjectState& st, const SectionRecord& rec);
+/// classTop with the plate compressed, classBottom with the tip of the flat compressed, for My in
+/// kNm. 12.1.
 void FlatStiffenerClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
-/// Moment capacities by side; no axial capacities and no governing Mdy.
+/// Moment capacities by side in kNm, reduced for shear (12.2.4, 12.2.7); no axial capacities and no
+/// governing Mdy.
 void FlatStiffenerCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
 
 }  // namespace korvane

@@ -125,7 +125,7 @@ struct ShownLists {
 };
 
 /// The outline of a family.
-enum class ShapeKind {
+enum class OutlineKind {
   General,
   RolledI,
   TaperedI,
@@ -178,6 +178,8 @@ struct Family {
   FamilyOptions options{};
   LateralRule lateral{};
   CurveRule curves = CurveRule::Kept;
+  /// Of sections alike, where the family itself keeps the curves and has a buckling control.
+  CurveRule likeCurves = CurveRule::Kept;
   bool clearsN = false;  ///< the driver takes the axial force off ahead of section and checks
   /// The constants are typed, and the class: there is no outline, the load acts at the centroid.
   bool givenConstants = false;
@@ -187,7 +189,7 @@ struct Family {
   FixedList<Dimension, 11> dimensions{};
   std::size_t titled = 0;  ///< how many of them stand in the name
   FamilyWords words{};
-  ShapeKind shape = ShapeKind::General;
+  OutlineKind outline = OutlineKind::General;
   ShownLists shown{};
   SearchSeries search{};
 };

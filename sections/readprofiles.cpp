@@ -6,8 +6,10 @@
 #include <bit>
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
+#include <string>
 #include <system_error>
+
+#include "core/files.h"
 
 namespace korvane {
 namespace {
@@ -49,45 +51,33 @@ int RowsRead(Cat cat) {
   return std::min(cat == Cat::UBP ? kUbpRowsRead : shape.rows, shape.capacity);
 }
 
-std::filesystem::path FileOf(const std::string& folder, Cat cat) {
-  return std::filesystem::path(folder) / ShapeOf(cat).file;
+std::string PathOf(const std::string& folder, Cat cat) {
+  return folder.empty() || folder.back() == '/' ? folder + ShapeOf(cat).file
+                                                : folder + '/' + ShapeOf(cat).file;
 }
 
 // The value of four bytes, lowest byte first on every machine. What is not finite reads as 0;
 // the exponent bits tell, so that no floating-point flag comes up.
-float Value(const unsigned char* bytes) {
+float Value(const char* bytes) {
   constexpr std::uint32_t exponent = 0x7F800000U;
   std::uint32_t bits = 0;
   for (std::size_t i = 0; i < kBytesPerValue; ++i) {
-    bits |= static_cast<std::uint32_t>(bytes[i]) << (8 * i);
+    bits |= std::uint32_t{static_cast<unsigned char>(bytes[i])} << (8 * i);
   }
   return (bits & exponent) == exponent ? 0.0F : std::bit_cast<float>(bits);
-}
-
-// The file's bytes, at most `limit` of them; none when it can't be read. Only plain files are
-// opened: a pipe of that name would wait for ever.
-std::vector<unsigned char> ReadBytes(const std::filesystem::path& file, std::size_t limit) {
-  std::error_code ignored;
-  if (!std::filesystem::is_regular_file(file, ignored)) return {};
-  std::vector<unsigned char> bytes(limit);
-  std::ifstream in(file, std::ios::binary);
-  in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(limit));
-  bytes.resize(static_cast<std::size_t>(in.gcount()));
-  return bytes;
 }
 
 CatalogueTable ReadTable(const std::string& folder, Cat cat) {
   const CatalogueShape& shape = ShapeOf(cat);
   CatalogueTable table(shape.capacity, shape.columns);
-  const auto columns = static_cast<std::size_t>(shape.columns);
-  const std::size_t limit = static_cast<std::size_t>(RowsRead(cat)) * columns * kBytesPerValue;
-  const std::vector<unsigned char> bytes = ReadBytes(FileOf(folder, cat), limit);
+  const auto bytes = ReadWholeFile(PathOf(folder, cat));
+  if (!bytes) return table;
   // An incomplete value at the end of a cut file is no value.
-  const std::size_t values = bytes.size() / kBytesPerValue;
-  for (std::size_t i = 0; i < values; ++i) {
-    table.Set(static_cast<int>(i / columns), static_cast<int>(i % columns) + 1,
-              Value(bytes.data() + i * kBytesPerValue));
-  }
+  const auto rows = static_cast<std::size_t>(RowsRead(cat));
+  const std::span<float> values = table.Values();
+  const std::size_t count =
+      std::min(rows * static_cast<std::size_t>(shape.columns), bytes->size() / kBytesPerValue);
+  for (std::size_t i = 0; i < count; ++i) values[i] = Value(bytes->data() + i * kBytesPerValue);
   return table;
 }
 
@@ -100,11 +90,12 @@ const CatalogueShape& ShapeOf(Cat cat) {
 }
 
 std::size_t CatalogueTable::Slot(int row, int col) const {
-  if (row < 0 || row >= Capacity() || col < 1 || col > columns_) {
+  const std::size_t slot = static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+                           static_cast<std::size_t>(col - 1);
+  if (row < 0 || col < 1 || col > columns_ || slot >= values_.size()) {
     throw ArithmeticFault("index out of range");
   }
-  return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-         static_cast<std::size_t>(col - 1);
+  return slot;
 }
 
 double CatalogueTable::operator()(int row, int col) const {
@@ -128,7 +119,7 @@ std::vector<std::string> MissingCatalogues(const std::string& folder) {
   for (std::size_t i = 0; i < kCatalogues; ++i) {
     const auto cat = static_cast<Cat>(i);
     std::error_code ignored;
-    if (!std::filesystem::is_regular_file(FileOf(folder, cat), ignored)) {
+    if (!std::filesystem::is_regular_file(PathOf(folder, cat), ignored)) {
       missing.emplace_back(ShapeOf(cat).file);
     }
   }

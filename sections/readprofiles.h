@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -56,6 +57,8 @@ public:
   /// The file's number; throws ArithmeticFault outside the table.
   double operator()(int row, int col) const;
   void Set(int row, int col, float v);
+  /// All numbers, row after row.
+  std::span<float> Values() { return values_; }
   int Capacity() const { return columns_ ? static_cast<int>(values_.size()) / columns_ : 0; }
   int Columns() const { return columns_; }
 

@@ -126,6 +126,10 @@ void ForEachSectionField(Record& rec, Visitor&& visit) {
   visit("Mdzshown", rec.Mdzshown);
   visit("Vdzshown", rec.Vdzshown);
   visit("Vdyshown", rec.Vdyshown);
+  visit("classTopshown", rec.classTopshown);
+  visit("classBottomshown", rec.classBottomshown);
+  visit("MdyTopshown", rec.MdyTopshown);
+  visit("MdyBottomshown", rec.MdyBottomshown);
 }
 
 }  // namespace korvane

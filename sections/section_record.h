@@ -75,6 +75,8 @@ struct SectionRecord {
   // The shown set, written by the nominal capacities only
   int16 classN, classMy;
   float32 Ncrdshown, Mdyshown, Mdzshown, Vdzshown, Vdyshown;
+  int16 classTopshown, classBottomshown;  ///< singly symmetric sections: those of My = 10
+  float32 MdyTopshown, MdyBottomshown;
 
   /// Set by the capacities of HSQ sections when the loading of one flange exceeds what the
   /// flange can carry; the driver then takes the option off and reports it.

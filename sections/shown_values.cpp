@@ -54,7 +54,8 @@ constexpr std::array kItems{
   Item{"Ntd", &R::Ntd, kForce, "kN"}, Item{"Ncd", &R::Ncrdshown, kForce, "kN"},
   Item{"Ncrd", &R::Ncrd, kForce, "kN"},
   Item{"Mdy", &R::Mdyshown, kForce, "kNm"}, Item{"Mdz", &R::Mdzshown, kForce, "kNm"},
-  Item{"MdyTop", &R::MdyTop, kForce, "kNm"}, Item{"MdyBottom", &R::MdyBottom, kForce, "kNm"},
+  Item{"MdyTop", &R::MdyTopshown, kForce, "kNm"},
+  Item{"MdyBottom", &R::MdyBottomshown, kForce, "kNm"},
   Item{"MdyWork", &R::Mdy, kForce, "kNm"}, Item{"MdzWork", &R::Mdz, kForce, "kNm"},
   Item{"Vdz", &R::Vdzshown, kForce, "kN"}, Item{"Vdy", &R::Vdyshown, kForce, "kN"},
   Item{"VdzWork", &R::Vdz, kForce, "kN"}, Item{"VdyWork", &R::Vdy, kForce, "kN"},
@@ -65,10 +66,10 @@ constexpr std::array kItems{
 
 // clang-format on
 
-/// The lists of the family in force; those of a rolled I section for a code that does not exist.
+/// The lists of the family in force; none for a code that does not exist.
 ShownLists ListsOf(const ProjectState& st) {
   const Family* family = FindFamily(st.ProfileType);
-  if (family == nullptr) return {};
+  if (family == nullptr) return {"", "", ""};
   ShownLists lists = family->shown;
   const FamilyCatalogue* catalogue = CatalogueOf(*family, st);
   if (catalogue != nullptr && catalogue->shownDimensions != nullptr) {
@@ -133,8 +134,8 @@ std::string ClassText(const ProjectState& st, const SectionRecord& rec) {
     case SectionControlKind::SingleSymmetric:
     case SectionControlKind::Plate:
     case SectionControlKind::None:
-      return std::to_string(int(rec.classTop)) + " (top), " + std::to_string(int(rec.classBottom)) +
-             " (bottom)";
+      return std::to_string(int(rec.classTopshown)) + " (top), " +
+             std::to_string(int(rec.classBottomshown)) + " (bottom)";
     default:
       break;
   }

@@ -2,6 +2,7 @@
 #include "tools/help_tables.h"
 
 #include <algorithm>
+#include <regex>
 #include <vector>
 
 #include "front/named_session.h"
@@ -120,8 +121,8 @@ std::string FieldTable(const Form& form, const Session& s, const ProjectState& n
       accepted = RangeWords(InForce(limit, newProject)) + (limit.follows != nullptr ? " *" : "");
       message = Messages(limit, newProject);
     }
-    rows += Row({Code(c.name), Escaped(Caption(c.caption)), Escaped(c.unit),
-                 Escaped(s.Text(form.name + "." + c.name)), accepted, message});
+    rows += Row({Code(c.name), Escaped(Caption(c.caption)), Escaped(c.unit), Escaped(s.Text(c)),
+                 accepted, message});
   }
   if (rows.empty()) return {};
   return "<table>\n" +
@@ -130,15 +131,15 @@ std::string FieldTable(const Form& form, const Session& s, const ProjectState& n
 }
 
 /// What stands on the control, or what it holds.
-std::string Words(const Control& c, const std::string& key, const Session& s) {
+std::string Words(const Control& c, const Session& s) {
   std::string words = Escaped(Caption(c.caption));
   const auto add = [&words](const std::string& more) {
     words += (words.empty() ? "" : "; ") + more;
   };
   if (!c.tip.empty()) add(Escaped(Trimmed(c.tip)));
-  if (c.kind == Kind::Picture && c.text) add("a code, at first " + Code(s.Text(key)));
+  if (c.kind == Kind::Picture && c.text) add("a code, at first " + Code(s.Text(c)));
   if (c.kind != Kind::List) return words;
-  const std::vector<std::string> items = s.Items(key);
+  const std::vector<std::string> items = s.Items(c);
   if (items.empty()) {
     add("empty at first");
   } else {
@@ -156,7 +157,7 @@ std::string OtherControls(const Form& form, const Session& s) {
     const char* kind = KindWord(c.kind);
     if (kind == nullptr) continue;
     if (c.kind != Kind::Option) frame.clear();
-    rows += Row({Code(c.name), kind, frame + Words(c, form.name + "." + c.name, s)});
+    rows += Row({Code(c.name), kind, frame + Words(c, s)});
   }
   if (rows.empty()) return {};
   return "<table>\n" + Row({"Control", "Kind", "What stands on it or what it holds"}, "th") + rows +
@@ -212,6 +213,8 @@ constexpr const char* kHead = R"(<!DOCTYPE html>
 <meta name="viewport" content="width=device-width, initial-scale=1">
 <title>All inputs</title>
 <link rel="stylesheet" type="text/css" href="help.css">
+<link rel="stylesheet" href="browser.css">
+<script src="book.js" defer></script>
 </head>
 <body>
 <p class="top"><a href="index.html">Contents</a></p>
@@ -230,6 +233,21 @@ std::string InputsPage(std::shared_ptr<const Library> library) {
   std::string page = kHead;
   for (const Form& form : AllForms()) page += FormSection(form, library);
   return page + "</body>\n</html>\n";
+}
+
+std::string PagesScript(const std::string& index) {
+  static const std::regex entry("<h2>([^<]*)</h2>|<li><a href=\"([^\"#]+)\">([^<]*)</a>");
+  std::string script = "// Made by tools/make_help from the contents.\nconst pages = [\n";
+  std::string group;
+  for (std::sregex_iterator it(index.begin(), index.end(), entry), end; it != end; ++it) {
+    const std::smatch& match = *it;
+    if (match[1].matched) {
+      group = match[1];
+    } else {
+      script += "  [\"" + match[2].str() + "\", \"" + match[3].str() + "\", \"" + group + "\"],\n";
+    }
+  }
+  return script + "];\n";
 }
 
 }  // namespace korvane

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The help book's page of all inputs, made from the tables of the forms.
+// What is made of the help book: its page of all inputs, from the tables of the forms, and the
+// list of its pages.
 #pragma once
 
 #include <memory>
@@ -13,5 +14,9 @@ namespace korvane {
 /// The whole page: every form with its fields (unit, value in a new project, accepted values,
 /// message), its other controls and the commands of the menus. UTF-8, the same on every machine.
 std::string InputsPage(std::shared_ptr<const Library> library);
+
+/// The list of pages for a browser (pages.js): file, title and group of each entry of the contents
+/// page, in their order.
+std::string PagesScript(const std::string& index);
 
 }  // namespace korvane

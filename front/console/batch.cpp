@@ -4,16 +4,20 @@
 #include <algorithm>
 #include <atomic>
 #include <charconv>
-#include <cstdio>
+#include <csignal>
 #include <filesystem>
-#include <fstream>
+#include <functional>
+#include <optional>
 #include <ostream>
+#include <sstream>
+#include <system_error>
 #include <thread>
 #include <utility>
 
-#include "core/text.h"
 #include "front/console/exit_status.h"
+#include "front/console/files_of_commands.h"
 #include "front/console/run_design.h"
+#include "front/console/stop_signal.h"
 #include "front/console/terminal.h"
 
 namespace korvane {
@@ -28,10 +32,31 @@ constexpr std::size_t kMostPerChunk = 64;
 /// A run of files with its lines, once they are done.
 struct Chunk {
   std::size_t first = 0, last = 0;  ///< files first..last-1
-  std::string lines;
+  std::string lines, remarks;
   BatchCounts counts;
   std::atomic<bool> done = false;
 };
+
+/// Designs the files of a chunk, up to the one that a signal leaves out.
+void DesignChunk(const std::vector<std::string>& files, const Design& started, bool optimise,
+                 Design& work, Chunk& chunk) {
+  for (std::size_t f = chunk.first; f < chunk.last && StopSignal::Received() == 0; ++f)
+    AppendBatchLine(files[f], started, work, optimise, chunk.lines, chunk.remarks, chunk.counts);
+  chunk.done = true;
+  chunk.done.notify_one();
+}
+
+/// As many threads as wanted, or as the system gives; without any the work is done here.
+std::vector<std::jthread> StartThreads(int wanted, const std::function<void()>& work) {
+  std::vector<std::jthread> pool;
+  pool.reserve(static_cast<std::size_t>(wanted));
+  try {
+    for (int i = 0; i < wanted; ++i) pool.emplace_back(work);
+  } catch (const std::system_error&) {
+    if (pool.empty()) work();
+  }
+  return pool;
+}
 
 bool IsProjectName(const fs::path& path) {
   std::string extension = path.extension().string();
@@ -40,17 +65,24 @@ bool IsProjectName(const fs::path& path) {
   return extension == ".kvn";
 }
 
-/// A folder that can't be walked to its end gives what was found before.
+void AddProjectsBelow(const fs::path& folder, std::vector<std::string>& found) {
+  std::error_code failed;
+  fs::directory_iterator it(folder, failed);
+  for (const fs::directory_iterator end; !failed && it != end; it.increment(failed)) {
+    std::error_code unknown;
+    if (it->is_directory(unknown)) {
+      // A link to a folder may lead back up.
+      if (!it->is_symlink(unknown)) AddProjectsBelow(it->path(), found);
+    } else if (IsProjectName(it->path())) {
+      found.push_back(it->path().string());
+    }
+  }
+  if (failed) found.push_back(folder.string());
+}
+
 std::vector<std::string> ProjectsBelow(const fs::path& folder) {
   std::vector<std::string> found;
-  std::error_code failed;
-  fs::recursive_directory_iterator it(folder, fs::directory_options::skip_permission_denied,
-                                      failed);
-  for (const fs::recursive_directory_iterator end; !failed && it != end; it.increment(failed)) {
-    std::error_code unknown;
-    if (IsProjectName(it->path()) && !it->is_directory(unknown))
-      found.push_back(it->path().string());
-  }
+  AddProjectsBelow(folder, found);
   std::sort(found.begin(), found.end());
   return found;
 }
@@ -74,8 +106,9 @@ std::vector<Chunk> Chunks(std::size_t files, int threads) {
 
 std::string Totals(const BatchCounts& counts) {
   return std::to_string(counts.All()) + " projects: " + std::to_string(counts.pass) + " pass, " +
-         std::to_string(counts.fail) + " fail, " + std::to_string(counts.fault) +
-         " arithmetic failures, " + std::to_string(counts.unread) + " unreadable\n";
+         std::to_string(counts.fail) + " fail, " + std::to_string(counts.notChecked) +
+         " not checked, " + std::to_string(counts.fault) + " arithmetic failures, " +
+         std::to_string(counts.unread) + " unreadable\n";
 }
 
 }  // namespace
@@ -83,6 +116,7 @@ std::string Totals(const BatchCounts& counts) {
 void BatchCounts::Add(const BatchCounts& other) {
   pass += other.pass;
   fail += other.fail;
+  notChecked += other.notChecked;
   fault += other.fault;
   unread += other.unread;
 }
@@ -90,7 +124,7 @@ void BatchCounts::Add(const BatchCounts& other) {
 int BatchCounts::ExitStatus() const {
   if (unread > 0) return kBadInput;
   if (fault > 0) return kArithmeticFailure;
-  return fail > 0 ? kCheckFails : kAllPass;
+  return fail + notChecked > 0 ? kCheckFails : kAllPass;
 }
 
 std::vector<std::string> FindProjects(const std::vector<std::string>& inputs) {
@@ -138,17 +172,10 @@ BatchCounts DesignFiles(std::shared_ptr<const Library> library,
   std::atomic<std::size_t> next = 0;
   const auto work = [&] {
     Design design = started;
-    for (std::size_t i = next++; i < chunks.size(); i = next++) {
-      Chunk& chunk = chunks[i];
-      for (std::size_t f = chunk.first; f < chunk.last; ++f)
-        AppendBatchLine(files[f], started, design, options.optimise, chunk.lines, chunk.counts);
-      chunk.done = true;
-      chunk.done.notify_one();
-    }
+    for (std::size_t i = next++; i < chunks.size(); i = next++)
+      DesignChunk(files, started, options.optimise, design, chunks[i]);
   };
-  std::vector<std::jthread> pool;
-  pool.reserve(static_cast<std::size_t>(threads));
-  for (int i = 0; i < threads; ++i) pool.emplace_back(work);
+  const std::vector<std::jthread> pool = StartThreads(threads, work);
 
   BatchCounts counts;
   ProgressBar bar(progress, showProgress, "projects");
@@ -156,40 +183,75 @@ BatchCounts DesignFiles(std::shared_ptr<const Library> library,
   for (Chunk& chunk : chunks) {
     chunk.done.wait(false);
     table << chunk.lines;
+    if (!chunk.remarks.empty()) {
+      bar.Finish();
+      progress << chunk.remarks;
+    }
     std::string().swap(chunk.lines);
     counts.Add(chunk.counts);
+    // The lines end where the work did: what other threads did behind it is left out.
+    if (chunk.counts.All() < chunk.last - chunk.first) break;
     bar.Update(chunk.last, files.size());
   }
   bar.Finish();
   return counts;
 }
 
+namespace {
+
+/// The inputs named and those of the list; nothing where the list can't be read.
+std::optional<std::vector<std::string>> InputsOf(const BatchOptions& options) {
+  std::vector<std::string> inputs = options.inputs;
+  if (options.list.empty()) return inputs;
+  const auto bytes = ReadInput(options.list);
+  if (!bytes) return std::nullopt;
+  for (std::string& name : NamesOfList(*bytes)) inputs.push_back(std::move(name));
+  return inputs;
+}
+
+/// The status of a batch that a signal stopped, after a word.
+int TellStopped(int signal, const BatchCounts& counts, std::size_t files, bool toFile,
+                std::ostream& errors) {
+  errors << "stopped by " << (signal == SIGINT ? "SIGINT" : "SIGTERM") << " after " << counts.All()
+         << " of " << files << " projects"
+         << (toFile ? "; the table is not written\n" : "; the table ends there\n");
+  return kStoppedBySignal + signal;
+}
+
+}  // namespace
+
 int RunBatch(std::shared_ptr<const Library> library, const BatchOptions& options,
              std::ostream& output, std::ostream& errors, bool showProgress) {
-  const std::vector<std::string> all = FindProjects(options.inputs);
+  const auto inputs = InputsOf(options);
+  if (!inputs) {
+    errors << "can't read file - " << NameOnErrors(options.list) << '\n';
+    return kBadInput;
+  }
+  const std::vector<std::string> all = FindProjects(*inputs);
   if (all.empty()) {
     errors << "no project (*.kvn) found\n";
     return kBadInput;
   }
   const std::vector<std::string> files = TakeShard(all, options.shard, options.shards);
-  const bool header = options.shard == 1;
-  BatchCounts counts;
-  if (options.csv.empty()) {
-    counts = DesignFiles(std::move(library), files, options, header, output, errors, showProgress);
-    output.flush();
-  } else {
-    // Beside the target and renamed over it at the end: a batch that is stopped leaves the old
-    // table, and a folder that can't be written to shows before the work begins.
-    const std::string beside = options.csv + ".part";
-    std::ofstream table(beside, std::ios::binary | std::ios::trunc);
-    if (table)
-      counts = DesignFiles(std::move(library), files, options, header, table, errors, showProgress);
-    table.close();
-    if (!table || std::rename(beside.c_str(), options.csv.c_str()) != 0) {
-      std::remove(beside.c_str());
-      errors << "can't save file - " << ToUtf8(options.csv) << '\n';
-      return kBadInput;
-    }
+  const bool toFile = !options.csv.empty() && options.csv != kStandardStream;
+  WriteRules rules{all};
+  rules.inputs.push_back(options.list);
+  // What can't be written shows before the work begins.
+  if (const WriteResult refused = toFile ? CheckWritable(options.csv, rules) : WriteResult();
+      !refused) {
+    TellNotSaved(options.csv, refused, errors);
+    return kBadInput;
+  }
+  const StopSignal stop;
+  std::ostringstream made;
+  const BatchCounts counts = DesignFiles(std::move(library), files, options, options.shard == 1,
+                                         toFile ? made : output, errors, showProgress);
+  output.flush();
+  if (const int signal = StopSignal::Received(); signal != 0 && counts.All() < files.size())
+    return TellStopped(signal, counts, files.size(), toFile, errors);
+  if (toFile) {
+    const int failed = SaveOutput(options.csv, made.view(), rules, output, errors);
+    if (failed != kAllPass) return failed;
   }
   errors << Totals(counts);
   return counts.ExitStatus();

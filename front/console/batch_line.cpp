@@ -6,11 +6,13 @@
 #include <cmath>
 #include <exception>
 #include <initializer_list>
+#include <limits>
 #include <string_view>
 
 #include "core/text.h"
 #include "front/console/batch.h"
 #include "front/console/run_design.h"
+#include "front/console/terminal.h"
 #include "optimiser/optimize.h"
 #include "sections/profile_table.h"
 
@@ -18,14 +20,25 @@ namespace korvane {
 namespace {
 
 constexpr const char* kColumns =
-    "file,section,weight_kg_m,max_ir,governing,governing_text,deflection_ratio,status,error";
+    "file,section,weight_kg_m,max_ir,governing,governing_text,deflection_ratio,status,error,"
+    "standing,sls,notes";
 constexpr const char* kOptimisedColumns = ",optimised_section,optimised_weight_kg_m,optimised_ir";
 
 /// The fields of a line; empty where the project did not get so far.
 struct Line {
   std::string section, weight, maxIR, governing, governingText, deflection, status, error;
+  std::string standing, sls, notes;
   std::string optimisedSection, optimisedWeight, optimisedIR;
 };
+
+/// A spreadsheet takes a cell that begins so for a formula.
+constexpr std::string_view kFormulaBegins = "=+-@";
+
+/// A cell of text, as a spreadsheet takes it for one.
+std::string TextCell(std::string_view text) {
+  const bool guarded = !text.empty() && kFormulaBegins.find(text.front()) != std::string_view::npos;
+  return (guarded ? "'" : "") + std::string(text);
+}
 
 void AppendField(std::string_view field, std::string& lines) {
   if (field.find_first_of(",\"\r\n") == std::string_view::npos) {
@@ -92,21 +105,36 @@ std::string DeflectionRatio(const Design& d) {
                          d.deflections.DeflY_min})
     greatest = std::max(greatest, std::fabs(v));
   if (greatest == 0.0) return {};
-  return Digits(static_cast<float>(d.st.L * 1000.0 / greatest));
+  // Beyond single precision there is no deflection worth a ratio.
+  const double ratio = d.st.L * 1000.0 / greatest;
+  if (ratio > static_cast<double>(std::numeric_limits<float>::max())) return {};
+  return Digits(static_cast<float>(ratio));
 }
 
 void FillResults(const Design& d, Line& line) {
   const float maxIR = MaxIR(d.checks);
-  line.section = SectionTitle(d.st, d.lib->catalogues);
+  line.section = TextCell(SectionTitle(d.st, d.lib->catalogues));
   line.weight = Digits(d.rec.S.Single());
   line.maxIR = Digits(maxIR);
   if (const CheckLine* governing = GoverningLine(d.checks)) {
-    line.governing = governing->label;
+    line.governing = TextCell(governing->label);
     line.governingText =
-        governing->formula + governing->numbers + governing->value + governing->limit;
+        TextCell(governing->formula + governing->numbers + governing->value + governing->limit);
   }
   line.deflection = DeflectionRatio(d);
-  line.status = static_cast<double>(maxIR) > d.st.iufa ? "fail" : "pass";
+}
+
+/// The standing also as the older column has it, and the codes of the notes of caution or worse.
+void FillVerdict(const Verdict& v, Line& line) {
+  line.standing = StandingWord(v.standing);
+  line.sls = ServiceabilityWord(v.sls);
+  for (const Note& note : v.notes) {
+    if (note.Weight() == Severity::Information) continue;
+    if (!line.notes.empty()) line.notes += ' ';
+    line.notes += KindOf(note.code).word;
+  }
+  constexpr std::array status{"pass", "fail", "not checked", "fault"};
+  line.status = status.at(static_cast<std::size_t>(v.standing));
 }
 
 /// The lightest size of the project's own series by ULS; nothing for a family without a series
@@ -118,18 +146,22 @@ void FillOptimised(Design& d, Line& line) {
   if (!OptimiseCurrent(d, results)) return;
   const int row = d.st.ProfileType;
   if (!results.Passes[row]) return;
-  line.optimisedSection = SectionTitle(d.st, d.lib->catalogues);
+  line.optimisedSection = TextCell(SectionTitle(d.st, d.lib->catalogues));
   line.optimisedWeight = Digits(d.rec.S.Single());
   line.optimisedIR = Digits(results.BestIR[row].Single());
 }
 
-void DesignOne(const std::string& path, Design& work, bool optimise, Line& line) {
+void DesignOne(const std::string& path, Design& work, bool optimise, Line& line,
+               std::string& remarks) {
   const DesignRun run = RunProject(work, path);
+  for (const std::string& remark : run.remarks)
+    remarks += NameOnErrors(path) + ": " + remark + "\n";
   if (run.file != FileResult::Ok) {
     line.status = "error";
-    line.error = FileMessage(run.file, ToUtf8(path));
+    line.error = FileMessage(run.file, path);
     return;
   }
+  FillVerdict(VerdictOf(work), line);
   if (run.fault) throw ArithmeticFault(run.what);
   FillResults(work, line);
   if (optimise) FillOptimised(work, line);
@@ -142,6 +174,8 @@ void Count(const std::string& status, BatchCounts& counts) {
     ++counts.fail;
   else if (status == "fault")
     ++counts.fault;
+  else if (status == "not checked")
+    ++counts.notChecked;
   else
     ++counts.unread;
 }
@@ -153,11 +187,11 @@ std::string BatchHeader(bool optimise) {
 }
 
 void AppendBatchLine(const std::string& path, const Design& started, Design& work, bool optimise,
-                     std::string& lines, BatchCounts& counts) {
+                     std::string& lines, std::string& remarks, BatchCounts& counts) {
   Line line;
   work = started;
   try {
-    DesignOne(path, work, optimise, line);
+    DesignOne(path, work, optimise, line, remarks);
   } catch (const ArithmeticFault& fault) {
     line.status = "fault";
     line.error = std::string("arithmetic failure in ") + fault.what();
@@ -166,10 +200,10 @@ void AppendBatchLine(const std::string& path, const Design& started, Design& wor
     line.error = other.what();
   }
   Count(line.status, counts);
-  AppendField(ToUtf8(path), lines);
+  AppendField(TextCell(path), lines);
   for (const std::string* field :
        {&line.section, &line.weight, &line.maxIR, &line.governing, &line.governingText,
-        &line.deflection, &line.status, &line.error}) {
+        &line.deflection, &line.status, &line.error, &line.standing, &line.sls, &line.notes}) {
     lines += ',';
     AppendField(*field, lines);
   }

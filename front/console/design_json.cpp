@@ -1,96 +1,103 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/console/design_json.h"
 
-#include <nlohmann/json.hpp>
-
 #include "core/input_fields.h"
+#include "front/console/json_writer.h"
+#include "sections/profile_table.h"
 #include "sections/section_fields.h"
 
 namespace korvane {
 
 namespace {
 
-using nlohmann::ordered_json;
-
-ordered_json Value(const float32& v) {
-  return double(v);
-}
-ordered_json Value(const number& v) {
-  return double(v);
-}
-ordered_json Value(const int16& v) {
-  return int(v);
-}
-ordered_json Value(const std::string& v) {
-  return v;
-}
-ordered_json Value(double v) {
-  return v;
+void Line(JsonWriter& json, const char* name, const CheckLine& line) {
+  json.Object(name, [&] {
+    json.Member("label", line.label);
+    json.Member("formula", line.formula);
+    json.Member("numbers", line.numbers);
+    json.Member("value", line.value);
+    json.Member("limit", line.limit);
+    json.Member("colour", line.colour);
+  });
 }
 
-template <class T, int First, int Last>
-ordered_json Value(const Indexed<T, First, Last>& a, int last = Last) {
-  ordered_json list = ordered_json::array();
-  for (int i = First; i <= last; ++i) list.push_back(Value(a[i]));
-  return list;
-}
-
-ordered_json Line(const CheckLine& line) {
-  return {{"label", line.label}, {"formula", line.formula}, {"numbers", line.numbers},
-          {"value", line.value}, {"limit", line.limit},     {"colour", line.colour}};
-}
-
-ordered_json Analysis(const Design& d) {
+void Analysis(JsonWriter& json, const Design& d) {
   const BeamResults& b = d.beam;
   const int last = b.pt_last;
-  return {{"N", Value(d.forces.N)},         {"MyAbsMax", Value(b.MyAbsMax)},
-          {"MzAbsMax", Value(b.MzAbsMax)},  {"My_gov", Value(b.My_gov)},
-          {"betaMy", Value(b.betaMy)},      {"betaMz", Value(b.betaMz)},
-          {"MyStation", Value(b.z.M)},      {"VzStation", Value(b.z.V)},
-          {"MzStation", Value(b.y.M)},      {"VyStation", Value(b.y.V)},
-          {"My_max", Value(b.z.M_max)},     {"My_min", Value(b.z.M_min)},
-          {"Vz_max", Value(b.z.V_max)},     {"Vz_min", Value(b.z.V_min)},
-          {"Mz_max", Value(b.y.M_max)},     {"Mz_min", Value(b.y.M_min)},
-          {"Vy_max", Value(b.y.V_max)},     {"Vy_min", Value(b.y.V_min)},
-          {"My_q", Value(b.z.M_q)},         {"Mz_q", Value(b.y.M_q)},
-          {"My_zero1", Value(b.z.M_zero1)}, {"My_zero2", Value(b.z.M_zero2)},
-          {"Mz_zero1", Value(b.y.M_zero1)}, {"Mz_zero2", Value(b.y.M_zero2)},
-          {"pt_first", Value(b.pt_first)},  {"pt_last", Value(b.pt_last)},
-          {"pt_x", Value(b.pt_x, last)},    {"My_pt", Value(b.z.M_pt, last)},
-          {"Vz_pt", Value(b.z.V_pt, last)}, {"Mz_pt", Value(b.y.M_pt, last)},
-          {"Vy_pt", Value(b.y.V_pt, last)}};
+  json.Member("N", d.forces.N);
+  json.Member("MyAbsMax", b.MyAbsMax);
+  json.Member("MzAbsMax", b.MzAbsMax);
+  json.Member("My_gov", b.My_gov);
+  json.Member("betaMy", b.betaMy);
+  json.Member("betaMz", b.betaMz);
+  json.Member("MyStation", b.z.M);
+  json.Member("VzStation", b.z.V);
+  json.Member("MzStation", b.y.M);
+  json.Member("VyStation", b.y.V);
+  json.Member("My_max", b.z.M_max);
+  json.Member("My_min", b.z.M_min);
+  json.Member("Vz_max", b.z.V_max);
+  json.Member("Vz_min", b.z.V_min);
+  json.Member("Mz_max", b.y.M_max);
+  json.Member("Mz_min", b.y.M_min);
+  json.Member("Vy_max", b.y.V_max);
+  json.Member("Vy_min", b.y.V_min);
+  json.Member("My_q", b.z.M_q);
+  json.Member("Mz_q", b.y.M_q);
+  json.Member("My_zero1", b.z.M_zero1);
+  json.Member("My_zero2", b.z.M_zero2);
+  json.Member("Mz_zero1", b.y.M_zero1);
+  json.Member("Mz_zero2", b.y.M_zero2);
+  json.Member("pt_first", b.pt_first);
+  json.Member("pt_last", b.pt_last);
+  json.List("pt_x", b.pt_x, last);
+  json.List("My_pt", b.z.M_pt, last);
+  json.List("Vz_pt", b.z.V_pt, last);
+  json.List("Mz_pt", b.y.M_pt, last);
+  json.List("Vy_pt", b.y.V_pt, last);
 }
 
-ordered_json Deflection(const Deflections& d) {
-  return {{"DeflZ", Value(d.DeflZ)},         {"DeflY", Value(d.DeflY)},
-          {"DeflZ_max", Value(d.DeflZ_max)}, {"DeflZ_min", Value(d.DeflZ_min)},
-          {"DeflY_max", Value(d.DeflY_max)}, {"DeflY_min", Value(d.DeflY_min)},
-          {"DeflStiff", Value(d.DeflStiff)}};
+void Deflection(JsonWriter& json, const Deflections& d) {
+  json.Member("DeflZ", d.DeflZ);
+  json.Member("DeflY", d.DeflY);
+  json.Member("DeflZ_max", d.DeflZ_max);
+  json.Member("DeflZ_min", d.DeflZ_min);
+  json.Member("DeflY_max", d.DeflY_max);
+  json.Member("DeflY_min", d.DeflY_min);
+  json.Member("DeflStiff", d.DeflStiff);
 }
 
-ordered_json Ltb(const Design& d) {
+void Ltb(JsonWriter& json, const Design& d) {
   const LtbResults& l = d.ltb;
-  return {{"C1", Value(l.C1)},
-          {"C2", Value(l.C2)},
-          {"C3", Value(l.C3)},
-          {"zg", Value(l.zg)},
-          {"Lk", Value(l.Lk)},
-          {"Mcr", Value(l.Mcr)},
-          {"lamLT", Value(l.lamLT)},
-          {"chiLT", Value(l.chiLT)},
-          {"chiLT_min", Value(l.chiLT_min)},
-          {"Mdb", Value(l.Mdb)},
-          {"Mdb_min", Value(l.Mdb_min)},
-          {"LtbSegment", Value(d.st.LtbCriticalSegment)},
-          {"LtbSegmentText", l.LtbSegmentText}};
+  json.Member("C1", l.C1);
+  json.Member("C2", l.C2);
+  json.Member("C3", l.C3);
+  json.Member("zg", l.zg);
+  json.Member("Lk", l.Lk);
+  json.Member("Mcr", l.Mcr);
+  json.Member("lamLT", l.lamLT);
+  json.Member("chiLT", l.chiLT);
+  json.Member("chiLT_min", l.chiLT_min);
+  json.Member("Mdb", l.Mdb);
+  json.Member("Mdb_min", l.Mdb_min);
+  json.Member("LtbSegment", d.st.LtbCriticalSegment);
+  json.Member("LtbSegmentText", l.LtbSegmentText);
 }
 
-ordered_json Buckling(const BucklingResults& b) {
-  return {{"Lybar", Value(b.Lybar)},     {"Lzbar", Value(b.Lzbar)}, {"LyOverI", Value(b.LyOverI)},
-          {"LzOverI", Value(b.LzOverI)}, {"Xy", Value(b.Xy)},       {"Xz", Value(b.Xz)},
-          {"Xmin", Value(b.Xmin)},       {"Nyd", Value(b.Nyd)},     {"Nzd", Value(b.Nzd)},
-          {"NXmin", Value(b.NXmin)},     {"ky", Value(b.ky)},       {"kz", Value(b.kz)},
-          {"klt", Value(b.klt)}};
+void Buckling(JsonWriter& json, const BucklingResults& b) {
+  json.Member("Lybar", b.Lybar);
+  json.Member("Lzbar", b.Lzbar);
+  json.Member("LyOverI", b.LyOverI);
+  json.Member("LzOverI", b.LzOverI);
+  json.Member("Xy", b.Xy);
+  json.Member("Xz", b.Xz);
+  json.Member("Xmin", b.Xmin);
+  json.Member("Nyd", b.Nyd);
+  json.Member("Nzd", b.Nzd);
+  json.Member("NXmin", b.NXmin);
+  json.Member("ky", b.ky);
+  json.Member("kz", b.kz);
+  json.Member("klt", b.klt);
 }
 
 /// 0 where the ratios are too large for it.
@@ -102,44 +109,67 @@ double MaxIROrZero(const CheckResults& c) {
   }
 }
 
-ordered_json Checks(const CheckResults& c) {
-  return {{"IRsection", Value(c.IRsection)},
-          {"IRvz", Value(c.IRvz)},
-          {"IRvy", Value(c.IRvy)},
-          {"IRlateral", Value(c.IRlateral)},
-          {"IRny", Value(c.IRny)},
-          {"IRnz", Value(c.IRnz)},
-          {"IRcombinedY", Value(c.IRcombinedY)},
-          {"IRcombinedZ", Value(c.IRcombinedZ)},
-          {"ClassGoverning", Value(c.ClassGoverning)},
-          {"MaxIR", Value(MaxIROrZero(c))},
-          {"lineSection", Line(c.lineSection)},
-          {"lineVz", Line(c.lineVz)},
-          {"lineVy", Line(c.lineVy)},
-          {"lineLateral", Line(c.lineLateral)},
-          {"lineBucklingY", Line(c.lineBucklingY)},
-          {"lineBucklingZ", Line(c.lineBucklingZ)},
-          {"lineSlenderness", Line(c.lineSlenderness)}};
+void Checks(JsonWriter& json, const CheckResults& c) {
+  json.Member("IRsection", c.IRsection);
+  json.Member("IRvz", c.IRvz);
+  json.Member("IRvy", c.IRvy);
+  json.Member("IRlateral", c.IRlateral);
+  json.Member("IRny", c.IRny);
+  json.Member("IRnz", c.IRnz);
+  json.Member("IRcombinedY", c.IRcombinedY);
+  json.Member("IRcombinedZ", c.IRcombinedZ);
+  json.Member("ClassGoverning", c.ClassGoverning);
+  json.Member("MaxIR", MaxIROrZero(c));
+  Line(json, "lineSection", c.lineSection);
+  Line(json, "lineVz", c.lineVz);
+  Line(json, "lineVy", c.lineVy);
+  Line(json, "lineLateral", c.lineLateral);
+  Line(json, "lineBucklingY", c.lineBucklingY);
+  Line(json, "lineBucklingZ", c.lineBucklingZ);
+  Line(json, "lineSlenderness", c.lineSlenderness);
+}
+
+void VerdictMembers(JsonWriter& json, const Design& d) {
+  const Verdict v = VerdictOf(d);
+  json.Member("standing", StandingWord(v.standing));
+  json.Member("sls", ServiceabilityWord(v.sls));
+  json.Member("IR", v.IR);
+  json.Member("governing", GoverningLabel(v));
+  json.Objects("notes", v.notes, [&](const Note& note) {
+    const NoteKind& kind = KindOf(note.code);
+    json.Member("code", kind.word);
+    json.Member("severity", SeverityWord(kind.severity));
+    json.Member("text", NoteText(note, d.lib->catalogues));
+  });
 }
 
 }  // namespace
 
 std::string DesignJson(const Design& d, const std::optional<std::string>& fault) {
-  ordered_json json;
-  json["fault"] = fault ? ordered_json(*fault) : ordered_json(nullptr);
-  ordered_json& state = json["state"];
-  ForEachField(d.st, [&](const char* name, const auto& field) { state[name] = Value(field); });
-  ordered_json& section = json["section"];
-  ForEachSectionField(d.rec,
-                      [&](const char* name, const auto& field) { section[name] = Value(field); });
-  json["analysis"] = Analysis(d);
-  json["deflection"] = Deflection(d.deflections);
-  json["modal"] = {{"ModalMass", Value(d.modal.ModalMass)},
-                   {"ModalFreq", Value(d.modal.ModalFreq)}};
-  json["ltb"] = Ltb(d);
-  json["buckling"] = Buckling(d.buckling);
-  json["checks"] = Checks(d.checks);
-  return json.dump(2, ' ', false, ordered_json::error_handler_t::replace);
+  JsonWriter json;
+  const auto member = [&](const char* name, const auto& field) { json.Member(name, field); };
+  // Of an unknown family no section was loaded: what the record holds is another one's.
+  const bool known = FindFamily(d.st.ProfileType) != nullptr;
+  return json.Take([&] {
+    if (fault) {
+      json.Member("fault", *fault);
+    } else {
+      json.Member("fault", nullptr);
+    }
+    json.Object("verdict", [&] { VerdictMembers(json, d); });
+    json.Object("state", [&] { ForEachField(d.st, member); });
+    json.Object("section", [&] { ForEachSectionField(known ? d.rec : SectionRecord{}, member); });
+    json.Object("analysis", [&] { Analysis(json, d); });
+    json.Object("deflection", [&] { Deflection(json, known ? d.deflections : Deflections{}); });
+    json.Object("modal", [&] {
+      const ModalResults modal = known ? d.modal : ModalResults{};
+      json.Member("ModalMass", modal.ModalMass);
+      json.Member("ModalFreq", modal.ModalFreq);
+    });
+    json.Object("ltb", [&] { Ltb(json, d); });
+    json.Object("buckling", [&] { Buckling(json, d.buckling); });
+    json.Object("checks", [&] { Checks(json, d.checks); });
+  });
 }
 
 }  // namespace korvane

@@ -108,7 +108,8 @@ void AddLateral(std::string& out, const Design& d) {
 
 void AddDeflection(std::string& out, const Design& d, const char* axis, double max, double min) {
   const double extreme = std::fabs(min) >= std::fabs(max) ? min : max;
-  const double ratio = extreme == 0 ? 0 : d.st.L * 1000 / std::fabs(extreme);
+  // Less than a thousandth of a millimetre is none.
+  const double ratio = std::fabs(extreme) < 1E-3 ? 0 : d.st.L * 1000 / std::fabs(extreme);
   out += std::string("Deflection (SLS): ") + axis + " = " + Format(extreme, "#0.0") + " mm, L/" +
          Format(ratio, "#0") + "\n";
 }
@@ -126,7 +127,32 @@ void AddModal(std::string& out, const Design& d) {
   }
 }
 
+/// The standing in colour, the greatest ratio with its check, and the notes.
+void AddVerdict(std::string& out, const Design& d, bool colour) {
+  const Verdict v = VerdictOf(d);
+  const TextRun standing{StandingWord(v.standing), true, false, v.Passes() ? 2 : 4};
+  out += "Verdict: " + Paint(standing, colour) + "   greatest IR = " + Format(v.IR, "0.00") +
+         " (limit " + Format(v.limit, "0.00") + ")";
+  const std::string governing = GoverningLabel(v);
+  if (!governing.empty()) out += ", " + governing;
+  if (v.sls != Serviceability::None) {
+    out += std::string("   serviceability: ") + ServiceabilityWord(v.sls);
+  }
+  out += "\n";
+  for (const Note& note : v.notes) {
+    const NoteKind& kind = KindOf(note.code);
+    out += "  " + std::string(SeverityWord(kind.severity)) + ": " +
+           NoteText(note, d.lib->catalogues) + " [" + kind.word + "]\n";
+  }
+}
+
 }  // namespace
+
+std::string VerdictText(const Design& d, bool colour) {
+  std::string out;
+  AddVerdict(out, d, colour);
+  return out;
+}
 
 std::string DesignText(const Design& d, bool colour) {
   std::string out;
@@ -145,15 +171,13 @@ std::string DesignText(const Design& d, bool colour) {
     AddView(out, BucklingLong(d.st, d.checks, d.buckling, tooLong), colour);
   }
   out += "\n";
-  if (d.st.AnalysisMode == 1) {
+  // Of an unknown family no section bends.
+  if (d.st.AnalysisMode == 1 && FindFamily(d.st.ProfileType) != nullptr) {
     AddDeflection(out, d, "z", d.deflections.DeflZ_max, d.deflections.DeflZ_min);
     AddDeflection(out, d, "y", d.deflections.DeflY_max, d.deflections.DeflY_min);
   }
   AddModal(out, d);
-  const double ir = MaxIR(d.checks);
-  const bool pass = ir <= d.st.iufa;
-  out += "Greatest IR = " + Paint({Format(ir, "0.00"), true, false, pass ? 2 : 4}, colour) +
-         (pass ? "  OK" : "  FAILS") + " (limit " + Format(d.st.iufa, "0.00") + ")\n";
+  AddVerdict(out, d, colour);
   return out;
 }
 

@@ -13,4 +13,7 @@ namespace korvane {
 /// of checks are green or red.
 std::string DesignText(const Design& design, bool colour);
 
+/// The verdict alone, as at the foot of DesignText: for a calculation that stopped.
+std::string VerdictText(const Design& design, bool colour);
+
 }  // namespace korvane

@@ -1,19 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The console program: designs of members for scripts and batches.
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
 
-#include "front/console/data_folder.h"
 #include "front/console/design_json.h"
 #include "front/console/design_text.h"
 #include "front/console/exit_status.h"
+#include "front/console/files_of_commands.h"
 #include "front/console/more_commands.h"
+#include "front/console/nearest.h"
 #include "front/console/paint.h"
 #include "front/console/run_design.h"
 #include "front/console/script.h"
 #include "front/console/terminal.h"
+#include "front/data_folder.h"
+#include "front/locale.h"
 #include "sections/names.h"
 #include "sections/profile_table.h"
 
@@ -21,34 +26,36 @@ namespace {
 
 using namespace korvane;
 
+/// A terminal would obey the control characters in the texts of a file.
+void MakeNamesVisible(ProjectState& st) {
+  for (std::string* name : {&st.iproj, &st.iident, &st.p41_name}) *name = Visible(*name);
+}
+
 int RunDesign(const std::string& file, const std::string& data, bool json) {
   Design design = StartedDesign(ReadLibrary(FindDataFolder(data)));
   const DesignRun run = RunProject(design, file);
   if (run.file != FileResult::Ok) {
-    std::cerr << FileMessage(run.file, file) << "\n";
+    std::cerr << FileMessage(run.file, NameOnErrors(file)) << "\n";
     return kBadInput;
   }
+  for (const std::string& remark : run.remarks) std::cerr << remark << "\n";
   for (const std::string& message : design.messages) std::cerr << message << "\n";
   if (run.fault) std::cerr << "arithmetic failure in " << run.what << "\n";
   if (json) {
     std::cout << DesignJson(design, run.fault) << "\n";
-  } else if (!run.fault) {
-    std::cout << DesignText(design, ColourWanted());
+  } else {
+    if (OutputIsTerminal()) MakeNamesVisible(design.st);
+    std::cout << (run.fault ? VerdictText(design, ColourWanted())
+                            : DesignText(design, ColourWanted()));
   }
-  if (run.fault) return kArithmeticFailure;
-  return MaxIR(design.checks) <= design.st.iufa ? kAllPass : kCheckFails;
+  return StatusOf(VerdictOf(design));
 }
 
 int RunNew(const std::string& output, const std::string& data) {
   Design design(ReadLibrary(FindDataFolder(data)));
   StartDesign(design);
-  if (output.empty()) {
-    std::cout << ProjectText(design.st);
-    return kAllPass;
-  }
-  if (SaveProject(output, design.st) == FileResult::Ok) return kAllPass;
-  std::cerr << "can't save file - " << output << "\n";
-  return kBadInput;
+  const std::string& path = output.empty() ? std::string(kStandardStream) : output;
+  return SaveOutput(path, ProjectText(design.st), {}, std::cout, std::cerr);
 }
 
 const Family* FamilyByName(const std::string& name) {
@@ -94,14 +101,28 @@ int RunCatalogue(const std::string& name, const std::string& data) {
 int RunSession(const std::string& script, const std::string& decimal, const std::string& data) {
   const auto library = ReadLibrary(FindDataFolder(data));
   const bool comma = decimal.empty() ? LocaleWritesComma() : decimal == "comma";
-  if (script.empty()) return RunScript(library, comma, std::cin, std::cout, std::cerr);
+  if (script.empty() || script == kStandardStream)
+    return RunScript(library, comma, std::cin, std::cout, std::cerr);
   std::ifstream file(script);
   file.peek();  // a folder opens, but can't be read
   if (!file.is_open() || file.bad()) {
-    std::cerr << "can't find file - " << script << "\n";
+    std::cerr << "can't find file - " << NameOnErrors(script) << "\n";
     return kBadInput;
   }
   return RunScript(library, comma, file, std::cout, std::cerr);
+}
+
+/// False, after a word, for a command that doesn't exist.
+bool TellUnknownCommand(const CLI::App& app, const std::string& word) {
+  if (word.empty() || word.front() == '-') return true;
+  std::vector<std::string> commands;
+  for (const CLI::App* command : app.get_subcommands(nullptr)) {
+    commands.push_back(command->get_name());
+  }
+  if (std::find(commands.begin(), commands.end(), word) != commands.end()) return true;
+  std::cerr << "unknown command " << NameOnErrors(word)
+            << " (nearest: " << NearestWord(word, commands) << ")\n";
+  return false;
 }
 
 }  // namespace
@@ -121,13 +142,14 @@ int main(int argc, char** argv) {
     command->add_option("--data", data, "folder of the data files");
   };
   CLI::App* design = app.add_subcommand("design", "design the member of a project file");
-  design->add_option("file", file, "project file (*.kvn)")->required();
+  design->add_option("file", file, "project file (*.kvn); - is the standard input")->required();
   design->add_flag("--json", json, "print everything as one JSON object");
   addData(design);
   design->callback([&] { status = RunDesign(file, data, json); });
 
   CLI::App* fresh = app.add_subcommand("new", "write the project that a new one starts with");
-  fresh->add_option("-o,--output", output, "project file to write (else standard output)");
+  fresh->add_option("-o,--output", output,
+                    "project file to write (else, or for -, the standard output)");
   addData(fresh);
   fresh->callback([&] { status = RunNew(output, data); });
 
@@ -146,6 +168,9 @@ int main(int argc, char** argv) {
   AddBatchCommands(app, status);
   AddPaintCommands(app, status);
 
+  // A limit on the size of files is told as a full disk.
+  std::signal(SIGXFSZ, SIG_IGN);
+  if (argc > 1 && !TellUnknownCommand(app, argv[1])) return kBadInput;
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -7,10 +7,11 @@
 
 #include "core/input_fields.h"
 #include "front/console/batch.h"
-#include "front/console/data_folder.h"
 #include "front/console/exit_status.h"
+#include "front/console/files_of_commands.h"
 #include "front/console/optimise.h"
 #include "front/console/terminal.h"
+#include "front/data_folder.h"
 
 namespace korvane {
 namespace {
@@ -38,7 +39,7 @@ int Optimise(const OptimiseArguments& arguments) {
   }
   options.rows = *rows;
   const auto library = ReadLibrary(FindDataFolder(arguments.data));
-  return RunOptimise(library, options, std::cout, std::cerr, ColourWanted(), ErrorsAreTerminal());
+  return RunOptimise(library, options, std::cout, std::cerr, ColourWanted(), ProgressWanted());
 }
 
 int Batch(const BatchArguments& arguments) {
@@ -47,15 +48,24 @@ int Batch(const BatchArguments& arguments) {
     std::cerr << "--shard I/N: N files apart from the I-th on, 1 <= I <= N\n";
     return kBadInput;
   }
+  if (options.inputs.empty() && options.list.empty()) {
+    std::cerr << "INPUTS is required, or --list\n";
+    return kBadInput;
+  }
   const auto library = ReadLibrary(FindDataFolder(arguments.data));
-  return RunBatch(library, options, std::cout, std::cerr, ErrorsAreTerminal());
+  // A bar among the lines of a table helps nobody.
+  const bool toTerminal =
+      (options.csv.empty() || options.csv == kStandardStream) && OutputIsTerminal();
+  return RunBatch(library, options, std::cout, std::cerr, ProgressWanted() && !toTerminal);
 }
 
 void AddOptimise(CLI::App& app, int& status) {
   const auto arguments = std::make_shared<OptimiseArguments>();
   CLI::App* command =
       app.add_subcommand("optimise", "find the lightest passing size of each rolled series");
-  command->add_option("FILE", arguments->options.file, "project file (*.kvn)")->required();
+  command
+      ->add_option("FILE", arguments->options.file, "project file (*.kvn); - is the standard input")
+      ->required();
   command->add_option("--criterion", arguments->options.criterion, "uls, sls or uls-sls")
       ->check(CLI::IsMember({"uls", "sls", "uls-sls"}));
   command->add_option("--families", arguments->families, "series to search, of " + SeriesWords());
@@ -63,8 +73,9 @@ void AddOptimise(CLI::App& app, int& status) {
       "--limit", arguments->limit,
       "deflection limit L/X, " + RangeWords(InputOf(&ProjectState::DeflectionLimit).field->limit));
   command->add_flag("--json", arguments->options.json, "print one JSON object");
-  command->add_option("-o,--output", arguments->options.save,
-                      "save the project with the lightest passing section");
+  command->add_option(
+      "-o,--output", arguments->options.save,
+      "save the project with the lightest passing section; - is the standard output");
   command->add_option("--data", arguments->data, "folder of the data files");
   command->callback([arguments, limit, &status] {
     if (limit->count() > 0) arguments->options.limit = arguments->limit;
@@ -75,8 +86,12 @@ void AddOptimise(CLI::App& app, int& status) {
 void AddBatch(CLI::App& app, int& status) {
   const auto arguments = std::make_shared<BatchArguments>();
   CLI::App* command = app.add_subcommand("batch", "design many projects, a line of CSV each");
-  command->add_option("INPUTS", arguments->options.inputs, "project files and folders")->required();
-  command->add_option("--csv", arguments->options.csv, "write the table to this file");
+  command->add_option("INPUTS", arguments->options.inputs,
+                      "project files and folders; - is the standard input");
+  command->add_option("--list", arguments->options.list,
+                      "file with more of them, one a line; - is the standard input");
+  command->add_option("--csv", arguments->options.csv,
+                      "write the table to this file; - is the standard output");
   command->add_option("--jobs", arguments->options.jobs, "threads; as many as cores if not given")
       ->check(CLI::Range(1, 1024));
   command->add_flag("--optimise", arguments->options.optimise,

@@ -13,6 +13,7 @@
 #include "core/input_fields.h"
 #include "core/text.h"
 #include "front/console/exit_status.h"
+#include "front/console/files_of_commands.h"
 #include "front/console/run_design.h"
 #include "front/console/terminal.h"
 
@@ -125,9 +126,10 @@ bool ArgumentsHold(const OptimiseOptions& options, std::ostream& errors) {
 int Opened(const OptimiseOptions& options, Design& design, std::ostream& errors) {
   const DesignRun run = RunProject(design, options.file);
   if (run.file != FileResult::Ok) {
-    errors << FileMessage(run.file, ToUtf8(options.file)) << '\n';
+    errors << FileMessage(run.file, NameOnErrors(options.file)) << '\n';
     return kBadInput;
   }
+  for (const std::string& remark : run.remarks) errors << remark << '\n';
   if (!CanOptimise(design.st)) {
     errors << kOnlyDatabaseProfiles << '\n';
     return kBadInput;
@@ -139,14 +141,12 @@ int Opened(const OptimiseOptions& options, Design& design, std::ostream& errors)
 
 /// Saves the project with the section found. Returns the exit status.
 int SaveBest(const OptimiseOptions& options, const std::optional<ProjectState>& best,
-             std::ostream& errors) {
+             std::ostream& output, std::ostream& errors) {
   if (!best) {
     errors << "no section passes, nothing is saved\n";
     return kCheckFails;
   }
-  if (SaveProject(options.save, *best) == FileResult::Ok) return kAllPass;
-  errors << "can't save file - " << ToUtf8(options.save) << '\n';
-  return kBadInput;
+  return SaveOutput(options.save, ProjectText(*best), {{options.file}}, output, errors);
 }
 
 int Candidates(const std::vector<int>& rows) {
@@ -229,12 +229,14 @@ int RunOptimise(std::shared_ptr<const Library> library, const OptimiseOptions& o
     bar.Finish();
     const bool save = !options.save.empty();
     const ProjectState& inForce = save && best ? *best : design.st;
+    // The project on the standard output stands there alone.
+    std::ostream& table = options.save == kStandardStream ? errors : output;
     if (options.json)
-      PrintJson(rows, options, inForce, output);
+      PrintJson(rows, options, inForce, table);
     else
-      PrintTable(rows, options, inForce, output, colour);
-    output.flush();
-    if (save) return SaveBest(options, best, errors);
+      PrintTable(rows, options, inForce, table, colour);
+    table.flush();
+    if (save) return SaveBest(options, best, output, errors);
     return best ? kAllPass : kCheckFails;
   } catch (const ArithmeticFault& fault) {
     bar.Finish();

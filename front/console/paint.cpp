@@ -8,14 +8,18 @@
 #include <ctime>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 
-#include "front/console/data_folder.h"
 #include "front/console/exit_status.h"
+#include "front/console/files_of_commands.h"
 #include "front/console/run_design.h"
+#include "front/console/terminal.h"
+#include "front/data_folder.h"
 #include "front/painter/paint_files.h"
 #include "presentation/aprint.h"
 #include "presentation/figures.h"
 #include "presentation/grafik.h"
+#include "presentation/svg_target.h"
 
 namespace korvane {
 
@@ -23,8 +27,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Paints through the loadable module beside the program or in the library folder.
-std::string Paint(const PaintJob& job) {
+/// Paints through the loadable module beside the program or in the library folder. Returns an
+/// empty text, or what went wrong.
+std::string PaintByModule(const PaintJob& job, std::string& bytes) {
   std::error_code ignored;
   const fs::path here = fs::read_symlink("/proc/self/exe", ignored).parent_path();
   for (const fs::path& folder : {here, here / KORVANE_MODULE_FROM_BIN}) {
@@ -35,7 +40,7 @@ std::string Paint(const PaintJob& job) {
     const auto entry = reinterpret_cast<PaintEntry>(dlsym(handle, kPaintEntry));
     if (entry == nullptr) return std::string("can't load the painter: ") + dlerror();
     std::string error;
-    entry(&job, &error);
+    entry(&job, &bytes, &error);
     return error;
   }
   return std::string("the painter ") + kPaintModule + " is not installed";
@@ -49,16 +54,55 @@ ReportTime Now() {
 }
 
 struct Arguments {
-  std::string file, kind = "control", what, output, data;
+  std::string file, kind = "control", what, output, format, data;
 };
+
+enum class Format { Pdf, Svg, Png };
+
+struct FormatWord {
+  const char* word;
+  Format format;
+};
+
+constexpr std::array kFormats{FormatWord{"pdf", Format::Pdf}, FormatWord{"svg", Format::Svg},
+                              FormatWord{"png", Format::Png}};
+
+/// The format asked for, else that of the output's ending; nothing for any other ending.
+std::optional<Format> FormatOf(const Arguments& a, Format onStandardOutput) {
+  std::string word = a.format;
+  if (word.empty()) {
+    if (a.output == kStandardStream) return onStandardOutput;
+    word = fs::path(a.output).extension().string();
+    word.erase(0, 1);
+    for (char& c : word)
+      if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  for (const FormatWord& format : kFormats)
+    if (word == format.word) return format.format;
+  return std::nullopt;
+}
+
+/// One file that a command has made.
+struct Made {
+  std::string path, bytes;
+};
+
+/// OUT-N.EXT for a page of several.
+std::string PagePath(const std::string& path, std::size_t number) {
+  const fs::path whole(path);
+  const std::string name =
+      whole.stem().string() + "-" + std::to_string(number) + whole.extension().string();
+  return (whole.parent_path() / name).string();
+}
 
 /// The design of the file, or the exit status that says why there is none.
 int Prepare(const Arguments& a, Design& design) {
   const DesignRun run = RunProject(design, a.file);
   if (run.file != FileResult::Ok) {
-    std::cerr << FileMessage(run.file, a.file) << "\n";
+    std::cerr << FileMessage(run.file, NameOnErrors(a.file)) << "\n";
     return kBadInput;
   }
+  for (const std::string& remark : run.remarks) std::cerr << remark << "\n";
   if (run.fault) {
     std::cerr << "arithmetic failure in " << run.what << "\n";
     return kArithmeticFailure;
@@ -66,32 +110,101 @@ int Prepare(const Arguments& a, Design& design) {
   return kAllPass;
 }
 
-int Finish(const PaintJob& job) {
-  const std::string error = Paint(job);
-  if (error.empty()) return kAllPass;
-  std::cerr << error << "\n";
-  return kBadInput;
+/// One page in its format. Returns an empty text, or what went wrong.
+std::string PaintPage(const PaintJob& job, Format format, std::size_t page, std::string& bytes) {
+  if (format == Format::Svg) {
+    SvgTarget target(job.width, job.height, job.title, Palette::Light());
+    job.pages.at(page)(target);
+    bytes = target.Document();
+    return {};
+  }
+  PaintJob one = job;
+  one.format = PaintFormat::Png;
+  one.pages = {job.pages.at(page)};
+  return PaintByModule(one, bytes);
+}
+
+/// Paints everything before anything is written: a PDF holds all pages, a picture one.
+std::string PaintAll(const PaintJob& job, Format format, const std::string& output,
+                     std::vector<Made>& made) {
+  if (format == Format::Pdf) return PaintByModule(job, made.emplace_back(Made{output, {}}).bytes);
+  const bool several = job.pages.size() > 1;
+  for (std::size_t page = 0; page < job.pages.size(); ++page) {
+    Made& file = made.emplace_back(Made{several ? PagePath(output, page + 1) : output, {}});
+    const std::string error = PaintPage(job, format, page, file.bytes);
+    if (!error.empty()) return error;
+  }
+  return {};
+}
+
+/// Paints and writes. Returns the exit status, after a word where something failed.
+int Finish(const PaintJob& job, const Arguments& a, Format onStandardOutput) {
+  const auto format = FormatOf(a, onStandardOutput);
+  if (!format) {
+    std::cerr << "the output must end in .pdf, .svg or .png - " << NameOnErrors(a.output) << "\n";
+    return kBadInput;
+  }
+  if (*format != Format::Pdf && job.pages.size() > 1 && a.output == kStandardStream) {
+    std::cerr << "several pictures need several files - name them with -o\n";
+    return kBadInput;
+  }
+  std::vector<Made> made;
+  const std::string error = PaintAll(job, *format, a.output, made);
+  if (!error.empty()) {
+    std::cerr << error << "\n";
+    return kBadInput;
+  }
+  const WriteRules rules{{a.file}};
+  for (const Made& file : made)
+    if (const int status = SaveOutput(file.path, file.bytes, rules, std::cout, std::cerr))
+      return status;
+  if (made.size() > 1)
+    for (const Made& file : made) std::cout << file.path << "\n";
+  return kAllPass;
+}
+
+/// The sheets behind a word.
+struct Sheets {
+  const char* word;
+  std::vector<Report> reports;
+};
+
+const std::vector<Sheets>& AllSheets() {
+  using enum Report;
+  static const std::vector<Sheets> all{
+      {"section", {SectionProperty}},
+      {"control", {SectionAndStability}},
+      {"checker", {Checker}},
+      {"both", {SectionProperty, SectionAndStability}},
+      {"all", {SectionProperty, SectionAndStability, Checker}},
+  };
+  return all;
+}
+
+const std::vector<Report>& ReportsOf(const std::string& kind) {
+  const auto& all = AllSheets();
+  return std::find_if(all.begin(), all.end(), [&](const Sheets& s) { return kind == s.word; })
+      ->reports;
 }
 
 int RunReport(const Arguments& a) {
   Design design = StartedDesign(ReadLibrary(FindDataFolder(a.data)));
   if (const int status = Prepare(a, design)) return status;
   PaintJob job;
-  job.path = a.output;
   job.width = kPageWidth;
   job.height = kPageHeight;
   const ReportTime time = Now();
-  for (const Report report : {Report::SectionProperty, Report::SectionAndStability}) {
-    const bool section = report == Report::SectionProperty;
-    if (a.kind != "both" && (a.kind == "section") != section) continue;
+  for (const Report report : ReportsOf(a.kind)) {
     job.title = ReportTitle(report);
     job.pages.emplace_back(
         [&design, report, time](DrawingTarget& page) { DrawReport(page, report, design, time); });
   }
   job.title += " - " + design.st.iproj + " - " + design.st.iident;
-  job.attachmentName = fs::path(a.file).filename().string();
+  job.attachmentName =
+      a.file == kStandardStream ? "project.kvn" : fs::path(a.file).filename().string();
   job.attachment = ProjectText(design.st);
-  return Finish(job);
+  if (const int status = Finish(job, a, Format::Pdf)) return status;
+  return StatusOf(VerdictOf(design));
 }
 
 /// What can be drawn, and the diagrams behind a word.
@@ -133,7 +246,6 @@ int RunDraw(const Arguments& a) {
   Design design = StartedDesign(ReadLibrary(FindDataFolder(a.data)));
   if (const int status = Prepare(a, design)) return status;
   PaintJob job;
-  job.path = a.output;
   job.title = "KORVANE - " + a.what + " - " + design.st.iproj;
   const DiagramStyle style;
   const DiagramData data{design.st, design.beam, design.deflections, design.forces.N};
@@ -144,7 +256,7 @@ int RunDraw(const Arguments& a) {
       DrawSectionFigure(t, Box{0, 0, job.width, job.height}, Destination::Page, design.st,
                         design.rec, FigureOptions{});
     });
-    return Finish(job);
+    return Finish(job, a, Format::Svg);
   }
   constexpr double scale = 6;  // points per grid unit
   const auto kinds = ForMode(drawing->diagrams, design.st.AnalysisMode == 1);
@@ -159,7 +271,7 @@ int RunDraw(const Arguments& a) {
       top += height;
     }
   });
-  return Finish(job);
+  return Finish(job, a, Format::Svg);
 }
 
 }  // namespace
@@ -167,14 +279,25 @@ int RunDraw(const Arguments& a) {
 void AddPaintCommands(CLI::App& app, int& status) {
   const auto a = std::make_shared<Arguments>();
   const auto common = [&a](CLI::App* command) {
-    command->add_option("file", a->file, "project file (*.kvn)")->required();
-    command->add_option("-o,--output", a->output, "file to write: .pdf, .svg or .png")->required();
+    command->add_option("file", a->file, "project file (*.kvn); - is the standard input")
+        ->required();
+    command
+        ->add_option("-o,--output", a->output,
+                     "file to write: .pdf, .svg or .png; - is the standard output")
+        ->required();
+    command->add_option("--format", a->format, "pdf, svg or png, whatever the file's name")
+        ->check(CLI::IsMember({"pdf", "svg", "png"}));
     command->add_option("--data", a->data, "folder of the data files");
   };
   CLI::App* report = app.add_subcommand("report", "write a report of the project");
   common(report);
-  report->add_option("--kind", a->kind, "section, control, or both in one PDF")
-      ->check(CLI::IsMember({"section", "control", "both"}));
+  std::vector<std::string> kinds;
+  for (const Sheets& s : AllSheets()) kinds.emplace_back(s.word);
+  report
+      ->add_option("--kind", a->kind,
+                   "section, control, checker (every number unrounded), both reports, or all "
+                   "sheets: the pages of a PDF, or OUT-1, OUT-2 and OUT-3")
+      ->check(CLI::IsMember(kinds));
   report->callback([a, &status] { status = RunReport(*a); });
 
   CLI::App* draw = app.add_subcommand("draw", "write a diagram or the section's figure");

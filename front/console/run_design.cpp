@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/console/run_design.h"
 
+#include <string_view>
 #include <utility>
 
-#include "checks/results.h"
+#include "core/text.h"
+#include "front/console/exit_status.h"
+#include "front/console/files_of_commands.h"
 
 namespace korvane {
 
@@ -21,37 +24,84 @@ Design StartedDesign(std::shared_ptr<const Library> library) {
 
 namespace {
 
-/// The single figure of the usage is held in single precision: ratios beyond it are a failure
-/// as any other.
-void CheckMaxIR(const Design& design, DesignRun& run) {
+/// The opening of a project: material step, then the calculations of opening and of the focus.
+void CalculateOpened(Design& design) {
+  ForgetFormerInput(design);
   try {
-    MaxIR(design.checks);
+    SetMaterial(design.lib->materials, design.rec.tmax, design.st);
   } catch (const ArithmeticFault& fault) {
-    run.fault = "MaxIR";
-    run.what = std::string("MaxIR: ") + fault.what();
+    design.history.stoppedIn = "SetMaterial";
+    throw CalculationFault("SetMaterial", fault.what());
   }
+  Calculate(design);
+  Calculate(design);
+}
+
+/// The results as far as the calculation of this project got, every other one empty: those that
+/// stand from the start are another member's.
+void KeepOwnResults(const ProjectState& opened, Design& design) {
+  Design own(design.lib);
+  own.st = opened;
+  try {
+    CalculateOpened(own);
+    own = Design(design.lib);  // the failure hangs on what another section left: nothing is known
+  } catch (const CalculationFault&) {
+    // The same failure: what was reached stands.
+  }
+  own.st = std::move(design.st);
+  own.messages = std::move(design.messages);
+  own.history = std::move(design.history);
+  design = std::move(own);
+}
+
+}  // namespace
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// A text at the version's place counts as 0, which is an old version.
+bool HoldsVersion(std::string_view bytes) {
+  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  return BeginsWithNumber(bytes.substr(0, bytes.find_first_of("\r\n")));
+}
+
+FileResult ReadProjectInput(const std::string& path, ProjectState& st, DesignRun& run) {
+  bool notFound = false;
+  const auto bytes = ReadInput(path, &notFound);
+  if (!bytes) return notFound ? FileResult::NotFound : FileResult::OtherError;
+  const FileResult result = ReadProject(*bytes, st);
+  if (result == FileResult::Ok && !HoldsVersion(*bytes)) run.remarks.emplace_back(kNoVersion);
+  return result;
 }
 
 }  // namespace
 
 DesignRun RunProject(Design& design, const std::string& path) {
   DesignRun run;
-  run.file = OpenProject(path, design.st);
+  run.file = ReadProjectInput(path, design.st, run);
   if (run.file != FileResult::Ok) return run;
   design.st.CurrentFileName = path;
+  const ProjectState opened = design.st;
   try {
-    SetMaterial(design.lib->materials, design.rec.tmax, design.st);
-    Calculate(design);
-    Calculate(design);
+    CalculateOpened(design);
   } catch (const CalculationFault& fault) {
     run.fault = fault.Step();
     run.what = fault.what();
-  } catch (const ArithmeticFault& fault) {
-    run.fault = "SetMaterial";
-    run.what = std::string("SetMaterial: ") + fault.what();
+    KeepOwnResults(opened, design);
   }
-  if (!run.fault) CheckMaxIR(design, run);
   return run;
+}
+
+int StatusOf(const Verdict& verdict) {
+  switch (verdict.standing) {
+    case Standing::Passes:
+      return kAllPass;
+    case Standing::Stopped:
+      return kArithmeticFailure;
+    default:
+      return kCheckFails;
+  }
 }
 
 std::string FileMessage(FileResult result, const std::string& path) {

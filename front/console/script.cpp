@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/console/script.h"
 
-#include <langinfo.h>
-#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is of POSIX
-
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -225,6 +222,9 @@ private:
   int focusings_ = 0;
 };
 
+/// What some editors put before the first line.
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 /// The line without the blanks around it; what is typed keeps those behind it.
 std::string Trimmed(std::string line) {
   line.erase(0, std::min(line.find_first_not_of(" \t"), line.size()));
@@ -234,31 +234,12 @@ std::string Trimmed(std::string line) {
 
 }  // namespace
 
-bool LocaleWritesComma() {
-  for (const char* name : {"LC_ALL", "LC_NUMERIC", "LANG"}) {
-    const char* value = std::getenv(name);
-    if (value == nullptr || *value == '\0') continue;
-    if (locale_t locale = newlocale(LC_NUMERIC_MASK, value, static_cast<locale_t>(nullptr))) {
-      const bool comma = *nl_langinfo_l(RADIXCHAR, locale) == ',';
-      freelocale(locale);
-      return comma;
-    }
-    // A locale that the machine has not generated: the language decides.
-    static constexpr std::array comma{"nb", "nn", "no", "da", "sv", "fi", "is", "de", "fr", "nl",
-                                      "it", "es", "pt", "pl", "cs", "sk", "hu", "ru", "et", "lv",
-                                      "lt", "ro", "bg", "el", "tr", "uk", "sl", "hr"};
-    const std::string language = std::string(value).substr(0, 2);
-    return std::any_of(comma.begin(), comma.end(),
-                       [&](const char* code) { return language == code; });
-  }
-  return false;
-}
-
 int RunScript(std::shared_ptr<const Library> library, bool decimalComma, std::istream& in,
               std::ostream& out, std::ostream& err) {
   Script script(std::move(library), decimalComma, out);
   std::string line;
   for (int number = 1; !script.Ended() && std::getline(in, line); ++number) {
+    if (number == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
     if (!line.empty() && line.back() == '\r') line.pop_back();
     line = Trimmed(std::move(line));
     if (line.empty() || line.front() == '#') continue;

@@ -11,9 +11,6 @@
 
 namespace korvane {
 
-/// Whether the environment's locale (LC_ALL, LC_NUMERIC, LANG) writes a decimal comma.
-bool LocaleWritesComma();
-
 /// Runs a script on a session that has been started. Actions: focus FORM, menu NAME,
 /// enter CONTROL TEXT, return CONTROL, click CONTROL, select CONTROL INDEX, close FORM,
 /// open PATH, save PATH, answer PATH|cancel, show CONTROL|FORM, results, json. Empty lines and

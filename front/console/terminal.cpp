@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/console/terminal.h"
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
@@ -11,6 +15,8 @@ namespace korvane {
 namespace {
 
 constexpr std::size_t kBarWidth = 24;
+constexpr std::size_t kNarrowTerminal = 20;
+constexpr std::size_t kUsualTerminal = 80;
 constexpr auto kRedrawInterval = std::chrono::milliseconds(100);
 
 std::string Duration(double seconds) {
@@ -18,6 +24,17 @@ std::string Duration(double seconds) {
   if (s < 60) return std::to_string(s) + " s";
   if (s < 3600) return std::to_string(s / 60) + " min " + std::to_string(s % 60) + " s";
   return std::to_string(s / 3600) + " h " + std::to_string(s % 3600 / 60) + " min";
+}
+
+/// Columns of the terminal behind the standard error output; 80 where it doesn't tell.
+std::size_t ColumnsOfErrors() {
+  winsize size{};
+  if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return kUsualTerminal;
+  return size.ws_col;
+}
+
+bool IsControl(unsigned char c) {
+  return c < 0x20 || c == 0x7F;
 }
 
 }  // namespace
@@ -35,6 +52,33 @@ bool ColourWanted() {
   return OutputIsTerminal() && (!off || !*off);
 }
 
+bool ProgressWanted() {
+  const char* term = std::getenv("TERM");
+  const bool dumb = term != nullptr && std::string_view(term) == "dumb";
+  return ErrorsAreTerminal() && !dumb && ColumnsOfErrors() > kNarrowTerminal;
+}
+
+std::string Visible(std::string_view text) {
+  std::string shown;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto c = static_cast<unsigned char>(text[i]);
+    // U+0080 to U+009F, which terminals obey as well, are C2 80 to C2 9F.
+    const bool second = i > 0 && static_cast<unsigned char>(text[i - 1]) == 0xC2;
+    if (!IsControl(c) && !(second && c >= 0x80 && c < 0xA0)) {
+      shown += text[i];
+      continue;
+    }
+    std::array<char, 5> escape{};
+    std::snprintf(escape.data(), escape.size(), "\\x%02X", c);
+    shown += escape.data();
+  }
+  return shown;
+}
+
+std::string NameOnErrors(const std::string& name) {
+  return ErrorsAreTerminal() ? Visible(name) : name;
+}
+
 std::string Red(const std::string& text, bool colour) {
   return colour ? "\x1b[31m" + text + "\x1b[0m" : text;
 }
@@ -48,7 +92,9 @@ void ProgressBar::Update(std::size_t done, std::size_t all) {
   if (now < next_) return;
   next_ = now + kRedrawInterval;
   const double seconds = std::chrono::duration<double>(now - start_).count();
-  out_ << '\r' << ProgressLine(done, all, seconds, unit_) << "\x1b[K" << std::flush;
+  // A line that reaches the edge would wrap and could not be rewritten.
+  const std::string line = ProgressLine(done, all, seconds, unit_).substr(0, ColumnsOfErrors() - 1);
+  out_ << '\r' << line << "\x1b[K" << std::flush;
   drawn_ = true;
 }
 

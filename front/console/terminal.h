@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 namespace korvane {
 
@@ -15,6 +16,16 @@ bool ErrorsAreTerminal();
 
 /// Whether results on the standard output are coloured: on a terminal, unless NO_COLOR is set.
 bool ColourWanted();
+
+/// Whether a progress bar is wanted on the standard error output: on a terminal that can rewrite
+/// a line (TERM isn't "dumb") and is wider than 20 columns.
+bool ProgressWanted();
+
+/// The text with its control characters escaped (\x1B), as a terminal would obey them.
+std::string Visible(std::string_view text);
+
+/// A name as the standard error output gets it: byte for byte, but visible on a terminal.
+std::string NameOnErrors(const std::string& name);
 
 /// The text in red when colour is wanted.
 std::string Red(const std::string& text, bool colour);

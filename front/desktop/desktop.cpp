@@ -158,7 +158,7 @@ void Desktop::Report(const std::string& step, const char* what) {
       folder.filePath(QStringLiteral("recovery-") +
                       QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss")) +
                       QStringLiteral(".kvn"));
-  const bool saved = SaveProject(path.toStdString(), session_.st()) == FileResult::Ok;
+  const bool saved(SaveProject(path.toStdString(), session_.st()));
   QString text = tr("The calculation failed in the step %1 and the program ends.")
                      .arg(QString::fromStdString(step.empty() ? std::string(what) : step));
   text += QStringLiteral("\n\n");

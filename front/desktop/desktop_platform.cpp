@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPainter>
@@ -11,8 +12,9 @@
 #include <QSettings>
 #include <algorithm>
 
+#include "core/files.h"
+#include "front/painter/paint_files.h"
 #include "front/painter/painter_target.h"
-#include "presentation/aprint.h"
 
 namespace korvane {
 
@@ -98,13 +100,36 @@ std::optional<PrintJob> DesktopPlatform::AskPrint() {
   return PrintJob{printer_->copyCount()};
 }
 
+void DesktopPlatform::PrintToFile(const Design& design, Report report, int copies) {
+  PaintJob job;
+  job.width = kPageWidth;
+  job.height = kPageHeight;
+  job.title = std::string(ReportTitle(report)) + " - " + design.st.iproj + " - " + design.st.iident;
+  const DateTime now = Now();
+  const auto page = [&](DrawingTarget& target) {
+    DrawReport(target, report, design, {now.year, now.month, now.day, now.hour, now.minute});
+  };
+  job.pages.assign(static_cast<std::size_t>(std::max(1, copies)), page);
+  const QString path = printer_->outputFileName();
+  std::string bytes;
+  std::string failed = PaintIntoMemory(job, bytes);
+  if (failed.empty()) failed = WriteFile(QFile::encodeName(path).toStdString(), bytes).why;
+  if (!failed.empty()) {
+    Message(tr("The page could not be written to\n%1").arg(path).toStdString() + "\n" + failed);
+  }
+}
+
 void DesktopPlatform::Print(const Design& design, int kind, int copies) {
   if (printer_ == nullptr) return;
+  const Report report = kind == 0 ? Report::SectionProperty : Report::SectionAndStability;
+  if (printer_->outputFormat() == QPrinter::PdfFormat && !printer_->outputFileName().isEmpty()) {
+    PrintToFile(design, report, copies);
+    return;
+  }
   // The page brings its own frame and margins, counted from the edge of the paper.
   printer_->setFullPage(true);
   printer_->setPageMargins(QMarginsF(0, 0, 0, 0));
   printer_->setCopyCount(copies);
-  const Report report = kind == 0 ? Report::SectionProperty : Report::SectionAndStability;
   printer_->setDocName(QString::fromUtf8(ReportTitle(report)));
   QPainter painter;
   if (!painter.begin(printer_.get())) {

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "front/platform.h"
+#include "presentation/aprint.h"
 
 namespace korvane {
 
@@ -52,6 +53,9 @@ private:
   QWidget* Owner() const;
   std::optional<std::string> AskFile(bool save, const std::string& filter,
                                      const std::string& extension);
+  /// A PDF is painted into memory and written as every other file, by the same routines as the
+  /// console program's.
+  void PrintToFile(const Design& design, Report report, int copies);
   QPointer<QWidget> window_;
   QStringList waiting_;
   bool waitCursor_ = false;

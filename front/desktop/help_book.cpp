@@ -2,6 +2,7 @@
 #include "front/desktop/help_book.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -25,16 +26,30 @@ QString Plain(const QString& html) {
   return document.toPlainText().simplified();
 }
 
+/// Words of up to three letters, such as IR or Mcr, stand in many others.
+constexpr qsizetype kShortWord = 3;
+
+const QRegularExpression& Formula() {
+  static const QRegularExpression formula(
+      QStringLiteral("<math[^>]*alttext=\"(?<text>[^\"]*)\".*?</math>"),
+      QRegularExpression::DotMatchesEverythingOption);
+  return formula;
+}
+
+/// A page with the words of its formulas in their place.
+QString WithFormulaTexts(QString html) {
+  return html.replace(Formula(), QStringLiteral("\\1"));
+}
+
 bool HasAll(const QString& text, const QStringList& words) {
   return std::all_of(words.begin(), words.end(),
                      [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
-/// Some words before and after the place where the first word searched for stands.
-QString Excerpt(const QString& text, const QString& word) {
+/// Some words before and after the place where a word searched for stands.
+QString Excerpt(const QString& text, qsizetype at) {
   constexpr int kBefore = 40;
   constexpr int kLength = 130;
-  const auto at = text.indexOf(word, 0, Qt::CaseInsensitive);
   auto from = std::max<qsizetype>(0, at - kBefore);
   if (from > 0) from = text.indexOf(QLatin1Char(' '), from) + 1;
   if (from > at) from = at;
@@ -45,6 +60,37 @@ QString Excerpt(const QString& text, const QString& word) {
 }
 
 }  // namespace
+
+QString FormulaPicture(const QString& math) {
+  static const QRegularExpression spaces(QStringLiteral("[ \\t\\r\\n]"));
+  const QByteArray tight = QString(math).remove(spaces).toUtf8();
+  const QByteArray hash = QCryptographicHash::hash(tight, QCryptographicHash::Sha256).toHex();
+  return QStringLiteral("formulas/%1.svg").arg(QString::fromLatin1(hash.left(16)));
+}
+
+QString WithFormulaPictures(const QString& html) {
+  QString page;
+  qsizetype done = 0;
+  for (auto it = Formula().globalMatch(html); it.hasNext();) {
+    const auto match = it.next();
+    page += html.mid(done, match.capturedStart() - done);
+    page += QStringLiteral("<img src=\"%1\" style=\"vertical-align: middle\">")
+                .arg(FormulaPicture(match.captured()));
+    done = match.capturedEnd();
+  }
+  return page + html.mid(done);
+}
+
+WordPlace PlaceOfWord(const QString& text, const QString& word) {
+  if (word.size() <= kShortWord) {
+    const QRegularExpression whole(
+        QStringLiteral("(?<!\\w)%1(?!\\w)").arg(QRegularExpression::escape(word)),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    const auto match = whole.match(text);
+    if (match.hasMatch()) return {match.capturedStart(), true};
+  }
+  return {text.indexOf(word, 0, Qt::CaseInsensitive), false};
+}
 
 QString FindHelpFolder() {
   const QDir here(QCoreApplication::applicationDirPath());
@@ -95,7 +141,7 @@ QString HelpBook::PlaceOfForm(const QString& form) const {
 void HelpBook::ReadSections() const {
   for (int p = 0; p < pages_.size(); ++p) {
     QTextDocument document;
-    document.setHtml(Html(pages_[p].file));
+    document.setHtml(WithFormulaTexts(Html(pages_[p].file)));
     int heading = -1;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
       const QString text = block.text().remove(QChar::ObjectReplacementCharacter).simplified();
@@ -114,22 +160,26 @@ QList<HelpHit> HelpBook::Search(const QString& words) const {
   if (sections_.isEmpty()) ReadSections();
   struct Ranked {
     HelpHit hit;
-    std::ptrdiff_t inHeading = 0;
+    std::pair<std::ptrdiff_t, std::ptrdiff_t> rank;
   };
   QList<Ranked> ranked;
   for (const Section& section : sections_) {
     if (!HasAll(section.title + QLatin1Char(' ') + section.text, all)) continue;
     const HelpPage& page = pages_[section.page];
-    const auto inHeading = std::count_if(all.begin(), all.end(), [&](const QString& word) {
-      return section.title.contains(word, Qt::CaseInsensitive);
+    const auto whole = std::count_if(all.begin(), all.end(), [&](const QString& word) {
+      return PlaceOfWord(section.title, word).whole || PlaceOfWord(section.text, word).whole;
     });
-    const bool told = section.text.contains(all.first(), Qt::CaseInsensitive);
+    const auto inHeading = std::count_if(all.begin(), all.end(), [&](const QString& word) {
+      const WordPlace place = PlaceOfWord(section.title, word);
+      return place.at >= 0 && (place.whole || word.size() > kShortWord);
+    });
+    const WordPlace first = PlaceOfWord(section.text, all.first());
     ranked << Ranked{{page.file, section.heading, page.title, section.title,
-                      Excerpt(section.text, told ? all.first() : QString())},
-                     inHeading};
+                      Excerpt(section.text, std::max<qsizetype>(0, first.at))},
+                     {whole, inHeading}};
   }
   std::stable_sort(ranked.begin(), ranked.end(),
-                   [](const Ranked& a, const Ranked& b) { return a.inHeading > b.inHeading; });
+                   [](const Ranked& a, const Ranked& b) { return a.rank > b.rank; });
   QList<HelpHit> hits;
   for (const Ranked& r : ranked) hits << r.hit;
   return hits;

@@ -28,6 +28,19 @@ struct HelpHit {
 /// the program's own place; empty when there is none.
 QString FindHelpFolder();
 
+/// A page for a viewer that knows no MathML: each formula is the picture that was made of it.
+QString WithFormulaPictures(const QString& html);
+/// Name of the picture of a formula, a hash of its own text: "formulas/0123456789abcdef.svg".
+QString FormulaPicture(const QString& math);
+
+/// Where a word that is searched for stands in a text, without regard to case: a short word as a
+/// word of its own where it stands so. -1 when it isn't there.
+struct WordPlace {
+  qsizetype at = -1;
+  bool whole = false;
+};
+WordPlace PlaceOfWord(const QString& text, const QString& word);
+
 class HelpBook {
 public:
   explicit HelpBook(QString folder);
@@ -38,7 +51,8 @@ public:
   const QList<HelpPage>& Pages() const { return pages_; }
   /// "loads.html#form-loading" for loading; empty for a form that no page tells about.
   QString PlaceOfForm(const QString& form) const;
-  /// Parts that have all the words; those with more of them in their heading come first.
+  /// Parts that have all the words. Those where a short word stands as a word of its own come
+  /// first, then those with more of the words in their heading.
   QList<HelpHit> Search(const QString& words) const;
 
 private:

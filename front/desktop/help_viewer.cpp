@@ -59,6 +59,43 @@ QImage Drawing(const QByteArray& file, double ratio, double widest) {
   return image;
 }
 
+/// A drawing on the page's own ground: in the dark its lines are light, and its colours stay.
+void Darken(QImage& image, const QPalette& palette) {
+  const QColor ground = palette.color(QPalette::Base);
+  const float least = ground.lightnessF();
+  for (int y = 0; y < image.height(); ++y) {
+    auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor was = QColor::fromRgb(line[x]);
+      if (line[x] == qRgb(255, 255, 255)) {
+        line[x] = ground.rgb();
+      } else {
+        line[x] = QColor::fromHslF(std::max(0.0F, was.hslHueF()), was.hslSaturationF(),
+                                   1.0F - was.lightnessF() * (1.0F - least))
+                      .rgb();
+      }
+    }
+  }
+}
+
+/// A formula in the page's own letters, their size and their colour; smaller where it is wider
+/// than the page.
+QImage FormulaImage(QByteArray file, double ratio, const QPalette& palette, double letters,
+                    double widest) {
+  // Those of scripts/help_formulas have 16 pixels; their small letters are lower than the page's.
+  constexpr double kDrawnLetters = 16 / 1.2;
+  file.replace("#000", palette.color(QPalette::Text).name().toLatin1());
+  QSvgRenderer svg(file);
+  const QSizeF own = svg.defaultSize();
+  const QSizeF drawn = own * std::min(letters / kDrawnLetters, widest / own.width());
+  QImage image((drawn * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(ratio);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  svg.render(&painter, QRectF(QPointF(0, 0), drawn));
+  return image;
+}
+
 QImage Photo(const QByteArray& file, double ratio, double widest) {
   QImage image = QImage::fromData(file);
   const int pixels = static_cast<int>(widest * ratio);
@@ -81,7 +118,10 @@ Mark MarkOf(const QPalette& palette) {
 /// The text as HTML with all of the words on a coloured ground.
 QString Marked(const QString& text, const QStringList& words, const Mark& mark) {
   QStringList patterns;
-  for (const QString& word : words) patterns << QRegularExpression::escape(word);
+  for (const QString& word : words) {
+    const QString plain = QRegularExpression::escape(word);
+    patterns << (PlaceOfWord(text, word).whole ? QStringLiteral("\\b%1\\b").arg(plain) : plain);
+  }
   const QRegularExpression any(patterns.join(QLatin1Char('|')),
                                QRegularExpression::CaseInsensitiveOption);
   QString html;
@@ -150,14 +190,22 @@ QStringList WordsOf(const QString& text) {
 QVariant HelpPageView::loadResource(int type, const QUrl& name) {
   const QVariant resource = QTextBrowser::loadResource(type, name);
   const QByteArray file = resource.toByteArray();
+  if (type == QTextDocument::HtmlResource) return WithFormulaPictures(QString::fromUtf8(file));
   if (type != QTextDocument::ImageResource || file.isEmpty()) return resource;
   const bool drawn = name.path().endsWith(QLatin1String(".svg"));
   // Most pages are longer than the window.
   const double bar = verticalScrollBar()->sizeHint().width();
   const double room = width() - bar - 2 * document()->documentMargin();
   const double widest = std::clamp(room, kLeastWidth, kWidest);
-  return drawn ? Drawing(file, devicePixelRatioF(), widest)
-               : Photo(file, devicePixelRatioF(), widest);
+  if (name.path().contains(QLatin1String("/formulas/"))) {
+    constexpr double kIndent = 40;  // of a formula's paragraph
+    return FormulaImage(file, devicePixelRatioF(), palette(), QFontInfo(font()).pixelSize(),
+                        std::max(kLeastWidth, widest - kIndent));
+  }
+  if (!drawn) return Photo(file, devicePixelRatioF(), widest);
+  QImage image = Drawing(file, devicePixelRatioF(), widest);
+  if (IsDark(palette())) Darken(image, palette());
+  return image;
 }
 
 // --- Window -------------------------------------------------------------------------------------
@@ -367,7 +415,9 @@ void HelpViewer::MarkWords() {
   for (const QString& word : WordsOf(search_->text())) {
     if (word.size() < 2) continue;
     QTextCursor at(page_->document());
-    while (!(at = page_->document()->find(word, at)).isNull())
+    const auto how = PlaceOfWord(page_->toPlainText(), word).whole ? QTextDocument::FindWholeWords
+                                                                   : QTextDocument::FindFlags();
+    while (!(at = page_->document()->find(word, at, how)).isNull())
       marks << QTextEdit::ExtraSelection{at, format};
   }
   page_->setExtraSelections(marks);

@@ -84,11 +84,12 @@ QGroupBox* Factors(WidgetMaker& maker) {
   group->layout()->addWidget(maker.Make(on.slsfactor));
   group->layout()->addWidget(maker.Make(on.check_selfweight));
   const auto selfweight = [grid](int row) {
-    return static_cast<QLabel*>(grid->itemAtPosition(row, kSelfweightColumn)->widget());
+    return grid->itemAtPosition(row, kSelfweightColumn)->widget();
   };
   maker.Accompany(on.ilfsw_ULS, selfweight(0));
-  selfweight(2)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  KeepRoom(selfweight(0));
+  static_cast<QLabel*>(selfweight(2))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  // The heading or a field is the widest, as the font has it.
+  for (int row = 0; row <= 2; ++row) KeepRoom(selfweight(row));
   return group;
 }
 

@@ -6,10 +6,12 @@
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QTimer>
+#include <algorithm>
+#include <array>
+#include <csignal>
 #include <cstdio>
 
-#include "front/console/data_folder.h"
-#include "front/console/script.h"
+#include "front/data_folder.h"
 #include "front/desktop/desktop.h"
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/help_desk.h"
@@ -17,11 +19,60 @@
 #include "front/desktop/own_folder.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
+#include "front/locale.h"
 #include "front/named_session.h"
 
 namespace {
 
 using namespace korvane;
+
+constexpr int kWrongArguments = 2;
+
+/// Words that the window system takes for itself, most with a value behind them.
+constexpr std::array kOwnWords{"platform",
+                               "platformpluginpath",
+                               "platformtheme",
+                               "plugin",
+                               "qwindowgeometry",
+                               "geometry",
+                               "qwindowicon",
+                               "icon",
+                               "qwindowtitle",
+                               "title",
+                               "session",
+                               "display",
+                               "style",
+                               "stylesheet",
+                               "name",
+                               "fontengine"};
+constexpr std::array kOwnFlags{"reverse", "widgetcount", "sync", "nograb", "dograb"};
+
+QStringList WithoutWordsOfTheWindowSystem(const QStringList& arguments) {
+  QStringList rest;
+  for (qsizetype i = 0; i < arguments.size(); ++i) {
+    const QString& word = arguments[i];
+    const QString name = word.startsWith(QLatin1String("--")) ? word.mid(2) : word.mid(1);
+    const bool option = word.startsWith(QLatin1Char('-'));
+    const auto is = [&](const char* own) { return option && name == QLatin1String(own); };
+    if (std::any_of(kOwnFlags.begin(), kOwnFlags.end(), is)) continue;
+    if (std::any_of(kOwnWords.begin(), kOwnWords.end(), is)) {
+      ++i;
+    } else {
+      rest << word;
+    }
+  }
+  return rest;
+}
+
+/// What is wrong with the arguments, found before a display is asked for.
+QString WrongArguments(QCommandLineParser& parser, const QStringList& arguments) {
+  if (!parser.parse(WithoutWordsOfTheWindowSystem(arguments))) return parser.errorText();
+  const QString theme = parser.value(QStringLiteral("theme"));
+  const QStringList themes{QString(), QStringLiteral("light"), QStringLiteral("dark"),
+                           QStringLiteral("system")};
+  if (themes.contains(theme)) return {};
+  return QStringLiteral("--theme is light, dark or system, not ") + theme;
+}
 
 Theme ThemeOf(const QString& name) {
   if (name == QLatin1String("light")) return Theme::Light;
@@ -107,9 +158,15 @@ int main(int argc, char** argv) {
     QCoreApplication printer(argc, argv);
     parser.process(printer);
   }
+  if (const QString error = WrongArguments(parser, arguments); !error.isEmpty()) {
+    std::fprintf(stderr, "korvane: %s\n", qPrintable(error));
+    return kWrongArguments;
+  }
   QApplication app(argc, argv);
   parser.process(app);
   korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
+  // A limit on the size of files is told as a full disk.
+  std::signal(SIGXFSZ, SIG_IGN);
   try {
     return Run(app, parser, parser.value(shots));
   } catch (const std::exception& error) {

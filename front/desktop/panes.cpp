@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/desktop/panes.h"
 
+#include <QBuffer>
 #include <QContextMenuEvent>
+#include <QFile>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QMenu>
@@ -9,9 +11,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
+#include "core/files.h"
 #include "front/desktop/theme.h"
 #include "front/painter/painter_target.h"
 #include "presentation/figures.h"
@@ -85,23 +87,26 @@ void Pane::Export(bool vector) {
   const QString path = QFileDialog::getSaveFileName(
       this, QString(), ExportName() + QStringLiteral(".") + ending, QStringLiteral("*.") + ending);
   if (path.isEmpty()) return;
-  QSaveFile file(path);
-  const bool open = file.open(QIODevice::WriteOnly);
-  if (open && vector) {
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  if (vector) {
     QSvgGenerator generator;
-    generator.setOutputDevice(&file);
+    generator.setOutputDevice(&bytes);
     generator.setSize(size());
     generator.setViewBox(rect());
     render(&generator);
-  } else if (open) {
+  } else {
     QPixmap picture(size() * 2);
     picture.setDevicePixelRatio(2);
     render(&picture);
-    picture.save(&file, "PNG");
+    picture.save(&bytes, "PNG");
   }
-  // A full disk shows only when the file is closed.
-  if (open && file.commit()) return;
-  QMessageBox::warning(this, QString(), tr("The picture could not be written to\n%1").arg(path));
+  const QByteArray name = QFile::encodeName(path);
+  const WriteResult written = WriteFile(name.toStdString(), bytes.data().toStdString());
+  if (written) return;
+  QMessageBox::warning(this, QString(),
+                       tr("The picture could not be written to\n%1").arg(path) + QLatin1Char('\n') +
+                           QString::fromStdString(written.why));
 }
 
 // --- Values -------------------------------------------------------------------------------------

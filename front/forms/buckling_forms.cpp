@@ -3,6 +3,7 @@
 #include <array>
 
 #include "checks/buckling_curves.h"
+#include "core/supports.h"
 #include "core/text.h"
 #include "front/forms/forms.h"
 #include "front/session.h"

@@ -56,7 +56,7 @@ bool Has(const Family& family, std::initializer_list<Cat> catalogues) {
 }
 
 void AddHollowExtras(const Family& family, Form& form) {
-  if (!Has(family, {Cat::SHS, Cat::RHS, Cat::CFSHS, Cat::CFRHS})) return;
+  if (family.outline != OutlineKind::Hollow) return;
   if (Has(family, {Cat::RHS, Cat::CFRHS})) {
     Put(form,
         Picture("cbuttbucklingy", {Sign::Turn}, "Turn the section by 90 degrees", [](Session& s) {
@@ -236,7 +236,7 @@ void AddToList(Session& s) {
 }
 
 void AddTypedOptions(const Family& family, Form& form) {
-  if (family.shape == ShapeKind::Box) {
+  if (family.outline == OutlineKind::Box) {
     Put(form, FrameOf("frweld", "Based on Cold rolling"));
     Put(form, ValueOption("oweld0", "Yes", &S::BoxWeld, 0));
     Put(form, ValueOption("oweld1", "No", &S::BoxWeld, 1));
@@ -246,10 +246,10 @@ void AddTypedOptions(const Family& family, Form& form) {
     Put(form, ValueOption("opthsq0", "Yes", &S::HsqKind, 0));
     Put(form, ValueOption("opthsq1", "No", &S::HsqKind, 1));
   }
-  if (family.shape == ShapeKind::T) {
+  if (family.outline == OutlineKind::T) {
     Put(form, Label("onote", "Note: Profile takes only N-loads (axial)"));
   }
-  if (family.shape == ShapeKind::Tube) {
+  if (family.outline == OutlineKind::Tube) {
     Put(form, ValueOption("opthot", "Hotformed", &S::TubeKind, 1));
     Put(form, ValueOption("optcold", "Coldformed", &S::TubeKind, 0));
   }

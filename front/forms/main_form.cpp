@@ -88,6 +88,12 @@ std::function<bool(const Session&)> Offers(bool FamilyOptions::*option) {
   };
 }
 
+/// A family that does not exist offers them: kept.
+bool OffersClassFour(const Session& s) {
+  const Family* family = FamilyOf(s);
+  return family == nullptr || family->options.classFour;
+}
+
 bool BucklesAsColumn(const Session& s) {
   return s.design().forces.N > 0 && !IsPlateType(s.st().ProfileType);
 }
@@ -142,16 +148,24 @@ void TakeSpring(Session& s) {
   s.LeaveBy(*OnMain().ispring, rule);
 }
 
+/// k_ltb while the check is off.
+constexpr double kLtbOffMark = 0.001;
+
 void ToggleLateral(Session& s) {
   ProjectState& st = s.st();
   if (st.LateralTorsionalBuckling == 1) {
     st.LateralTorsionalBuckling = 0;
     st.LtbSegments = 0;
-    st.k_ltb = 0.001;
+    if (st.k_ltb != float32(kLtbOffMark)) st.k_ltb_before = st.k_ltb;
+    st.k_ltb = kLtbOffMark;
   } else {
     st.LateralTorsionalBuckling = 1;
     const double k = LengthFactorOfCase(st.LateralBucklingCase);
-    if (k > 0) st.k_ltb = k;  // a typed case keeps the last
+    if (k > 0) {
+      st.k_ltb = k;
+    } else if (st.k_ltb == float32(kLtbOffMark)) {
+      st.k_ltb = st.k_ltb_before;  // a typed case takes the last in force
+    }
   }
   s.Calculate();
 }
@@ -282,11 +296,12 @@ void AddOptions(Form& form, MainControls& on) {
                          ValueOption("osectionc1", " Valid for Double Symmetric Profiles ",
                                      &S::SectionControlMode, 1));
   on.ch_webbuck =
-      option(&FamilyOptions::classFour,
-             FlagCheck("ch_webbuck", "Web buckling not taken into account", &S::IgnoreWebBuckling));
-  on.ch_flangebuck = option(&FamilyOptions::classFour,
-                            FlagCheck("ch_flangebuck", "Flange buckling not taken into account",
-                                      &S::IgnoreFlangeBuckling));
+      Put(form, With(OffersClassFour, FlagCheck("ch_webbuck", "Web buckling not taken into account",
+                                                &S::IgnoreWebBuckling)));
+  on.ch_flangebuck =
+      Put(form,
+          With(OffersClassFour, FlagCheck("ch_flangebuck", "Flange buckling not taken into account",
+                                          &S::IgnoreFlangeBuckling)));
   on.ch_modal =
       Put(form, Check(
                     "ch_modal", "Modal analysis for selfweight + q-loads",
@@ -353,7 +368,7 @@ void AddFrames(Form& form, MainControls& on) {
   on.frbuckling =
       Put(form, FrameOf("frbuckling", "Section class 1-2: Bending moment capacity based on",
                         Offers(&FamilyOptions::bending)));
-  on.fr15 = Put(form, FrameOf("fr15", "Section class 4", Offers(&FamilyOptions::classFour)));
+  on.fr15 = Put(form, FrameOf("fr15", "Section class 4", OffersClassFour));
   on.fr31 = Put(form, FrameOf("fr31", "Results (ULS)"));
   on.fr21 = Put(form, FrameOf("fr21", "Loading/Moment/Shear/Deflection - Z-axis  "));
   on.fr22 = Put(form, FrameOf("fr22", "Loading/Moment/Shear/Deflection - Y-axis  "));

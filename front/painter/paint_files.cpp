@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/painter/paint_files.h"
 
+#include <QBuffer>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSvgGenerator>
+#include <array>
 #include <memory>
 
 #include "front/painter/painter_target.h"
@@ -15,26 +16,33 @@ namespace korvane {
 
 namespace {
 
-/// Fonts need an application; a program without one gets its own, on no display.
-std::unique_ptr<QGuiApplication> ApplicationWhereNone() {
-  if (QCoreApplication::instance() != nullptr) return nullptr;
-  // Remarks about the session's folders are none of a console program's business.
-  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-  static int argc = 3;
-  static char name[] = "korvane";
-  static char option[] = "-platform";
-  static char platform[] = "offscreen";
-  static char* argv[] = {name, option, platform, nullptr};
-  return std::make_unique<QGuiApplication>(argc, argv);
-}
+/// Fonts need an application; a program without one gets its own, on no display. Qt takes its
+/// words out of the arguments, so that each application needs its own.
+class ApplicationWhereNone {
+public:
+  ApplicationWhereNone() {
+    if (QCoreApplication::instance() != nullptr) return;
+    // Remarks about the session's folders are none of a console program's business.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    application_ = std::make_unique<QGuiApplication>(count_, words_.data());
+  }
+
+private:
+  std::string name_ = "korvane", option_ = "-platform", platform_ = "offscreen";
+  std::array<char*, 4> words_{name_.data(), option_.data(), platform_.data(), nullptr};
+  int count_ = 3;
+  std::unique_ptr<QGuiApplication> application_;
+};
 
 void DrawPage(QPainter& painter, const PaintJob& job, std::size_t page, const QRectF& device) {
   PainterTarget target(painter, job.width, job.height, device, Palette::Light());
   job.pages.at(page)(target);
 }
 
-std::string PaintPdf(const PaintJob& job) {
-  QPdfWriter writer(QString::fromStdString(job.path));
+constexpr const char* kFailed = "the painter failed";
+
+std::string PaintPdf(const PaintJob& job, QIODevice& bytes) {
+  QPdfWriter writer(&bytes);
   writer.setPageSize(QPageSize(QSizeF(job.width, job.height), QPageSize::Point));
   writer.setPageMargins(QMarginsF(0, 0, 0, 0));
   writer.setTitle(QString::fromStdString(job.title));
@@ -45,28 +53,15 @@ std::string PaintPdf(const PaintJob& job) {
                              QStringLiteral("text/plain"));
   }
   QPainter painter;
-  if (!painter.begin(&writer)) return "can't save file - " + job.path;
+  if (!painter.begin(&writer)) return kFailed;
   for (std::size_t page = 0; page < job.pages.size(); ++page) {
     if (page > 0) writer.newPage();
     DrawPage(painter, job, page, QRectF(0, 0, writer.width(), writer.height()));
   }
-  return painter.end() ? std::string() : "can't save file - " + job.path;
+  return painter.end() ? std::string() : kFailed;
 }
 
-std::string PaintSvg(const PaintJob& job) {
-  QSvgGenerator generator;
-  generator.setFileName(QString::fromStdString(job.path));
-  generator.setSize(QSize(static_cast<int>(job.width), static_cast<int>(job.height)));
-  generator.setViewBox(QRectF(0, 0, job.width, job.height));
-  generator.setTitle(QString::fromStdString(job.title));
-  QPainter painter;
-  if (!painter.begin(&generator)) return "can't save file - " + job.path;
-  DrawPage(painter, job, 0, QRectF(0, 0, job.width, job.height));
-  painter.end();
-  return {};
-}
-
-std::string PaintPng(const PaintJob& job) {
+std::string PaintPng(const PaintJob& job, QIODevice& bytes) {
   const double scale = job.pixelsPerPoint;
   QImage image(static_cast<int>(job.width * scale), static_cast<int>(job.height * scale),
                QImage::Format_RGB32);
@@ -76,22 +71,19 @@ std::string PaintPng(const PaintJob& job) {
   painter.setRenderHint(QPainter::TextAntialiasing);
   DrawPage(painter, job, 0, QRectF(0, 0, image.width(), image.height()));
   painter.end();
-  return image.save(QString::fromStdString(job.path)) ? std::string()
-                                                      : "can't save file - " + job.path;
-}
-
-bool EndsWith(const std::string& path, const char* ending) {
-  return QString::fromStdString(path).endsWith(QLatin1String(ending), Qt::CaseInsensitive);
+  return image.save(&bytes, "PNG") ? std::string() : kFailed;
 }
 
 }  // namespace
 
-std::string PaintToFile(const PaintJob& job) {
-  const auto application = ApplicationWhereNone();
-  if (EndsWith(job.path, ".pdf")) return PaintPdf(job);
-  if (EndsWith(job.path, ".svg")) return PaintSvg(job);
-  if (EndsWith(job.path, ".png")) return PaintPng(job);
-  return "the output must end in .pdf, .svg or .png - " + job.path;
+std::string PaintIntoMemory(const PaintJob& job, std::string& bytes) {
+  const ApplicationWhereNone application;
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  const std::string error =
+      job.format == PaintFormat::Pdf ? PaintPdf(job, buffer) : PaintPng(job, buffer);
+  bytes = buffer.data().toStdString();
+  return error;
 }
 
 }  // namespace korvane

@@ -15,9 +15,9 @@ namespace {
 /// Axes y and u coincide; capacities of the corners 100 200 50 about u and 20 10 40 about v,
 /// Ntd 1000, Ncrd 800, Vdz 200, Vdy 300.
 CheckBench AngleBench(int type) {
-  CheckBench bench(
-      type, type == 10 ? SectionControlKind::EqualAngle : SectionControlKind::UnequalAngle,
-      BucklingKind::Angle);
+  CheckBench bench(type,
+                   type == 10 ? SectionControlKind::EqualAngle : SectionControlKind::UnequalAngle,
+                   BucklingKind::Angle);
   SectionRecord& rec = bench.rec;
   rec.Mud1 = 100;
   rec.Mud2 = 200;

@@ -11,9 +11,11 @@
 #include <string>
 #include <vector>
 
+#include "../core/own_process.h"
 #include "front/console/run_design.h"
 #include "optimiser/optimize.h"
 #include "projects.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -26,7 +28,7 @@ std::string Table(const Strings& files, int jobs, bool optimise = false) {
   options.optimise = optimise;
   std::ostringstream table;
   std::ostringstream progress;
-  DesignFiles(SharedLibrary(), files, options, true, table, progress, false);
+  DesignFiles(SourceLibrary(), files, options, true, table, progress, false);
   EXPECT_EQ(progress.str(), "");
   return table.str();
 }
@@ -71,7 +73,7 @@ struct Printed {
 Printed RunWith(const BatchOptions& options) {
   std::ostringstream output;
   std::ostringstream errors;
-  const int status = RunBatch(SharedLibrary(), options, output, errors, false);
+  const int status = RunBatch(SourceLibrary(), options, output, errors, false);
   return {status, output.str(), errors.str()};
 }
 
@@ -105,7 +107,7 @@ TEST(Batch, ALineHoldsTheResultsOfTheDesign) {
   const TempFolder folder;
   const std::string path = folder / "a.kvn";
   PutProject(path, [](ProjectState& st) { st.q1 = 18.0; });
-  Design design = StartedDesign(SharedLibrary());
+  Design design = StartedDesign(SourceLibrary());
   RunProject(design, path);
   const Strings line = LineOf(path);
   ASSERT_EQ(line.size(), 9U);
@@ -196,13 +198,13 @@ TEST(Batch, ABrokenFileIsALineWithItsError) {
   EXPECT_EQ(LineOf(folder / "none.kvn")[kError], "can't find file - " + (folder / "none.kvn"));
 }
 
-TEST(Batch, NamesWithCommasQuotesAndForeignBytesStayOneFieldInUtf8) {
+TEST(Batch, NamesWithCommasQuotesAndForeignBytesStayOneFieldByteForByte) {
   const TempFolder folder;
   const std::string name = folder / "a, \"b\" k\xF8.kvn";
   PutProject(name);
   const Strings line = LineOf(name);
   ASSERT_EQ(line.size(), 9U);
-  EXPECT_EQ(line[kFile], folder / "a, \"b\" k\xC3\xB8.kvn");
+  EXPECT_EQ(line[kFile], name);
   EXPECT_EQ(line[kStatus], "pass");
 }
 
@@ -216,7 +218,7 @@ TEST(Batch, TheHeaderNamesTheFields) {
 TEST(Batch, OptimiseAddsTheLightestSizeOfTheSeries) {
   const TempFolder folder;
   PutProject(folder / "a.kvn", [](ProjectState& st) { st.idxHEA = 20; });
-  Design design = StartedDesign(SharedLibrary());
+  Design design = StartedDesign(SourceLibrary());
   RunProject(design, folder / "a.kvn");
   design.st.ResultView = kCriterionUls;
   OptimiserResults results;
@@ -354,13 +356,118 @@ TEST(BatchRun, ATargetThatCannotBeWrittenIsSaid) {
   PutProject(folder / "a.kvn");
   BatchOptions options;
   options.inputs = {folder / "a.kvn"};
-  for (const std::string& csv : {folder / "no/folder.csv", folder.Path()}) {
-    options.csv = csv;
+  PutFile(folder / "list", (folder / "a.kvn") + "\n");
+  options.list = folder / "list";
+  PutFile(folder / "locked.csv", "old");
+  std::filesystem::permissions(folder / "locked.csv", std::filesystem::perms(0444));
+  struct Case {
+    std::string csv;
+    WriteStatus status;
+  };
+  for (const Case& c : std::vector<Case>{{folder / "no/folder.csv", WriteStatus::NoFolder},
+                                         {folder.Path(), WriteStatus::IsFolder},
+                                         {"/dev/full", WriteStatus::NotAFile},
+                                         {folder / "a.kvn", WriteStatus::IsInput},
+                                         {folder / "list", WriteStatus::IsInput},
+                                         {folder / "locked.csv", WriteStatus::ReadOnly}}) {
+    options.csv = c.csv;
     const Printed run = RunWith(options);
     EXPECT_EQ(run.status, 2);
-    EXPECT_EQ(run.errors, "can't save file - " + csv + "\n");
+    EXPECT_EQ(run.errors, "can't save file - " + c.csv + "\n" + ResultOf(c.status).why + "\n");
   }
-  EXPECT_EQ(folder.Count(), 1);
+  EXPECT_EQ(folder.Count(), 3);
+  EXPECT_EQ(GetFile(folder / "locked.csv"), "old");
+}
+
+TEST(BatchRun, WritesThroughLinksAndLeavesThem) {
+  const TempFolder folder;
+  PutProject(folder / "a.kvn");
+  PutFile(folder / "real.csv", "old");
+  std::filesystem::create_symlink("real.csv", folder / "link.csv");
+  BatchOptions options;
+  options.inputs = {folder / "a.kvn"};
+  options.csv = folder / "link.csv";
+  EXPECT_EQ(RunWith(options).status, 0);
+  EXPECT_TRUE(std::filesystem::is_symlink(options.csv));
+  EXPECT_EQ(Lines(GetFile(folder / "real.csv")).size(), 2U);
+}
+
+TEST(BatchRun, TakesMoreInputsFromAList) {
+  const TempFolder folder;
+  for (const char* name : {"a.kvn", "b c.kvn", "d.kvn"}) PutProject(folder / name);
+  PutFile(folder / "list", (folder / "d.kvn") + "\r\n\n" + (folder / "b c.kvn"));
+  BatchOptions options;
+  options.inputs = {folder / "a.kvn"};
+  options.list = folder / "list";
+  const Strings lines = Lines(RunWith(options).output);
+  ASSERT_EQ(lines.size(), 4U);
+  EXPECT_EQ(Fields(lines[1])[kFile], folder / "a.kvn");
+  EXPECT_EQ(Fields(lines[2])[kFile], folder / "d.kvn");
+  EXPECT_EQ(Fields(lines[3])[kFile], folder / "b c.kvn");
+  options.list = folder / "missing";
+  EXPECT_EQ(RunWith(options).status, 2);
+  EXPECT_EQ(RunWith(options).errors, "can't read file - " + options.list + "\n");
+}
+
+TEST(BatchRun, TellsAFileWithoutAVersion) {
+  const TempFolder folder;
+  std::string old = "Projects of 1998\r\n";
+  for (int i = 0; i < 200; ++i) old += "1\r\n";
+  PutFile(folder / "a.kvn", old);
+  PutProject(folder / "b.kvn");
+  BatchOptions options;
+  options.inputs = {folder.Path()};
+  const Printed run = RunWith(options);
+  EXPECT_EQ(run.errors.find((folder / "a.kvn") +
+                            ": first line holds no version number; read as an old project\n"),
+            0U)
+      << run.errors;
+  EXPECT_EQ(run.errors.find("b.kvn"), std::string::npos);
+}
+
+TEST(BatchRun, AFolderThatCannotBeReadIsAnUnreadableRow) {
+  const TempFolder folder;
+  std::filesystem::create_directories(folder / "open/closed");
+  PutProject(folder / "open/a.kvn");
+  std::filesystem::permissions(folder.Path(), std::filesystem::perms(0755));
+  std::filesystem::permissions(folder / "open/closed", std::filesystem::perms::none);
+  SourceLibrary();
+  const int status = InAProcessOfItsOwn([&folder] {
+    if (!BecomeAPlainUser()) return 4;
+    BatchOptions options;
+    options.inputs = {folder / "open"};
+    const Printed run = RunWith(options);
+    const Strings lines = Lines(run.output);
+    if (run.status != 2 || lines.size() != 3) return 5;
+    const Strings row = Fields(lines[2]);
+    const bool told = row[kStatus] == "error" && row[kFile] == folder / "open/closed" &&
+                      row[kError] == "can't read file - " + (folder / "open/closed");
+    return told ? 0 : 6;
+  });
+  std::filesystem::permissions(folder / "open/closed", std::filesystem::perms::owner_all);
+  EXPECT_EQ(status, 0);
+}
+
+TEST(Batch, CellsThatASpreadsheetWouldCalculateAreGuarded) {
+  const TempFolder folder;
+  const auto before = std::filesystem::current_path();
+  std::filesystem::current_path(folder.Path());
+  for (const char* name : {"=1+2.kvn", "+a.kvn", "-b.kvn", "@c.kvn"}) {
+    PutProject(name);
+    EXPECT_EQ(LineOf(name)[kFile], std::string("'") + name);
+  }
+  PutProject("d=.kvn");
+  EXPECT_EQ(LineOf("d=.kvn")[kFile], "d=.kvn");
+  std::filesystem::current_path(before);
+}
+
+TEST(Batch, ADeflectionTooSmallToMeasureHasNoRatio) {
+  const TempFolder folder;
+  PutProject(folder / "a.kvn", [](ProjectState& st) { st.q1 = 1E-40F; });
+  const Strings line = LineOf(folder / "a.kvn");
+  EXPECT_EQ(line[kDeflection].find("inf"), std::string::npos);
+  PutProject(folder / "b.kvn", [](ProjectState& st) { st.q1 = 1E-30F; });
+  EXPECT_EQ(LineOf(folder / "b.kvn")[kDeflection].find("inf"), std::string::npos);
 }
 
 TEST(BatchRun, NothingToDesignIsSaid) {

@@ -13,6 +13,7 @@
 #include "run_program.h"
 #include "sections/profile_table.h"
 #include "sections/section_fields.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -29,7 +30,7 @@ std::string PutColumn(const TempFolder& folder, const std::function<void(Project
   EXPECT_EQ(OpenProject(kColumn, st), FileResult::Ok);
   change(st);
   std::string path = folder / "member.kvn";
-  EXPECT_EQ(SaveProject(path, st), FileResult::Ok);
+  EXPECT_TRUE(SaveProject(path, st));
   return path;
 }
 
@@ -165,7 +166,8 @@ TEST(Program, WritesANewProjectThatDesignsCleanly) {
   EXPECT_TRUE(json::parse(run.output).at("fault").is_null());
   const ProgramRun refused = RunProgram({"new", "-o", "/no/such/folder/fresh.kvn"});
   EXPECT_EQ(refused.status, 2);
-  EXPECT_EQ(refused.errors, "can't save file - /no/such/folder/fresh.kvn\n");
+  EXPECT_EQ(refused.errors,
+            "can't save file - /no/such/folder/fresh.kvn\nThe folder doesn't exist.\n");
 }
 
 TEST(Program, SaysWhenItsOutputFindsAFullDisk) {
@@ -290,7 +292,7 @@ TEST(Json, HasListsOfTheirLengths) {
 }
 
 TEST(Json, NumbersReadBackAsTheyWere) {
-  Design d(ReadLibrary(kData));
+  Design d(SourceLibrary());
   StartDesign(d);
   Calculate(d);
   ASSERT_EQ(OpenProject(kColumn, d.st), FileResult::Ok);

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "front/console/data_folder.h"
 #include "front/console/more_commands.h"
 #include "front/console/terminal.h"
+#include "front/data_folder.h"
 #include "places.h"
 #include "projects.h"
 

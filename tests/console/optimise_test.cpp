@@ -11,6 +11,7 @@
 
 #include "front/console/run_design.h"
 #include "projects.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -23,7 +24,7 @@ struct Printed {
 Printed RunWith(const OptimiseOptions& options, bool colour = false) {
   std::ostringstream output;
   std::ostringstream errors;
-  const int status = RunOptimise(SharedLibrary(), options, output, errors, colour, false);
+  const int status = RunOptimise(SourceLibrary(), options, output, errors, colour, false);
   return {status, output.str(), errors.str()};
 }
 
@@ -47,7 +48,7 @@ protected:
 TEST_F(Optimise, JsonHoldsTheElevenRowsOfTheSearch) {
   const OptimiseOptions options = For();
   const auto json = Json(options);
-  Design design = StartedDesign(SharedLibrary());
+  Design design = StartedDesign(SourceLibrary());
   RunProject(design, options.file);
   design.st.ResultView = kCriterionUls;
   OptimiserResults results;
@@ -135,7 +136,7 @@ TEST_F(Optimise, SavesTheLightestPassingSectionWithTheChecksItWasSearchedBy) {
     if (json["rows"][i]["weight"] < json["rows"][lightest]["weight"]) lightest = i;
   options.save = folder_ / "out.kvn";
   ASSERT_EQ(RunWith(options).status, 0);
-  Design design = StartedDesign(SharedLibrary());
+  Design design = StartedDesign(SourceLibrary());
   const DesignRun run = RunProject(design, options.save);
   ASSERT_EQ(run.file, FileResult::Ok);
   EXPECT_EQ(int(design.st.ProfileType), json["rows"][lightest]["ProfileType"]);
@@ -154,7 +155,7 @@ TEST_F(Optimise, SavesTheLightestPassingSectionWithTheChecksItWasSearchedBy) {
   const auto heavy = Json(options);
   ASSERT_LT(heavy["rows"][0]["weight"], heavy["rows"][1]["weight"]);
   EXPECT_EQ(RunWith(options).status, 0);
-  Design again = StartedDesign(SharedLibrary());
+  Design again = StartedDesign(SourceLibrary());
   RunProject(again, options.save);
   EXPECT_EQ(again.st.ProfileType, 4);
   EXPECT_EQ(again.st.LateralTorsionalBuckling, 1);
@@ -167,7 +168,7 @@ TEST_F(Optimise, ATargetThatCannotBeWrittenIsSaid) {
   options.save = folder_ / "no/folder.kvn";
   const Printed run = RunWith(options);
   EXPECT_EQ(run.status, 2);
-  EXPECT_EQ(run.errors, "can't save file - " + options.save + "\n");
+  EXPECT_EQ(run.errors, "can't save file - " + options.save + "\nThe folder doesn't exist.\n");
 }
 
 TEST_F(Optimise, RefusesOtherFamilies) {

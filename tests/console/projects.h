@@ -9,20 +9,15 @@
 #include "../core/temp_folder.h"
 #include "core/calculation.h"
 #include "core/project_file.h"
-#include "places.h"
 #include "sections/profile_table.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
-
-inline const std::shared_ptr<const Library>& SharedLibrary() {
-  static const std::shared_ptr<const Library> library = ReadLibrary(KORVANE_SOURCE_DIR "/data");
-  return library;
-}
 
 /// Writes a new project with the test's changes.
 inline void PutProject(const std::string& path,
                        const std::function<void(ProjectState&)>& change = {}) {
-  Design design(SharedLibrary());
+  Design design(SourceLibrary());
   StartDesign(design);
   if (change) change(design.st);
   PutFile(path, ProjectText(design.st));

@@ -11,10 +11,11 @@
 #include <string>
 #include <vector>
 
-#include "front/form_table.h"
+#include "front/forms/handles.h"
 #include "places.h"
 #include "projects.h"
 #include "run_program.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -27,7 +28,7 @@ struct Played {
 Played Play(const std::string& script, bool comma = false) {
   std::istringstream in(script);
   std::ostringstream out, err;
-  const int status = RunScript(SharedLibrary(), comma, in, out, err);
+  const int status = RunScript(SourceLibrary(), comma, in, out, err);
   return {status, out.str(), err.str()};
 }
 

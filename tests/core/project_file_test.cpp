@@ -248,10 +248,10 @@ TEST(SaveProject, TellsAMissingFolderAndLeavesTheOldFile) {
   const TempFolder folder;
   PutFile(folder / "old.kvn", "old");
   const ProjectState st;
-  EXPECT_EQ(SaveProject(folder / "missing/p.kvn", st), FileResult::NotFound);
-  EXPECT_EQ(SaveProject(folder / "old.kvn/p.kvn", st), FileResult::NotFound);
-  EXPECT_EQ(SaveProject(folder.Path(), st), FileResult::OtherError);
-  EXPECT_EQ(SaveProject("", st), FileResult::OtherError);
+  EXPECT_EQ(SaveProject(folder / "missing/p.kvn", st).status, WriteStatus::NoFolder);
+  EXPECT_EQ(SaveProject(folder / "old.kvn/p.kvn", st).status, WriteStatus::NoFolder);
+  EXPECT_EQ(SaveProject(folder.Path(), st).status, WriteStatus::IsFolder);
+  EXPECT_EQ(SaveProject("", st).status, WriteStatus::BadName);
   EXPECT_EQ(GetFile(folder / "old.kvn"), "old");
   EXPECT_EQ(folder.Count(), 1);
 }

@@ -5,9 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <bit>
 #include <clocale>
 #include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <random>
 #include <vector>
@@ -81,6 +85,61 @@ TEST(Format, PrintsTheLargestValueWithAllItsDigits) {
   const std::string text = Format(std::numeric_limits<double>::max(), "#0.0");
   EXPECT_EQ(text.size(), 311U);
   EXPECT_EQ(text.substr(0, 18), "179769313486232000");
+}
+
+/// The rule worked out on the 15 digits that the C library prints: half away from zero.
+std::string RoundedOnFifteenDigits(double value, int decimals) {
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), "%.14e", std::fabs(value));
+  std::string digits(text.data());
+  const int exponent = std::atoi(digits.c_str() + digits.find('e') + 1);
+  digits = digits.substr(0, 1) + digits.substr(2, 14);
+  std::uint64_t whole = std::stoull(digits);
+  int power = exponent - 14 + decimals;
+  for (; power > 0; --power) whole *= 10;
+  std::uint64_t unit = 1;
+  for (; power < 0 && unit <= 1000000000000000000U / 10; ++power) unit *= 10;
+  whole = power < 0 ? 0 : (whole + unit / 2) / unit;
+  digits = std::to_string(whole);
+  const auto places = static_cast<std::size_t>(decimals);
+  if (digits.size() < places + 1) digits.insert(0, places + 1 - digits.size(), '0');
+  if (decimals > 0) digits.insert(digits.size() - places, 1, '.');
+  return (value < 0 && whole != 0 ? "-" : "") + digits;
+}
+
+// Most values need no decimal digits to be rounded; those at and beside ties do.
+TEST(Format, RoundsEveryValueAsItsFifteenDigitsDo) {
+  const std::array<const char*, 5> patterns{"0", "0.0", "0.00", "0.000", "0.0000"};
+  std::mt19937_64 random(7);
+  std::uniform_real_distribution<double> power(-6, 13);
+  std::uniform_int_distribution<int> halves(0, 2000000);
+  std::uniform_int_distribution<int> steps(-3, 3);
+  for (int i = 0; i < 40000; ++i) {
+    const int decimals = i % 5;
+    double value = std::pow(10.0, power(random));
+    if (i % 2 == 0) {
+      value = halves(random) * 0.5 / std::pow(10.0, decimals);
+      for (int n = steps(random); n != 0; n += n < 0 ? 1 : -1) {
+        value = std::nextafter(value, n < 0 ? -1.0 : 1e9);
+      }
+    }
+    if (i % 3 == 0) value = -value;
+    const std::string expected = RoundedOnFifteenDigits(value, decimals);
+    ASSERT_EQ(Format(value, patterns[static_cast<std::size_t>(decimals)]), expected)
+        << std::hexfloat << value;
+    std::string part = "x";
+    Append(part, Decimals{value, decimals});
+    ASSERT_EQ(part, "x" + expected);
+  }
+}
+
+TEST(Compose, PutsTheTextAnewInItsOwnMemory) {
+  std::string text(100, '-');
+  const char* const memory = text.data();
+  Compose(text, "N/Nd = ", Decimals{-12.25, 1}, '/', Decimals{800, 0}, std::string(" <"));
+  EXPECT_EQ(text, "N/Nd = -12.3/800 <");
+  EXPECT_EQ(text.data(), memory);
+  EXPECT_THROW(Compose(text, Decimals{kNotANumber, 1}), ArithmeticFault);
 }
 
 TEST(Format, RoundsSingleValuesByWhatTheyHold) {
@@ -231,6 +290,28 @@ TEST(LeadingNumber, TakesTheNumberThatATextBeginsWith) {
 TEST(LeadingNumber, GivesNoNegativeZero) {
   EXPECT_FALSE(std::signbit(LeadingNumber("-0")));
   EXPECT_FALSE(std::signbit(LeadingNumber("-1E-400")));
+}
+
+// Short decimals take a way of their own.
+TEST(LeadingNumber, ReadsDecimalsOfAnyShapeAsTheCLibraryDoes) {
+  std::mt19937_64 random(11);
+  const auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+  for (int i = 0; i < 30000; ++i) {
+    std::string text = below(3) == 0 ? "-" : "";
+    for (int n = below(12); n > 0; --n) text += static_cast<char>('0' + below(10));
+    text += static_cast<char>('0' + below(10));
+    if (below(4) != 0) {
+      text += '.';
+      for (int n = below(14); n > 0; --n) text += static_cast<char>('0' + below(10));
+    }
+    if (below(10) == 0) text += "E" + std::to_string(below(40) - 20);
+    ASSERT_EQ(LeadingNumber(text), std::strtod(text.c_str(), nullptr)) << text;
+    ASSERT_EQ(LeadingSingle(text), std::strtof(text.c_str(), nullptr)) << text;
+  }
+  // The last whole number that single precision holds with all below it, and the next two.
+  EXPECT_EQ(LeadingSingle("16777216"), 16777216.0F);
+  EXPECT_EQ(LeadingSingle("16777217"), 16777216.0F);
+  EXPECT_EQ(LeadingSingle("1677721.9"), 1677721.875F);
 }
 
 TEST(LeadingNumber, StopsAtAZeroByte) {

@@ -1,24 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the tests of the catalogue rows share: the data folder read once, and one comparison.
+// What the tests of the catalogue rows share: the data folder, and one comparison.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
 #include <string>
 
 #include "places.h"
 #include "sections/readprofiles.h"
+#include "tests/support/source_library.h"
 
 namespace korvane::testing {
 
 inline std::string DataFolder() {
-  return std::string(KORVANE_SOURCE_DIR) + "/data";
+  return (std::filesystem::path(KORVANE_SOURCE_DIR) / "data").string();
 }
 
 inline const Catalogues& Data() {
-  static const Catalogues data = ReadCatalogues(DataFolder());
-  return data;
+  return SourceLibrary()->catalogues;
 }
 
 /// Expects the catalogue's value to agree with the exact one within the relative tolerance.

@@ -6,15 +6,9 @@
 #include <string>
 
 #include "core/calculation.h"
-#include "places.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
-
-/// The data folder of the source tree, read once.
-inline const std::shared_ptr<const Library>& SourceLibrary() {
-  static const std::shared_ptr<const Library> library = ReadLibrary(KORVANE_SOURCE_DIR "/data");
-  return library;
-}
 
 /// A started design of a new project (HEA 200 of S355, 5 m, 10 kN/m, 100 kN) with another
 /// section family.

@@ -15,6 +15,12 @@ beam-general-profile.kvn
   DeflZ_max 5.35714  IRsection 0.351735  IRvz 0.150509  C1 1.132  C2 0.459  Mcr 439.255
   chiLT_min 0.749325  Mdb 179.838  IRlateral 0.420378  Xy 0.946824  Xz 0.452184  ky 1.01581
   IRcombinedY 0.40122  IRcombinedZ 0.498711  klt 0.993089  MaxIR 0.498711
+# The same plates. q = 1.2*(45 + 1.0535) + 1.5*25 = 92.764: M = q*36/8. Flange load 91.5*60*0.6 =
+# 3294, Mf = 1.75*fd*144/6 = 13554.5: factor (sqrt(1 - 3294/13554.5) + 1.1)/2 = 0.985023.
+beam-hsq-flange-loading.kvn
+  N 0  A 13420  Iy 1.90091E8  classTop 1  classBottom 3  MdyTop 487.071  MdyBottom 434.793
+  My_max 417.439  My_min 0  Vz_abs 278.293  DeflZ_max 30.0364  IRsection 0.857038
+  IRvz 0.518602  MaxIR 0.857038
 # Plates 210x25, 2 x 6x240, 420x12. Bottom outstand 100/12 = 8.33 is above 10*0.8136, so class 3
 # with Iy/e. q = 1.2*(22 + 1.0535) + 1.5*12 = 45.66; flange load 44.4*60*0.6 = 1598 is below
 # 0.2*Mf.

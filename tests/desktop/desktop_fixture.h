@@ -16,7 +16,7 @@
 #include "front/desktop/panes.h"
 #include "front/desktop/theme.h"
 #include "front/named_session.h"
-#include "places.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 
@@ -56,7 +56,7 @@ private:
 class DesktopTest : public testing::Test {
 protected:
   DesktopTest()
-      : library_(ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data")),
+      : library_(SourceLibrary()),
         session_(library_, platform_, false,
                  Folders{library_->folder, folder_.path().toStdString()}) {
     session_.Start();

@@ -17,8 +17,8 @@
 
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/diagram_pane.h"
-#include "places.h"
 #include "tests/desktop/desktop_fixture.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -197,14 +197,14 @@ TEST_F(DiagramsTest, ResultLinesAreCopiedAsText) {
 
 // A pinned beam with 10 kN/m over 5 m: My = 1.2*10*25/8 in the middle, Vz = 1.2*10*5/2.
 TEST(DecimalComma, IsThatOfTheDrawnPanes) {
-  const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
+  const auto& library = SourceLibrary();
   const QTemporaryDir folder;
   DesktopPlatform platform;
   NamedSession session(library, platform, true,
                        Folders{library->folder, folder.path().toStdString()});
   session.Start();
   session.Focus("korvane");
-  const ResultPane results(session, ResultPane::Form::Short);
+  const ResultPane results(session, ResultPane::Length::Short);
   EXPECT_TRUE(results.Lines().join('\n').contains("IR = 0,37  <  1,00 (0,50L; Ch 12.2.6)"));
 
   DiagramPane plane(session, {"picmy"}, nullptr);

@@ -17,6 +17,7 @@
 #include "places.h"
 #include "sections/profile_table.h"
 #include "tests/desktop/desktop_fixture.h"
+#include "tests/support/source_library.h"
 #include "tools/help_tables.h"
 
 namespace korvane {
@@ -60,6 +61,21 @@ TEST(HelpBookTest, EveryLinkAndImageResolves) {
     }
   }
   EXPECT_GT(links, 200);
+}
+
+TEST(HelpBookTest, EveryPageIsWhole) {
+  for (const QString& page : AllPages()) {
+    const QString html = Page(page);
+    EXPECT_TRUE(html.endsWith(QLatin1String("</body>\n</html>\n"))) << page.toStdString();
+    for (const char* mark : {"<body>", "<h1", "</h1>", "</head>"}) {
+      EXPECT_EQ(html.count(QLatin1String(mark)), 1) << page.toStdString() << ": " << mark;
+    }
+    for (const char* tag : {"p", "table", "tr", "ul", "ol", "li", "pre", "h2", "h3", "code"}) {
+      const QRegularExpression opened(QStringLiteral("<%1[ >]").arg(QLatin1String(tag)));
+      EXPECT_EQ(html.count(opened), html.count(QStringLiteral("</%1>").arg(QLatin1String(tag))))
+          << page.toStdString() << ": " << tag;
+    }
+  }
 }
 
 TEST(HelpBookTest, EveryImageIsUsed) {
@@ -155,7 +171,7 @@ QString Printed(const QString& script) {
 /// The text blocks of a page that are shown as they stand.
 QStringList Blocks(const QString& page) {
   QStringList blocks;
-  auto it = QRegularExpression(QStringLiteral("<pre>(.*?)</pre>"),
+  auto it = QRegularExpression(QStringLiteral("<pre[^>]*>(.*?)</pre>"),
                                QRegularExpression::DotMatchesEverythingOption)
                 .globalMatch(Page(page));
   while (it.hasNext()) {
@@ -163,15 +179,6 @@ QStringList Blocks(const QString& page) {
     blocks << text.replace(QLatin1String("&lt;"), QLatin1String("<"));
   }
   return blocks;
-}
-
-TEST(HelpBookTest, ScriptOfTheConsolePagePrintsWhatThePageSays) {
-  const QStringList blocks = Blocks(QStringLiteral("console.html"));
-  const auto script = std::find_if(blocks.begin(), blocks.end(), [](const QString& block) {
-    return block.startsWith(QLatin1Char('#'));
-  });
-  ASSERT_LT(script, blocks.end() - 1);
-  EXPECT_EQ(Printed(*script), *(script + 1));
 }
 
 /// The steps of the first design, as the page tells them.
@@ -187,9 +194,20 @@ TEST(HelpBookTest, FirstDesignComesOutAsThePageSays) {
 // --- The page of inputs -------------------------------------------------------------------------
 
 TEST(HelpTablesTest, InputsPageIsWhatTheTablesSay) {
-  const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
+  const auto& library = SourceLibrary();
   EXPECT_EQ(Page("inputs.html").toStdString(), InputsPage(library))
       << "make it anew with scripts/help_figures";
+}
+
+TEST(HelpTablesTest, BrowsersHaveTheContentsList) {
+  const std::string index = Page("index.html").toStdString();
+  EXPECT_EQ(Page("pages.js").toStdString(), PagesScript(index)) << "make it anew with make_help";
+  const HelpBook book(kFolder);
+  EXPECT_EQ(Page("pages.js").count(QLatin1String(".html")), book.Pages().size());
+  for (const QString& page : AllPages()) {
+    EXPECT_TRUE(Page(page).contains(QLatin1String("<script src=\"book.js\" defer></script>")))
+        << page.toStdString();
+  }
 }
 
 // --- Search -------------------------------------------------------------------------------------
@@ -221,13 +239,57 @@ TEST(HelpBookTest, SearchWantsAllWordsAndShowsTheFirst) {
   EXPECT_TRUE(book.Search(QStringLiteral("  ")).isEmpty());
 }
 
+TEST(HelpBookTest, ShortWordsAreSoughtWholeFirst) {
+  const HelpBook book(kFolder);
+  const QList<HelpHit> hits = book.Search(QStringLiteral("IR"));
+  ASSERT_GT(hits.size(), 5);
+  // Parts that have the word itself come before all that have it inside "third" or "required".
+  bool inside = false;
+  int whole = 0;
+  static const QRegularExpression own(QStringLiteral("\\bIR\\b"),
+                                      QRegularExpression::CaseInsensitiveOption);
+  for (const HelpHit& hit : hits) {
+    const bool itself = (hit.section + QLatin1Char(' ') + hit.excerpt).contains(own);
+    EXPECT_FALSE(itself && inside) << hit.file.toStdString() << ": " << hit.excerpt.toStdString();
+    inside = inside || !itself;
+    whole += itself ? 1 : 0;
+  }
+  EXPECT_GT(whole, 5);
+  // A longer word is found in any form of it.
+  EXPECT_FALSE(book.Search(QStringLiteral("stiffen")).isEmpty());
+}
+
+TEST(HelpBookTest, PlaceOfAShortWordIsItsOwn) {
+  EXPECT_EQ(PlaceOfWord(QStringLiteral("a third, ir = 1"), QStringLiteral("IR")).at, 9);
+  EXPECT_TRUE(PlaceOfWord(QStringLiteral("a third, ir = 1"), QStringLiteral("IR")).whole);
+  EXPECT_EQ(PlaceOfWord(QStringLiteral("a third"), QStringLiteral("IR")).at, 4);
+  EXPECT_FALSE(PlaceOfWord(QStringLiteral("a third"), QStringLiteral("IR")).whole);
+  EXPECT_EQ(PlaceOfWord(QStringLiteral("stiffeners"), QStringLiteral("stiffener")).at, 0);
+  EXPECT_EQ(PlaceOfWord(QStringLiteral("none"), QStringLiteral("IR")).at, -1);
+}
+
+TEST(HelpBookTest, SearchKnowsNorwegianWordsAndFormulas) {
+  const HelpBook book(kFolder);
+  for (const char* word : {"knekking", "vipping", "tverrsnittsklasse", "lastfaktor"}) {
+    const QList<HelpHit> hits = book.Search(QString::fromUtf8(word));
+    EXPECT_TRUE(std::any_of(hits.begin(), hits.end(), [](const HelpHit& hit) {
+      return hit.file == QLatin1String("glossary.html");
+    })) << word;
+  }
+  bool formula = false;
+  for (const HelpHit& hit : book.Search(QStringLiteral("sqrt lambda"))) {
+    formula = formula || hit.file == QLatin1String("column-buckling.html");
+  }
+  EXPECT_TRUE(formula);
+}
+
 // --- The windows --------------------------------------------------------------------------------
 
 /// The real platform, as the program connects it.
 class HelpDeskTest : public testing::Test {
 protected:
   HelpDeskTest()
-      : library_(ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data")),
+      : library_(SourceLibrary()),
         session_(library_, platform_, false, Folders{library_->folder, own_.path().toStdString()}) {
     session_.Start();
     desktop_ = std::make_unique<Desktop>(session_);
@@ -254,7 +316,9 @@ protected:
     const QUrl url = PageView().source();
     return url.fileName() + (url.hasFragment() ? QLatin1Char('#') + url.fragment() : QString());
   }
-  void Menu(const char* command) { desktop_->window().ActionOf(*FindControl(*TheForms().main, command))->trigger(); }
+  void Menu(const char* command) {
+    desktop_->window().ActionOf(*FindControl(*TheForms().main, command))->trigger();
+  }
 
   QTemporaryDir own_;
   DesktopPlatform platform_;
@@ -341,6 +405,50 @@ TEST_F(HelpDeskTest, SearchListsPlacesAndOpensThem) {
   field.clear();
   EXPECT_FALSE(results.isVisible());
   EXPECT_TRUE(PageView().extraSelections().isEmpty());
+}
+
+/// The viewer shows each formula as its picture, in the letters' size and colour.
+TEST_F(HelpDeskTest, FormulasAreShownAsPictures) {
+  Menu("mnuhelpcont");
+  ASSERT_TRUE(Opened());
+  const QString page = Page("column-buckling.html");
+  const auto math = QRegularExpression(QStringLiteral("<math\\b.*?</math>"),
+                                       QRegularExpression::DotMatchesEverythingOption)
+                        .match(page);
+  ASSERT_TRUE(math.hasMatch());
+  const QString picture = FormulaPicture(math.captured());
+  desk_->viewer()->Open(QStringLiteral("column-buckling.html"));
+  EXPECT_TRUE(PageView().toHtml().contains(picture));
+  const QUrl url = QUrl::fromLocalFile(kFolder + QLatin1Char('/') + picture);
+  const auto image = PageView().loadResource(QTextDocument::ImageResource, url).value<QImage>();
+  ASSERT_GT(image.width(), 100);
+  EXPECT_EQ(qAlpha(image.pixel(0, 0)), 0);
+  const QRgb text = PageView().palette().color(QPalette::Text).rgb();
+  bool drawn = false;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) drawn = drawn || image.pixel(x, y) == text;
+  EXPECT_TRUE(drawn);
+}
+
+/// On a dark page the ground of a drawing is the page's, and its lines are light.
+TEST_F(HelpDeskTest, DrawingsTurnDarkWithThePage) {
+  Menu("mnuhelpcont");
+  ASSERT_TRUE(Opened());
+  QPalette dark = PageView().palette();
+  dark.setColor(QPalette::Window, QColor(30, 34, 39));
+  dark.setColor(QPalette::Base, QColor(30, 34, 39));
+  dark.setColor(QPalette::WindowText, Qt::white);
+  dark.setColor(QPalette::Text, Qt::white);
+  PageView().setPalette(dark);
+  const QUrl url = QUrl::fromLocalFile(kFolder + QStringLiteral("/img/signs.svg"));
+  const auto image = PageView().loadResource(QTextDocument::ImageResource, url).value<QImage>();
+  ASSERT_FALSE(image.isNull());
+  EXPECT_EQ(image.pixelColor(0, 0), QColor(30, 34, 39));
+  bool light = false;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      light = light || image.pixelColor(x, y).lightness() > 240;
+  EXPECT_TRUE(light);
 }
 
 TEST_F(HelpDeskTest, BackAndForwardFollowThePages) {

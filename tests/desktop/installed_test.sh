@@ -29,3 +29,13 @@ grep -q "$share/hea.dat" trace || fail "the data are not the installed ones"
 grep -q "$share/hea.dat" trace || fail "the data are not the installed ones"
 ! grep -e "\"$build" -e "\"$source" trace | grep -v start_test.sh ||
   fail "korvane opened the files above"
+
+# The help book is there whole, and each of its links leads to a file that is there.
+diff -r "$source/docs/help" "$share/help" >&2 || fail "the installed help book is another one"
+links=0
+while IFS=: read -r page link; do
+  link=${link#*\"}
+  [ -z "$link" ] || [ -f "$share/help/$link" ] || fail "$page leads to $link, which is not there"
+  links=$((links + 1))
+done < <(cd "$share/help" && grep -oE '(href|src)="[^"#:]*' ./*.html)
+[ "$links" -gt 200 ] || fail "only $links links in the installed help book"

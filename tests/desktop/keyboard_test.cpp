@@ -148,7 +148,7 @@ TEST_F(DesktopTest, MnemonicsOpenTheMenus) {
     Main().activateWindow();
     QTest::keyClick(&Main(), key, Qt::AltModifier);
     EXPECT_TRUE(session_.IsOpen(form)) << form;
-    desktop_->CloseForm(form);
+    desktop_->CloseForm(*FindForm(form));
   }
 }
 

@@ -12,6 +12,7 @@
 #include "front/desktop/own_folder.h"
 #include "places.h"
 #include "tests/desktop/desktop_fixture.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -153,7 +154,7 @@ TEST_F(KeysTest, ManualTellsEveryKeyAndOption) {
 }
 
 TEST(SearchOnTheScreen, ShowsItsProgressUnderAWaitCursor) {
-  const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
+  const auto& library = SourceLibrary();
   const QTemporaryDir folder;
   DesktopPlatform platform;
   NamedSession session(library, platform, false,

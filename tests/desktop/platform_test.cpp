@@ -8,8 +8,8 @@
 
 #include "core/project_file.h"
 #include "front/desktop/desktop_platform.h"
-#include "places.h"
 #include "tests/desktop/desktop_fixture.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -32,7 +32,7 @@ TEST(DesktopPlatformTest, ClockTellsADate) {
 /// A refusal with the real message box: it comes up after the event, tells the text, and the
 /// field has the focus again without a calculation.
 TEST(DesktopPlatformTest, MessageBoxDoesNotDisturbTheField) {
-  const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
+  const auto& library = SourceLibrary();
   const QTemporaryDir folder;
   DesktopPlatform platform;
   NamedSession session(library, platform, false,

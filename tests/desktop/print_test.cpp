@@ -12,6 +12,7 @@
 #include "front/desktop/desktop_platform.h"
 #include "places.h"
 #include "tests/desktop/desktop_fixture.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -46,7 +47,7 @@ int PagesOf(const QString& pdf) {
 class PrintTest : public testing::Test {
 protected:
   PrintTest()
-      : library_(ReadLibrary(kData.toStdString())),
+      : library_(SourceLibrary()),
         session_(library_, platform_, false,
                  Folders{library_->folder, folder_.path().toStdString()}) {
     session_.Start();

@@ -10,14 +10,14 @@
 #include "front/desktop/desktop.h"
 #include "front/desktop/desktop_platform.h"
 #include "front/desktop/main_window.h"
-#include "places.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 
 class RealDesktopTest : public testing::Test {
 protected:
   RealDesktopTest()
-      : library_(ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data")),
+      : library_(SourceLibrary()),
         session_(library_, platform_, false,
                  Folders{library_->folder, folder_.path().toStdString()}) {
     session_.Start();

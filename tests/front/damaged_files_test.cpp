@@ -13,6 +13,7 @@
 #include "places.h"
 #include "tests/core/own_process.h"
 #include "tests/front/damage_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -157,7 +158,7 @@ TEST(Vanishing, AProjectBetweenDialogAndReadIsToldAndChangesNothing) {
   }
   const std::string whole = GetFile(project);
   FleetingPlatform platform;
-  NamedSession s(testing::TheLibrary(), platform, false);
+  NamedSession s(SourceLibrary(), platform, false);
   s.Start();
   s.Focus("korvane");
   platform.afterDialog = [&] { fs::remove(project); };
@@ -234,7 +235,7 @@ public:
 TEST(SettingsStore, ThatKeepsNothingStopsNoCommand) {
   const TempFolder folder;
   ForgettingPlatform platform;
-  NamedSession s(testing::TheLibrary(), platform, false);
+  NamedSession s(SourceLibrary(), platform, false);
   s.Start();
   s.Focus("korvane");
   s.Enter("il", "6");

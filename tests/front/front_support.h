@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "front/named_session.h"
-#include "places.h"
+#include "tests/support/source_library.h"
 
 namespace korvane::testing {
 
@@ -48,15 +48,10 @@ private:
   }
 };
 
-inline std::shared_ptr<const Library> TheLibrary() {
-  static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
-  return library;
-}
-
 /// A started session whose main window has the focus.
 struct Running {
   explicit Running(bool comma = false, Folders folders = {})
-      : session(TheLibrary(), platform, comma, std::move(folders)) {
+      : session(SourceLibrary(), platform, comma, std::move(folders)) {
     session.Start();
     session.Focus("korvane");
   }

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "tests/front/front_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -29,13 +30,14 @@ double StateOf(const Session& s, const std::string& form, const std::string& con
 }
 
 int TheFreeRow() {
-  return testing::TheLibrary()->materials.Last();
+  return SourceLibrary()->materials.Last();
 }
 
 void Prepare(Running& r, const std::string& form, const std::string& control) {
   ProjectState& st = r.st();
   st.MaterialIndex = TheFreeRow();
   if (control == "ispring") st.SupportType = 3;
+  if (control == "idef_limit") st.OptimiseOpen = 1;
   if (form == "korvane") return;
   if (form == "optroll") st.ResultView = 1;
   st.check_slend = 1;

@@ -5,6 +5,7 @@
 #include "front/named_session.h"
 #include "sections/profile_table.h"
 #include "tests/front/front_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -13,7 +14,7 @@ using testing::Running;
 
 TEST(Start, NoCalculationRunsBeforeTheMainWindowHasTheFocus) {
   testing::RememberingPlatform platform;
-  NamedSession s(testing::TheLibrary(), platform, false);
+  NamedSession s(SourceLibrary(), platform, false);
   s.Start();
   EXPECT_EQ(s.Calculations(), 0);
   EXPECT_EQ(s.Title("korvane"), "KORVANE-NS3472: ");

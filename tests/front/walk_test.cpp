@@ -11,6 +11,7 @@
 #include "sections/profile_table.h"
 #include "tests/core/temp_folder.h"
 #include "tests/front/front_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -68,7 +69,7 @@ TEST(Walk, EveryCommandRunsAndItsFormCloses) {
 /// The state in which a control of a form can be used.
 void Prepare(Running& r, const std::string& form, const std::string& control) {
   ProjectState& st = r.st();
-  st.MaterialIndex = testing::TheLibrary()->materials.Last();
+  st.MaterialIndex = SourceLibrary()->materials.Last();
   RememberFiles(r);
   if (form == "korvane") {
     if (control == "ispring") st.SupportType = 3;

@@ -7,18 +7,13 @@
 #include <memory>
 
 #include "optimiser/optimize.h"
-#include "places.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 
-inline const std::shared_ptr<const Library>& SharedLibrary() {
-  static const std::shared_ptr<const Library> library = ReadLibrary(KORVANE_SOURCE_DIR "/data");
-  return library;
-}
-
 /// A new project after its first calculation, changed by the test and calculated again.
 inline Design Prepared(const std::function<void(ProjectState&)>& change = {}) {
-  Design design(SharedLibrary());
+  Design design(SourceLibrary());
   StartDesign(design);
   Calculate(design);
   if (change) change(design.st);

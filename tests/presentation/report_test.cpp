@@ -5,19 +5,14 @@
 
 #include "checks/results.h"
 #include "core/calculation.h"
-#include "places.h"
 #include "presentation/aprint.h"
 #include "presentation/recording_target.h"
 #include "sections/profile_table.h"
 #include "sections/shown_values.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
-
-std::shared_ptr<const Library> TheLibrary() {
-  static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
-  return library;
-}
 
 void LoadFully(ProjectState& st) {
   st.iproj = "Hall 12, axis B";
@@ -61,7 +56,7 @@ struct Page {
 };
 
 Design Designed(const Page& page) {
-  Design d(TheLibrary());
+  Design d(SourceLibrary());
   StartDesign(d);
   d.st.ProfileType = page.family;
   if (page.endForces) {
@@ -196,7 +191,7 @@ TEST(Report, TheWeightOfBoxesAndHatsStandsWithTheirProperties) {
 }
 
 TEST(Report, TheDistanceOfTheWebsIsListed) {
-  Design d(TheLibrary());
+  Design d(SourceLibrary());
   StartDesign(d);
   using S = ProjectState;
   constexpr std::pair<int, float32 S::*> distances[] = {
@@ -228,7 +223,7 @@ TEST(Report, LettersOfTheFigureAndTheSketchAreReadable) {
 }
 
 TEST(Report, TheDiagramsBeginBelowTheParametersThatAreThere) {
-  Design d(TheLibrary());
+  Design d(SourceLibrary());
   StartDesign(d);
   d.st.ProfileType = 1;
   d.st.AnalysisMode = 0;
@@ -251,7 +246,7 @@ TEST(Report, TheDiagramsBeginBelowTheParametersThatAreThere) {
 
 // A wide plate over a small angle: the letters stand close to the arrows of their neighbours.
 TEST(Report, LettersOfTheFigureStayOffTheArrows) {
-  Design d(TheLibrary());
+  Design d(SourceLibrary());
   StartDesign(d);
   d.st.ProfileType = 52;
   d.st.p52_b1 = 771.0;
@@ -284,7 +279,7 @@ TEST(Report, TheOneWallHasTheLetterOfItsRowInTheFigureToo) {
 }
 
 TEST(Report, RowsOfTheParametersStandWithoutTheirValues) {
-  Design d(TheLibrary());
+  Design d(SourceLibrary());
   StartDesign(d);
   d.st.ProfileType = 1;
   d.st.AnalysisMode = 0;

@@ -13,6 +13,7 @@
 #include "front/console/design_json.h"
 #include "front/console/run_design.h"
 #include "places.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -95,8 +96,7 @@ void Compare(const std::string& name, const json& expected, const json& got) {
 class Reference : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(Reference, AgreesWithTheIndependentResults) {
-  static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
-  Design design = StartedDesign(library);
+  Design design = StartedDesign(SourceLibrary());
   const DesignRun run = RunProject(design, kFolder + "designs/" + GetParam() + ".kvn");
   ASSERT_EQ(run.file, FileResult::Ok);
   const json& expected = Expected().at(GetParam());

@@ -9,6 +9,7 @@
 
 #include "tests/sections/section_support.h"
 #include "tests/support/exact_shape.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -228,7 +229,7 @@ struct Worst {
 
 // The roundings enter as areas at their centroids, which is exact but for their own inertia.
 TEST(BuiltUp, RolledAnglesUnderAPlateAreNearTheirOutline) {
-  const CatalogueTable& t = testing::TheLibrary()->catalogues[Cat::L3];
+  const CatalogueTable& t = SourceLibrary()->catalogues[Cat::L3];
   Worst worst;
   for (int row = 0; row < ShapeOf(Cat::L3).rows; ++row) {
     const double h = t(row, 1), b = t(row, 2), tw = t(row, 3), tf = t(row, 4);
@@ -248,7 +249,7 @@ TEST(BuiltUp, RolledAnglesUnderAPlateAreNearTheirOutline) {
 // The equivalent flange keeps the catalogue's area but not the bulb's shape: up to 0.5 % in Iy and
 // 0.6 % in Iz.
 TEST(BuiltUp, BulbFlatsUnderAPlateAreNearTheirOutline) {
-  const CatalogueTable& t = testing::TheLibrary()->catalogues[Cat::HP];
+  const CatalogueTable& t = SourceLibrary()->catalogues[Cat::HP];
   Worst worst;
   for (int row = 0; row < ShapeOf(Cat::HP).rows; ++row) {
     const Shape bulb = testing::MakeBulbFlat(t(row, 1), t(row, 2), t(row, 3), t(row, 4));

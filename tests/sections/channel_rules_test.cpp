@@ -7,6 +7,7 @@
 
 #include "tests/sections/removed_parts.h"
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -133,7 +134,7 @@ TEST(ChannelDimensions, EachTableHasItsOwnOutstandAndWeb) {
 }
 
 TEST(ChannelDimensions, OnlyTheTaperedBritishChannelHasAToeRadius) {
-  const Catalogues& cat = testing::TheLibrary()->catalogues;
+  const Catalogues& cat = SourceLibrary()->catalogues;
   Made c(103);
   c.st.p103_sub = 1;
   c.rec.r2 = 77.0;
@@ -151,7 +152,7 @@ TEST(ChannelDimensions, TheTablesHoldTheShearCentreFromTheBack) {
     int e;  // column; that of es + e follows
     double scale;
   };
-  const Catalogues& cat = testing::TheLibrary()->catalogues;
+  const Catalogues& cat = SourceLibrary()->catalogues;
   for (const Row& row : {Row{5, 1, Cat::UPE, 6, 1}, Row{16, 1, Cat::UNP, 7, 1},
                          Row{103, 1, Cat::PFC, 20, 10}, Row{103, 2, Cat::CH, 21, 10}}) {
     SCOPED_TRACE(row.type * 10 + row.sub);
@@ -169,7 +170,7 @@ TEST(ChannelDimensions, TheTablesHoldTheShearCentreFromTheBack) {
 // UNP100: 100 x 50, 6 and 8.5 thick, r1 = 8.5, r2 = 4.5; sin 8 degrees = 0.1391731.
 TEST(ChannelDimensions, TheSurfaceOfAUnpLosesSlopeAndToes) {
   Made m(16);
-  const CatalogueTable& t = testing::TheLibrary()->catalogues[Cat::UNP];
+  const CatalogueTable& t = SourceLibrary()->catalogues[Cat::UNP];
   while (t(m.st.idxUNP, 1) != 100) m.st.idxUNP = m.st.idxUNP + 1;
   m.Load();
   const double straight = 100 - 17 - 17 - 50 * 0.1391731;

@@ -6,6 +6,7 @@
 
 #include "tests/sections/section_support.h"
 #include "tests/support/exact_shape.h"
+#include "tests/support/source_library.h"
 #include "tests/support/strips.h"
 
 namespace korvane {
@@ -222,7 +223,7 @@ TEST(Geometry, TrapezStiffenerCountsItsSlopedWallsAsUprightOnes) {
 TEST(Geometry, RolledAngleUnderAPlateCountsItsFillets) {
   Made m(52);
   m.Load();
-  const CatalogueTable& t = testing::TheLibrary()->catalogues[Cat::L3];
+  const CatalogueTable& t = SourceLibrary()->catalogues[Cat::L3];
   const double h = t(5, 1), b = t(5, 2), tw = t(5, 3), tf = t(5, 4), r1 = t(5, 5), r2 = t(5, 6);
   const double H = h + 10;
   const auto v = Integrate(H, [&](double y) {
@@ -242,7 +243,7 @@ TEST(Geometry, RolledAngleUnderAPlateCountsItsFillets) {
 TEST(Geometry, BulbFlatKeepsTheCataloguesArea) {
   Made m(54);
   m.Load();
-  const CatalogueTable& t = testing::TheLibrary()->catalogues[Cat::HP];
+  const CatalogueTable& t = SourceLibrary()->catalogues[Cat::HP];
   ExpectNear(m.rec.A, t(5, 5) * 100 + 600 * 10, 1e-5, "A");
 }
 

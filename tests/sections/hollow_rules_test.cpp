@@ -7,6 +7,7 @@
 
 #include "tests/sections/removed_parts.h"
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -20,7 +21,7 @@ using testing::YieldFor;
 /// RHS 200 x 100 x 5, hot formed.
 Made Rectangular() {
   Made m(7);
-  const CatalogueTable& t = testing::TheLibrary()->catalogues[Cat::RHS];
+  const CatalogueTable& t = SourceLibrary()->catalogues[Cat::RHS];
   int row = 0;
   while (!(t(row, 1) == 200 && t(row, 2) == 100 && t(row, 3) == 5)) ++row;
   m.st.idxRHSr = row;
@@ -69,7 +70,7 @@ TEST(HollowDimensions, TurningTwiceRestoresTheSection) {
 
 TEST(HollowDimensions, ATurnedSectionKeepsItsName) {
   Made m = Rectangular();
-  const Catalogues& cat = testing::TheLibrary()->catalogues;
+  const Catalogues& cat = SourceLibrary()->catalogues;
   EXPECT_EQ(SectionTitle(m.st, cat), "RHS  200x 100x 5");
   m.st.RhsOrientation = 0;
   EXPECT_EQ(SectionTitle(m.st, cat), "RHS  200x 100x 5");

@@ -10,6 +10,7 @@
 #include "sections/p06bas.h"
 #include "sections/p23bas.h"
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -115,7 +116,7 @@ TEST(Channel, UnpLeavesTheRadiusOfTheSectionBefore) {
 TEST(Channel, TheShearCentreIsTakenFromTheCentroid) {
   Made m(103);
   m.Load();
-  const CatalogueTable& t = testing::TheLibrary()->catalogues[Cat::PFC];
+  const CatalogueTable& t = SourceLibrary()->catalogues[Cat::PFC];
   EXPECT_NEAR(m.rec.e, t(0, 20) * 10, 1e-4);
   EXPECT_NEAR(m.rec.es, t(0, 21) * 10 - t(0, 20) * 10, 1e-4);
 }
@@ -271,7 +272,7 @@ TEST(Hsq, FlangeLoadingLowersBothCapacitiesUntilItIsTooMuch) {
 }
 
 TEST(Hsq, TheMessageTakesTheOptionOffForGood) {
-  Design d(testing::TheLibrary());
+  Design d(SourceLibrary());
   StartDesign(d);
   d.st.ProfileType = 24;
   d.st.q1 = 900.0;
@@ -378,7 +379,7 @@ TEST(Plate, HasNoAxialPass) {
 }
 
 TEST(Names, ListEntriesKeepTheBlankOfTheSignAndTitlesDoNot) {
-  const Catalogues& cat = testing::TheLibrary()->catalogues;
+  const Catalogues& cat = SourceLibrary()->catalogues;
   EXPECT_EQ(ListEntry(Cat::HEA, cat, 0), "HEA 100");
   EXPECT_EQ(ListEntry(Cat::RHS, cat, 0), "RHS  50x 30x 2.6");
   EXPECT_EQ(ListEntry(Cat::UB, cat, 0), "UB  1016x 305x 487");

@@ -6,11 +6,10 @@
 #include <gtest/gtest.h>
 
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
-
-using testing::TheLibrary;
 
 struct FirstEntry {
   Cat catalogue;
@@ -40,7 +39,7 @@ TEST(Names, FirstEntryOfEveryCatalogue) {
                                 {Cat::PFC, "PFC  430x 100x 64"},
                                 {Cat::CH, "CH  432x 102x 65"}};
   for (const FirstEntry& e : entries) {
-    EXPECT_EQ(ListEntry(e.catalogue, TheLibrary()->catalogues, 0), e.entry);
+    EXPECT_EQ(ListEntry(e.catalogue, SourceLibrary()->catalogues, 0), e.entry);
   }
 }
 
@@ -155,8 +154,8 @@ TEST(Names, TitlesOfTypedSections) {
   for (const Title& t : titles) {
     SCOPED_TRACE(t.family);
     st.ProfileType = t.family;
-    EXPECT_EQ(SectionTitle(st, TheLibrary()->catalogues), t.title);
-    EXPECT_EQ(NameDimensions(st, TheLibrary()->catalogues), t.dimensions);
+    EXPECT_EQ(SectionTitle(st, SourceLibrary()->catalogues), t.title);
+    EXPECT_EQ(NameDimensions(st, SourceLibrary()->catalogues), t.dimensions);
   }
 }
 
@@ -164,14 +163,14 @@ TEST(Names, TitlesOfCatalogueSections) {
   ProjectState st;
   st.ProfileType = 1;
   st.idxHEA = 5;
-  EXPECT_EQ(SectionTitle(st, TheLibrary()->catalogues), "HEA200");
-  EXPECT_EQ(NameDimensions(st, TheLibrary()->catalogues), "200");
+  EXPECT_EQ(SectionTitle(st, SourceLibrary()->catalogues), "HEA200");
+  EXPECT_EQ(NameDimensions(st, SourceLibrary()->catalogues), "200");
   st.idxHEA = -1;
-  EXPECT_EQ(SectionTitle(st, TheLibrary()->catalogues), "");
+  EXPECT_EQ(SectionTitle(st, SourceLibrary()->catalogues), "");
   st.idxHEA = 30000;
-  EXPECT_EQ(SectionTitle(st, TheLibrary()->catalogues), "");
+  EXPECT_EQ(SectionTitle(st, SourceLibrary()->catalogues), "");
   st.ProfileType = 6;
-  EXPECT_EQ(SectionTitle(st, TheLibrary()->catalogues), "RHS  40x 40x 3.2");
+  EXPECT_EQ(SectionTitle(st, SourceLibrary()->catalogues), "RHS  40x 40x 3.2");
 }
 
 TEST(Names, NumbersWithoutTheBlankOfTheirSign) {

@@ -9,8 +9,8 @@
 
 #include "core/calculation.h"
 #include "core/numeric.h"
-#include "places.h"
 #include "sections/section_sum.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -85,7 +85,7 @@ TEST(PlasticWalk, RefusesEdgesWithoutAPlace) {
 }
 
 TEST(PlasticWalk, DesignsFlangesThatOverlap) {
-  Design d(ReadLibrary(KORVANE_SOURCE_DIR "/data"));
+  Design d(SourceLibrary());
   StartDesign(d);
   d.st.ProfileType = 22;
   d.st.p22_h = 50;

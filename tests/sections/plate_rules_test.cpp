@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -20,8 +21,8 @@ constexpr int kPlates[] = {51, 52, 53, 54, 55, 56};
 // ---- dimensions
 
 TEST(Plate, TheOverallHeightIsThatOfStiffenerAndPlate) {
-  const CatalogueTable& l = testing::TheLibrary()->catalogues[Cat::L3];
-  const CatalogueTable& hp = testing::TheLibrary()->catalogues[Cat::HP];
+  const CatalogueTable& l = SourceLibrary()->catalogues[Cat::L3];
+  const CatalogueTable& hp = SourceLibrary()->catalogues[Cat::HP];
   const double heights[] = {210, l(5, 1) + 10, 310, hp(5, 1) + 10, 262, 600};
   for (std::size_t i = 0; i < 6; ++i) {
     Made m(kPlates[i]);
@@ -47,7 +48,7 @@ TEST(Plate, SurfacesOfThePlateAndTheStiffener) {
     return double(m.rec.g);
   };
   const double q = 1 - std::acos(-1.0) / 4;
-  const CatalogueTable& l = testing::TheLibrary()->catalogues[Cat::L3];
+  const CatalogueTable& l = SourceLibrary()->catalogues[Cat::L3];
   ExpectClose(surface(51), 2 * (200 + 600) / 1000., "51");
   ExpectClose(surface(52),
               (1200 + 2 * l(5, 1) + 2 * l(5, 2) - 2 * l(5, 3) - 2 * q * (l(5, 5) + l(5, 6))) / 1000,
@@ -115,7 +116,7 @@ TEST(Plate, ATrapezeHasTheWidthsBetweenItsWalls) {
 TEST(Plate, ABulbIsAFlangeOfTheSameArea) {
   Made m(54);
   m.Load();
-  const CatalogueTable& t = testing::TheLibrary()->catalogues[Cat::HP];
+  const CatalogueTable& t = SourceLibrary()->catalogues[Cat::HP];
   const double h = t(5, 1), tw = t(5, 2), wb = t(5, 3), r = t(5, 4), A = t(5, 5) * 100;
   EXPECT_NEAR(m.rec.b2, wb + tw - 0.45 * r, 1e-4);
   EXPECT_NEAR(m.rec.tf2, (A - tw * h) / (wb - 0.45 * r), 1e-4);

@@ -8,6 +8,7 @@
 #include "sections/elements.h"
 #include "tests/sections/removed_parts.h"
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -245,7 +246,7 @@ TEST(RolledDimensions, TheSurfaceOfAnInpLosesTheSlopeOfItsFlanges) {
 }
 
 TEST(RolledDimensions, BritishTablesGiveTheirOwnModuliWeightAndSurface) {
-  const Catalogues& cat = testing::TheLibrary()->catalogues;
+  const Catalogues& cat = SourceLibrary()->catalogues;
   const auto expectTabled = [&](const SectionRecord& rec, Cat table, int row) {
     const CatalogueTable& t = cat[table];
     EXPECT_NEAR(rec.S, t(row, 4), 1e-4);

@@ -9,15 +9,10 @@
 #include <string>
 
 #include "core/calculation.h"
-#include "places.h"
 #include "sections/profile_table.h"
+#include "tests/support/source_library.h"
 
 namespace korvane::testing {
-
-inline std::shared_ptr<const Library> TheLibrary() {
-  static const auto library = ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data");
-  return library;
-}
 
 /// Design strength of the sections below, MPa.
 constexpr double kFd = 355 / 1.1;
@@ -68,7 +63,7 @@ struct Made {
   void Load() {
     st.epsilon = std::sqrt(235 / st.fyk);
     st.fd = st.fyk / st.gammam1;
-    family().load(st, TheLibrary()->catalogues, rec);
+    family().load(st, SourceLibrary()->catalogues, rec);
   }
   SectionRecord& All() {
     Load();

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -102,7 +103,7 @@ TEST(T, HasNoMomentAndNoShearCapacityOfItsOwn) {
 }
 
 TEST(T, TheClassOfTheSectionStandsInItsControl) {
-  Design d(testing::TheLibrary());
+  Design d(SourceLibrary());
   StartDesign(d);
   d.st.ProfileType = 26;
   d.st.p26_h = 300.0;  // 29: class 4

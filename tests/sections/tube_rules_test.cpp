@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -70,7 +71,7 @@ TEST(Tube, TheSectionStepClassifiesWithTheFormerYieldStress) {
   m.st.p31_d = 600.0;
   m.st.fyk = 355.0;
   m.st.epsilon = 1;
-  m.family().load(m.st, testing::TheLibrary()->catalogues, m.rec);
+  m.family().load(m.st, SourceLibrary()->catalogues, m.rec);
   EXPECT_EQ(int(m.rec.class_), 2);  // 60 between 50 and 70
   m.st.epsilon = std::sqrt(235.0 / 355);
   m.ClassFor(0, 0, 0);

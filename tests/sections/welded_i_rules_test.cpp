@@ -7,6 +7,7 @@
 
 #include "tests/sections/removed_parts.h"
 #include "tests/sections/section_support.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -97,7 +98,7 @@ TEST(WeldedI, UnderTensionAndBendingTheFlangeIsPartlyCompressed) {
 }
 
 TEST(WeldedI, FortyMillimetresStillHaveTheYieldStressOfThinPlates) {
-  Design d(testing::TheLibrary());
+  Design d(SourceLibrary());
   StartDesign(d);
   d.st.ProfileType = 21;
   d.st.p21_tf = 40.0;

@@ -5,15 +5,14 @@
 #include "analysis/loads.h"
 #include "case.h"
 #include "core/calculation.h"
-#include "places.h"
+#include "tests/support/source_library.h"
 
 namespace korvane::verification {
 
 namespace {
 
 Design Member(int profileType, double L) {
-  static const std::shared_ptr<const Library> library = ReadLibrary(KORVANE_SOURCE_DIR "/data");
-  Design d(library);
+  Design d(SourceLibrary());
   StartDesign(d);
   ClearLoads(d.st);
   d.st.ProfileType = profileType;

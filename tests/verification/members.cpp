@@ -7,7 +7,7 @@
 
 #include "analysis/loads.h"
 #include "case.h"
-#include "places.h"
+#include "tests/support/source_library.h"
 
 namespace korvane::verification {
 
@@ -18,8 +18,7 @@ constexpr int kS235 = 0;
 constexpr int kS355 = 5;
 
 Design Bare(int profileType, int grade, double L) {
-  static const std::shared_ptr<const Library> library = ReadLibrary(KORVANE_SOURCE_DIR "/data");
-  Design d(library);
+  Design d(SourceLibrary());
   StartDesign(d);
   ClearLoads(d.st);
   d.st.ProfileType = profileType;

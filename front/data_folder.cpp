@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "front/console/data_folder.h"
+#include "front/data_folder.h"
 
 #include <cstdlib>
 #include <filesystem>
