@@ -410,7 +410,7 @@ CheckerBlock Buckling(D d) {
 // --- Serviceability
 // -------------------------------------------------------------------------------
 
-CheckerBlock DeflectionLimits(D d) {
+CheckerBlock Deflection(D d) {
   CheckerBlock b{"Deflection (SLS) and frequencies", {}};
   if (d.st.AnalysisMode == 1) {
     static constexpr Item items[] = {
@@ -434,7 +434,7 @@ CheckerBlock DeflectionLimits(D d) {
 
 CheckerBlocks CheckerResults(const Design& d) {
   return {SectionValues(d), SectionCapacitiesOf(d), Forces(d),   SectionLine(d),   ShearLines(d),
-          LateralLine(d),   LeastLateral(d),        Buckling(d), DeflectionLimits(d)};
+          LateralLine(d),   LeastLateral(d),        Buckling(d), Deflection(d)};
 }
 
 }  // namespace korvane
