@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <type_traits>
 
+#include "core/supports.h"
+
 namespace korvane {
 
 namespace {
@@ -41,8 +43,8 @@ Limit WebStiffenerLimit(const S& st) {
 }
 
 Limit LateralFactorLimit(const S& st) {
-  return st.SupportType == 4 ? Between(1, 2, " 1.0 <= k <= 2.0 ")
-                             : Between(0.5, 1, " 0.5<= k <= 1.0 ");
+  return IsCantilever(st.SupportType) ? Between(1, 2, " 1.0 <= k <= 2.0 ")
+                                      : Between(0.5, 1, " 0.5<= k <= 1.0 ");
 }
 
 /// The web distance of a box or an HSQ, below b/2 - tw. The message is that of the end which the

@@ -36,9 +36,9 @@ void Prepare(Running& r, const std::string& form, const std::string& control) {
   ProjectState& st = r.st();
   st.MaterialIndex = TheFreeRow();
   if (control == "ispring") st.SupportType = 3;
+  if (control == "idef_limit") st.OptimiseOpen = 1;
   // A thin flange that carries no load can't be overloaded, which would be told.
   if (control == "isttf2") st.HsqKind = 1;
-  if (control == "idef_limit") st.OptimiseOpen = 1;
   if (form == "korvane") return;
   if (form == "optroll") st.ResultView = 1;
   st.check_slend = 1;
