@@ -85,7 +85,7 @@ protected:
       }
     });
     answer.start(20);
-    desktop_->window().ActionOf(command)->trigger();
+    desktop_->window().ActionOf(*FindControl(*TheForms().main, command))->trigger();
     QCoreApplication::processEvents();
     return asked;
   }
@@ -96,7 +96,7 @@ protected:
   QTemporaryDir folder_;
   DesktopPlatform platform_;
   std::shared_ptr<const Library> library_;
-  Session session_;
+  NamedSession session_;
   std::unique_ptr<Desktop> desktop_;
 };
 
