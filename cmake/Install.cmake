@@ -5,6 +5,8 @@ install(FILES ${KORVANE_DATA_FILES} DESTINATION ${CMAKE_INSTALL_DATADIR}/korvane
 file(GLOB KORVANE_EXAMPLES ${CMAKE_SOURCE_DIR}/examples/*.kvn)
 install(FILES ${KORVANE_EXAMPLES} DESTINATION ${CMAKE_INSTALL_DATADIR}/korvane/examples)
 install(FILES packaging/copyright docs/VERIFICATION.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES packaging/lintian-overrides
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME korvane)
 
 # Debian wants manual pages and the changelog compressed.
 find_program(GZIP gzip REQUIRED)

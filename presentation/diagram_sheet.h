@@ -28,6 +28,7 @@ public:
   Box Title(const std::string& text, double y);
   /// The member's line with a tick at each end.
   void Axis(double y);
+  /// Colour and width of the lines that follow; the width is multiplied by the style's pen.
   void Pen(Role colour, double width);
   /// Size of an arrow head or another sign, grid units across the member: where the picture is
   /// flattened, signs keep the size that they have along the member.
@@ -78,6 +79,7 @@ struct Curve {
 struct CurveRoom {
   double above = 0, below = 0;
 };
+/// For a curve between max and min whose greatest ordinate is scale grid units.
 CurveRoom RoomOf(double max, double min, double scale, const DiagramStyle& style);
 
 /// Ordinate of a value in grid units, upwards; 0 where the greatest is 0.

@@ -61,9 +61,9 @@ double DrawSectionValues(DrawingTarget& t, double line, const Design& d);
 std::string ProfileLine(const Design& d);
 /// What the flange of an HSQ beam carries, and whether the program has left it out.
 std::string FlangeLoadLine(const Design& d);
-/// "Section class 1-2: Plastic section modulus " and the options of class 4, empty where a
-/// family has none.
+/// "Section class 1-2: Plastic section modulus ", empty where a family has no such option.
 std::string ModulusLine(const Design& d);
+/// The options of class 4 in force; empty with none, and where a family has none.
 std::string ClassFourLine(const Design& d);
 
 /// The whole control report below the frame.

@@ -46,6 +46,8 @@ TEST(Loading, TogglesStepThroughTheirCodesAndCaptions) {
   r.session.Click("ipm_yz(1)");
   EXPECT_EQ(r.session.Text("ipm_yz(1)"), "Mz");
   EXPECT_EQ(r.st().pm_yz[1], 0);
+  r.session.Click("ipm_yz(1)");
+  EXPECT_EQ(r.st().pm_yz[1], 1);
 }
 
 TEST(Loading, RelativePositionsAreStoredInMetres) {
@@ -58,6 +60,26 @@ TEST(Loading, RelativePositionsAreStoredInMetres) {
   EXPECT_FALSE(r.session.Enter("ipmx(2)", "1.01"));
   EXPECT_EQ(r.platform.messages.back(), " 0 < x <= 1 ");
   EXPECT_EQ(r.st().pmx[2], 0.0);
+}
+
+TEST(Forms, AreClosedByAButtonThatSaysOk) {
+  int buttons = 0;
+  for (const Form& form : AllForms()) {
+    if (const Control* ok = FindControl(form, "ok")) {
+      EXPECT_EQ(ok->caption, "OK") << form.name;
+      ++buttons;
+    }
+  }
+  EXPECT_GE(buttons, 8);
+}
+
+TEST(Points, AreRelativeWhileTheFlagIsOne) {
+  Running r;
+  r.session.Show("chpoints");
+  r.session.Click("cprelative");
+  EXPECT_EQ(r.st().cp_relative, 1);
+  r.session.Click("cpabsolute");
+  EXPECT_EQ(r.st().cp_relative, 0);
 }
 
 TEST(Loading, RemoveAllLoadsKeepsTheFactors) {
