@@ -100,16 +100,17 @@ std::optional<PrintJob> DesktopPlatform::AskPrint() {
   return PrintJob{printer_->copyCount()};
 }
 
-void DesktopPlatform::PrintToFile(const Design& design, Report report, int copies) {
+void DesktopPlatform::PrintToFile(const Design& design, Report report, const PrintJob& print) {
   PaintJob job;
   job.width = kPageWidth;
   job.height = kPageHeight;
   job.title = std::string(ReportTitle(report)) + " - " + design.st.iproj + " - " + design.st.iident;
   const DateTime now = Now();
   const auto page = [&](DrawingTarget& target) {
-    DrawReport(target, report, design, {now.year, now.month, now.day, now.hour, now.minute});
+    DrawReport(target, report, design, {now.year, now.month, now.day, now.hour, now.minute},
+               print.notice);
   };
-  job.pages.assign(static_cast<std::size_t>(std::max(1, copies)), page);
+  job.pages.assign(static_cast<std::size_t>(std::max(1, print.copies)), page);
   const QString path = printer_->outputFileName();
   std::string bytes;
   std::string failed = PaintIntoMemory(job, bytes);
@@ -119,17 +120,17 @@ void DesktopPlatform::PrintToFile(const Design& design, Report report, int copie
   }
 }
 
-void DesktopPlatform::Print(const Design& design, int kind, int copies) {
+void DesktopPlatform::Print(const Design& design, int kind, const PrintJob& job) {
   if (printer_ == nullptr) return;
   const Report report = kind == 0 ? Report::SectionProperty : Report::SectionAndStability;
   if (printer_->outputFormat() == QPrinter::PdfFormat && !printer_->outputFileName().isEmpty()) {
-    PrintToFile(design, report, copies);
+    PrintToFile(design, report, job);
     return;
   }
   // The page brings its own frame and margins, counted from the edge of the paper.
   printer_->setFullPage(true);
   printer_->setPageMargins(QMarginsF(0, 0, 0, 0));
-  printer_->setCopyCount(copies);
+  printer_->setCopyCount(job.copies);
   printer_->setDocName(QString::fromUtf8(ReportTitle(report)));
   QPainter painter;
   if (!painter.begin(printer_.get())) {
@@ -138,12 +139,13 @@ void DesktopPlatform::Print(const Design& design, int kind, int copies) {
   }
   const DateTime now = Now();
   // A file and many a printer make no copies themselves.
-  const int pages = printer_->supportsMultipleCopies() ? 1 : std::max(1, copies);
+  const int pages = printer_->supportsMultipleCopies() ? 1 : std::max(1, job.copies);
   for (int n = 0; n < pages; ++n) {
     if (n > 0) printer_->newPage();
     PainterTarget page(painter, kPageWidth, kPageHeight,
                        QRectF(0, 0, printer_->width(), printer_->height()), Palette::Light());
-    DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute});
+    DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute},
+               job.notice);
   }
 }
 
