@@ -32,6 +32,7 @@ public:
   /// Size of an arrow head or another sign, grid units across the member: where the picture is
   /// flattened, signs keep the size that they have along the member.
   double Sign(double size) const { return size * pen_; }
+  double Gap() const { return gap_; }
 
 private:
   DrawingTarget& target_;
@@ -39,12 +40,27 @@ private:
   Box bounds_;
   LabelPlacer labels_;
   double pen_;
+  double gap_;
 };
 
 /// Height of a line of text with its air, grid units.
 inline double LineOf(const DiagramStyle& style) {
   return 1.25 * style.text;
 }
+
+/// Length of an arrow head that is read at arm's length, grid units across the member: 1.5 mm on
+/// paper, where no letters are under 6 pt.
+inline double LeastHead(const DiagramStyle& style) {
+  return 1.7 / 2.4 * style.text;
+}
+
+/// The least distance of a value from the line that it belongs to, grid units.
+inline double LabelGap(const DiagramStyle& style) {
+  return 0.2 * style.text;
+}
+
+/// A value of a diagram ("#0.0"), short where it is longer than any picture.
+std::string DiagramNumber(double value);
 
 /// One curve over the member.
 struct Curve {

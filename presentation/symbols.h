@@ -17,8 +17,9 @@ void DrawArrowHead(DrawingTarget& target, Point tip, double dx, double dy, doubl
 /// A line from tail to tip with a head.
 void DrawArrow(DrawingTarget& target, Point tail, Point tip, double head);
 
-/// Part of a circle around a point with an arrow head at its end; clockwise for a positive
-/// moment.
+/// Part of a circle around a point with an arrow head at its end, kMomentHead of its radius long;
+/// clockwise for a positive moment.
+inline constexpr double kMomentHead = 0.7;
 void DrawMomentArrow(DrawingTarget& target, Point centre, double radius, bool clockwise);
 
 /// A dimension line between two points. Shorter than kOutsideHeads heads it has them outside,

@@ -45,5 +45,7 @@ void BoxUnequalCapacities(const ProjectState& st, const SectionForces& f, Sectio
 /// Load on one flange, kN per metre and flange length as the check counts it, 0 when flange
 /// loading does not apply.
 double FlangeLoad(const ProjectState& st);
+/// What one flange can carry, in the same measure.
+double FlangeStrength(const ProjectState& st, const SectionRecord& rec);
 
 }  // namespace korvane

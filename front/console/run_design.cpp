@@ -96,10 +96,11 @@ bool HoldsVersion(std::string_view bytes) {
 
 FileResult ReadProjectInput(const std::string& path, ProjectState& st, DesignRun& run) {
   bool notFound = false;
-  const auto bytes = ReadInput(path, &notFound);
+  auto bytes = ReadInput(path, &notFound);
   if (!bytes) return notFound ? FileResult::NotFound : FileResult::OtherError;
   const FileResult result = ReadProject(*bytes, st);
   if (result == FileResult::Ok && !HoldsVersion(*bytes)) run.remarks.emplace_back(kNoVersion);
+  run.bytes = std::move(*bytes);
   return result;
 }
 

@@ -22,6 +22,7 @@ struct DesignRun {
   std::optional<std::string> fault;  ///< step of the arithmetic failure
   std::string what;                  ///< its cause
   std::vector<std::string> remarks;  ///< what the engineer should know of the file
+  std::string bytes;                 ///< the file as it was read
 };
 
 /// The start sequence and the first calculation of the new project, whose failure is passed over.

@@ -55,7 +55,8 @@ private:
                                      const std::string& extension);
   /// A PDF is painted into memory and written as every other file, by the same routines as the
   /// console program's.
-  void PrintToFile(const Design& design, Report report, const PrintJob& print);
+  void PrintToFile(const Design& design, const std::vector<Report>& sheets, const PrintJob& print);
+  bool withChecker_ = false;  ///< the checker's sheet was asked for in the dialog
   QPointer<QWidget> window_;
   QStringList waiting_;
   bool waitCursor_ = false;

@@ -146,7 +146,8 @@ TEST_F(PrintTest, FailingPrinterIsTold) {
   answer.start(20);
   ASSERT_TRUE(Print("mnuprint1", Path("gone/page.pdf"), 1, true));
   EXPECT_TRUE(QTest::qWaitFor([&] { return !platform_.HasMessages(); }, 3000));
-  EXPECT_EQ(told, "The printer does not take the page");
+  EXPECT_EQ(told, "The page could not be written to\n" + Path("gone/page.pdf") +
+                      "\nThe folder doesn't exist.");
 }
 
 TEST_F(PrintTest, CancelSaysNothingAndWritesNothing) {
