@@ -43,9 +43,11 @@ void DrawSectionReport(DrawingTarget& t, double line, const Design& d) {
 
 }  // namespace
 
-void DrawReport(DrawingTarget& page, Report report, const Design& design, const ReportTime& time) {
+void DrawReport(DrawingTarget& page, Report report, const Design& design, const ReportTime& time,
+                const std::string& notice) {
   const ScopedFrame grid(page, Box{0, 0, kPageWidth, kPageHeight},
                          Box{0, 0, kPageColumns, kPageLines});
+  if (!notice.empty()) DrawNotice(page, notice);
   const double line = DrawPageFrame(page, design, time);
   if (report == Report::SectionProperty) {
     DrawSectionReport(page, line, design);

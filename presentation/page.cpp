@@ -147,6 +147,14 @@ std::string FileOf(const DrawingTarget& t, const std::string& path, double width
 
 }  // namespace
 
+void DrawNotice(DrawingTarget& t, const std::string& notice) {
+  t.ForeColor = Role::Fail;
+  t.FontSize = kFrameSize;
+  t.FontBold = true;
+  PutFitted(t, kMargin, 1.8, notice, kRightEdge - kMargin);
+  t.FontBold = false;
+}
+
 double DrawPageFrame(DrawingTarget& t, const Design& d, const ReportTime& time) {
   constexpr double top = 4;
   constexpr double bottom = 10.6;

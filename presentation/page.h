@@ -49,6 +49,9 @@ std::string ShortNumbers(std::string_view text);
 void PutValue(DrawingTarget& t, double column, double line, std::string_view name,
               std::string_view value, std::string_view unit);
 
+/// A notice above the frame, in the colour of what fails.
+void DrawNotice(DrawingTarget& t, const std::string& notice);
+
 /// The frame with title, project and date blocks. Returns the line below it.
 double DrawPageFrame(DrawingTarget& t, const Design& d, const ReportTime& time);
 /// "Material:" with fy, fd, E and gm1 on one line.

@@ -29,9 +29,11 @@ public:
   std::optional<PrintJob> AskPrint() override {
     return Next() ? std::optional<PrintJob>(PrintJob{}) : std::nullopt;
   }
-  void Print(const Design&, int kind, int) override {
+  void Print(const Design&, int kind, const PrintJob& job) override {
     out_ << "print: "
-         << (kind == 0 ? "Section Property and Capacity" : "Section and Stability Control") << "\n";
+         << (kind == 0 ? "Section Property and Capacity" : "Section and Stability Control");
+    if (!job.notice.empty()) out_ << " (" << job.notice << ")";
+    out_ << "\n";
   }
   void OpenHelp(const std::string& topic) override { out_ << "help: " << topic << "\n"; }
   void Answer(std::optional<std::string> path) { answers_.push_back(std::move(path)); }

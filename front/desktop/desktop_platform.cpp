@@ -150,12 +150,13 @@ std::optional<PrintJob> DesktopPlatform::AskPrint() {
 }
 
 void DesktopPlatform::PrintToFile(const Design& design, const std::vector<Report>& sheets,
-                                  int copies) {
+                                  const PrintJob& print) {
   const DateTime now = Now();
   PaintJob job = ReportJob(design, sheets, {now.year, now.month, now.day, now.hour, now.minute},
-                           ProjectOf(design));
+                           ProjectOf(design), print.notice);
   const auto pages = job.pages;
-  for (int n = 1; n < copies; ++n) job.pages.insert(job.pages.end(), pages.begin(), pages.end());
+  for (int n = 1; n < print.copies; ++n)
+    job.pages.insert(job.pages.end(), pages.begin(), pages.end());
   const QString path = printer_->outputFileName();
   std::string bytes;
   std::string failed = PaintIntoMemory(job, bytes);
@@ -165,18 +166,18 @@ void DesktopPlatform::PrintToFile(const Design& design, const std::vector<Report
   }
 }
 
-void DesktopPlatform::Print(const Design& design, int kind, int copies) {
+void DesktopPlatform::Print(const Design& design, int kind, const PrintJob& job) {
   if (printer_ == nullptr) return;
   std::vector<Report> sheets{kind == 0 ? Report::SectionProperty : Report::SectionAndStability};
   if (withChecker_) sheets.push_back(Report::Checker);
   if (printer_->outputFormat() == QPrinter::PdfFormat && !printer_->outputFileName().isEmpty()) {
-    PrintToFile(design, sheets, copies);
+    PrintToFile(design, sheets, job);
     return;
   }
   // The page brings its own frame and margins, counted from the edge of the paper.
   printer_->setFullPage(true);
   printer_->setPageMargins(QMarginsF(0, 0, 0, 0));
-  printer_->setCopyCount(copies);
+  printer_->setCopyCount(job.copies);
   printer_->setDocName(QString::fromUtf8(ReportTitle(sheets.front())));
   QPainter painter;
   if (!painter.begin(printer_.get())) {
@@ -185,13 +186,14 @@ void DesktopPlatform::Print(const Design& design, int kind, int copies) {
   }
   const DateTime now = Now();
   // A file and many a printer make no copies themselves.
-  const int runs = printer_->supportsMultipleCopies() ? 1 : std::max(1, copies);
+  const int runs = printer_->supportsMultipleCopies() ? 1 : std::max(1, job.copies);
   for (int n = 0; n < runs; ++n) {
     for (const Report report : sheets) {
       if (n > 0 || report != sheets.front()) printer_->newPage();
       PainterTarget page(painter, kPageWidth, kPageHeight,
                          QRectF(0, 0, printer_->width(), printer_->height()), Palette::Light());
-      DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute});
+      DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute},
+                 job.notice);
     }
   }
 }

@@ -244,6 +244,7 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   head->addStretch(1);
   verdict_ = new VerdictPane(desktop_.session());
   head->addWidget(verdict_);
+  connect(verdict_, &Pane::Clicked, this, &MainWindow::ShowNotes);
   column->addLayout(head);
 
   auto* top = new QSplitter(Qt::Horizontal);

@@ -5,6 +5,8 @@
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
+#include <QDialog>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
@@ -13,6 +15,7 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "front/desktop/desktop.h"
@@ -152,6 +155,30 @@ void MainWindow::ShowProgress(int done, int all) {
   // The search blocks the input; only its own progress is painted.
   progress_->repaint();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void MainWindow::ShowNotes() {
+  auto* lines = static_cast<ResultPane*>(binder_->WidgetOf(*TheForms().onMain.pic31));
+  if (const QRect place = lines->MarkRatio(verdict_->Figure()); !place.isEmpty()) {
+    auto* scroll = qobject_cast<QScrollArea*>(lines->parentWidget()->parentWidget());
+    if (scroll != nullptr) {
+      scroll->ensureVisible(0, place.top(), 0, 0);
+      scroll->ensureVisible(0, place.bottom(), 0, 0);
+    }
+  }
+  auto* popup = new QDialog(this, Qt::Popup);
+  popup->setObjectName(QStringLiteral("verdict_notes"));
+  popup->setAttribute(Qt::WA_DeleteOnClose);
+  auto* text = new QLabel(verdict_->toolTip(), popup);
+  text->setWordWrap(true);
+  text->setTextFormat(Qt::PlainText);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  text->setMinimumWidth(Ems(this, 36));
+  (new QVBoxLayout(popup))->addWidget(text);
+  popup->adjustSize();
+  const QPoint corner = verdict_->mapToGlobal(QPoint(verdict_->width(), verdict_->height()));
+  popup->move(corner - QPoint(popup->width(), 0));
+  popup->show();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -28,6 +28,8 @@ public:
   QAction* ActionOf(const Control& command) const;
   /// Progress of a search in the status bar; all is 0 at its end.
   void ShowProgress(int done, int all);
+  /// Shows the notes of the verdict and marks the governing line.
+  void ShowNotes();
   /// Draws the diagrams anew, gives them the room that they need and scrolls to the moments.
   void RaiseDiagrams();
 

@@ -150,60 +150,66 @@ void FigurePane::Draw(QPainter& painter) {
 VerdictPane::VerdictPane(const Session& session, QWidget* parent) : Pane(session, parent) {
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   setObjectName(QStringLiteral("verdict"));
+  setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);
   ground_ = QPalette::Window;
   Refresh();
 }
 
 QSize VerdictPane::sizeHint() const {
-  return {Ems(this, 20), Ems(this, 3.6)};
+  return {Ems(this, 22), Ems(this, 4.4)};
 }
 
 void VerdictPane::Refresh() {
-  const Design& d = session_.design();
-  const bool checked = !d.checks.lineSection.formula.empty() || d.checks.bucklingRan;
-  const double ir = MaxIR(d.checks);
-  const Role role = RoleOfIndex(CheckColour(ir, d.st.iufa));
-  role_ = checked ? role : Role::Quiet;
-  figure_ = checked ? QString::fromStdString(session_.Shown(ir, "#0.00")) : QStringLiteral("-");
-  word_ = !checked ? QString() : role == Role::Pass ? tr("OK") : tr("FAILS");
-  setAccessibleName(tr("Greatest IR %1 %2").arg(figure_, word_));
-  setToolTip(tr("Greatest utilisation ratio of all checks; the limit is %1")
-                 .arg(QString::fromStdString(session_.Shown(d.st.iufa, "#0.00"))));
+  headline_ = HeadlineOf(session_);
+  const Headline& h = headline_;
+  setAccessibleName(tr("ULS %1 %2. %3").arg(Figure(), Word(), QString::fromStdString(h.below)));
+  QStringList tips{tr("Greatest utilisation ratio of all checks; the limit is %1")
+                       .arg(QString::fromStdString(session_.Shown(session_.st().iufa, "#0.00")))};
+  for (const std::string& note : h.notes) tips << QString::fromStdString(note);
   // Nobody's numbers stand under another's title.
   if (const std::string why = session_.NotCalculated(); !why.empty()) {
-    role_ = Role::Quiet;
-    figure_ = QStringLiteral("-");
-    word_ = tr("not calculated");
-    setAccessibleName(QString::fromStdString(why));
-    setToolTip(QString::fromStdString(why));
+    tips = QStringList(QString::fromStdString(why));
   }
+  setToolTip(tips.join(QLatin1Char('\n')));
   update();
 }
 
 void VerdictPane::Draw(QPainter& painter) {
-  const QColor colour = ColourFor(role_, palette());
+  const auto colour = [this](Headline::Tone tone) {
+    return ColourFor(tone == Headline::Tone::Pass   ? Role::Pass
+                     : tone == Headline::Tone::Fail ? Role::Fail
+                                                    : Role::Quiet,
+                     palette());
+  };
   QFont big = font();
-  big.setPixelSize(Ems(this, 2.9));
+  big.setPixelSize(Ems(this, 2.5));
   big.setBold(true);
   QFont word = font();
   word.setPixelSize(Ems(this, 1.35));
   word.setBold(true);
-  const int wordWidth = QFontMetrics(word).horizontalAdvance(word_);
   const int right = width() - Ems(this, 0.6);
-  const QRect wordBox(right - wordWidth, 0, wordWidth + 2, height());
-  painter.setFont(word);
-  painter.setPen(colour);
-  painter.drawText(wordBox, Qt::AlignVCenter | Qt::AlignRight, word_);
-  const QRect figureBox(0, 0, right - wordWidth - Ems(this, 0.6), height());
-  painter.setFont(big);
-  painter.drawText(figureBox, Qt::AlignVCenter | Qt::AlignRight, figure_);
-  const int figureWidth = QFontMetrics(big).horizontalAdvance(figure_);
+  const int foot = height() - Ems(this, 1.5);
+  QRect row(0, 0, right, foot);
+  const auto put = [&](const QFont& font, const QColor& ink, const QString& text, double gap) {
+    const int wide = QFontMetrics(font).horizontalAdvance(text);
+    // Where there is no room the figure speaks for itself.
+    if (wide > row.width()) return;
+    painter.setFont(font);
+    painter.setPen(ink);
+    painter.drawText(row, Qt::AlignVCenter | Qt::AlignRight, text);
+    row.setRight(row.right() - wide - Ems(this, gap));
+  };
+  put(word, colour(headline_.tone), Word(), 0.6);
+  put(big, colour(headline_.tone), Figure(), 0.8);
+  put(font(), palette().color(QPalette::PlaceholderText), tr("ULS, max IR"), 0);
+  const QRect below(0, foot, right, height() - foot);
   painter.setFont(font());
-  painter.setPen(palette().color(QPalette::PlaceholderText));
-  const QRect rest = figureBox.adjusted(0, 0, -figureWidth - Ems(this, 0.8), 0);
-  // Where there is no room the figure speaks for itself.
-  if (fontMetrics().horizontalAdvance(tr("max IR")) > rest.width()) return;
-  painter.drawText(rest, Qt::AlignVCenter | Qt::AlignRight, tr("max IR"));
+  painter.setPen(headline_.belowTone == Headline::Tone::Quiet ? palette().color(QPalette::Text)
+                                                              : colour(headline_.belowTone));
+  const QString text = fontMetrics().elidedText(QString::fromStdString(headline_.below),
+                                                Qt::ElideRight, below.width());
+  painter.drawText(below, Qt::AlignTop | Qt::AlignRight, text);
 }
 
 }  // namespace korvane

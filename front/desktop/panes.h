@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "checks/results.h"
+#include "front/headline.h"
 #include "front/session.h"
 #include "presentation/drawing_target.h"
 
@@ -87,6 +88,9 @@ public:
   /// The lines as text, as the context menu copies them.
   QStringList Lines() const;
   void Copy() const;
+  /// Marks the first line with this ratio until the lines change. Its place in the pane, empty
+  /// where no line has it.
+  QRect MarkRatio(const QString& ratio);
   QSize sizeHint() const override;
 
 protected:
@@ -101,6 +105,9 @@ private:
   void Measure();
   /// The short lines take the letters that the pane around them has room for.
   void FitLetters();
+  /// Calls visit(line, y) for each line with its upper end in the pane.
+  template <class Visit>
+  void EachLine(Visit&& visit) const;
   void DrawLine(QPainter& painter, const ViewLine& line, double y);
   double RowHeight() const;
   QFont FontOf(const TextRun& run, bool fails) const;
@@ -110,25 +117,27 @@ private:
   View view_;
   double rows_ = 1;  ///< height of the lines, in rows
   double bars_ = 0;  ///< left end of the bars
+  QString marked_;   ///< ratio of the line that is marked
 };
 
-/// The greatest ratio in big figures, with the word beside it.
+/// The headline: the greatest ratio in big figures with the word beside it, and the serviceability
+/// limit state below.
 class VerdictPane : public Pane {
   Q_OBJECT
 
 public:
   explicit VerdictPane(const Session& session, QWidget* parent = nullptr);
   void Refresh() override;
-  QString Figure() const { return figure_; }
-  QString Word() const { return word_; }
+  const Headline& headline() const { return headline_; }
+  QString Figure() const { return QString::fromStdString(headline_.figure); }
+  QString Word() const { return QString::fromStdString(headline_.word); }
   QSize sizeHint() const override;
 
 protected:
   void Draw(QPainter& painter) override;
 
 private:
-  QString figure_, word_;
-  Role role_ = Role::Ink;
+  Headline headline_;
 };
 
 }  // namespace korvane

@@ -131,7 +131,9 @@ void ResultPane::FitLetters() {
 }
 
 void ResultPane::Refresh() {
+  const QStringList before = Lines();
   Measure();
+  if (Lines() != before) marked_.clear();
   QStringList tips;
   for (const ViewLine& line : view_) {
     if (Fails(line)) tips << tr("FAILS: %1").arg(TextOf(line).simplified());
@@ -151,17 +153,45 @@ QStringList ResultPane::Lines() const {
   return lines;
 }
 
-void ResultPane::Draw(QPainter& painter) {
-  painter.setRenderHint(QPainter::Antialiasing);
+template <class Visit>
+void ResultPane::EachLine(Visit&& visit) const {
   double y = RowHeight() * 0.35;
   bool first = true;
   for (const ViewLine& line : view_) {
     const bool heading = !line.runs.empty() && line.runs.front().underline;
     if (heading && !first) y += RowHeight() * 0.3;
-    DrawLine(painter, line, y);
+    visit(line, y);
     y += RowHeight() * line.advance;
     first = false;
   }
+}
+
+QRect ResultPane::MarkRatio(const QString& ratio) {
+  marked_.clear();
+  QRect place;
+  EachLine([&](const ViewLine& line, double y) {
+    const TextRun* value = ValueOf(line);
+    if (!marked_.isEmpty() || value == nullptr || !HasRatio(line)) return;
+    if (QString::fromStdString(value->text).trimmed() != ratio) return;
+    marked_ = ratio;
+    place = QRectF(0, y, width(), RowHeight()).toAlignedRect();
+  });
+  update();
+  return place;
+}
+
+void ResultPane::Draw(QPainter& painter) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  bool marks = !marked_.isEmpty();
+  EachLine([&](const ViewLine& line, double y) {
+    const TextRun* value = ValueOf(line);
+    if (marks && value != nullptr && HasRatio(line) &&
+        QString::fromStdString(value->text).trimmed() == marked_) {
+      painter.fillRect(QRectF(0, y, width(), RowHeight()), palette().color(QPalette::Midlight));
+      marks = false;
+    }
+    DrawLine(painter, line, y);
+  });
 }
 
 QFont ResultPane::FontOf(const TextRun& run, bool fails) const {

@@ -56,7 +56,10 @@ void AddFamilyEntries(MenuBuilder& menu, std::initializer_list<int> codes) {
 }
 
 void Print(Session& s, int kind) {
-  if (const auto job = s.platform().AskPrint()) s.platform().Print(s.design(), kind, job->copies);
+  auto job = s.platform().AskPrint();
+  if (!job) return;
+  job->notice = s.NotCalculated();
+  s.platform().Print(s.design(), kind, *job);
 }
 
 void OpenHelp(Session& s) {

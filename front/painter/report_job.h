@@ -14,16 +14,18 @@ struct AttachedProject {
 };
 
 /// The design must outlive the job. The title is that of the last report, with project and
-/// identification.
+/// identification; the notice stands at the head of each page.
 inline PaintJob ReportJob(const Design& design, const std::vector<Report>& reports,
-                          const ReportTime& time, AttachedProject project) {
+                          const ReportTime& time, AttachedProject project,
+                          const std::string& notice = {}) {
   PaintJob job;
   job.width = kPageWidth;
   job.height = kPageHeight;
   for (const Report report : reports) {
     if (job.title.empty() || report != Report::Checker) job.title = ReportTitle(report);
-    job.pages.emplace_back(
-        [&design, report, time](DrawingTarget& page) { DrawReport(page, report, design, time); });
+    job.pages.emplace_back([&design, report, time, notice](DrawingTarget& page) {
+      DrawReport(page, report, design, time, notice);
+    });
   }
   job.title += " - " + design.st.iproj + " - " + design.st.iident;
   job.subject = "Design of a steel member to NS 3472";

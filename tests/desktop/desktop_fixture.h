@@ -38,8 +38,8 @@ public:
   std::optional<PrintJob> AskPrint() override {
     return print ? std::optional<PrintJob>(PrintJob{2}) : std::nullopt;
   }
-  void Print(const Design&, int kind, int copies) override {
-    prints.push_back(std::to_string(kind) + " x " + std::to_string(copies));
+  void Print(const Design&, int kind, const PrintJob& job) override {
+    prints.push_back(std::to_string(kind) + " x " + std::to_string(job.copies));
   }
   void OpenHelp(const std::string& file) override { helps.push_back(file); }
   void Progress(int, int) override { ++progress; }

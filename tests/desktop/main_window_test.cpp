@@ -2,7 +2,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QToolButton>
@@ -29,10 +31,26 @@ TEST_F(DesktopTest, TypedLengthChangesResultLines) {
 
 TEST_F(DesktopTest, VerdictFailsWithTheLongMember) {
   Load("10");
-  EXPECT_EQ(Main().verdict().Word(), "OK");
+  EXPECT_EQ(Main().verdict().Word(), "passes");
   TypeInto(Field("il"), "15");
   EXPECT_EQ(Main().verdict().Word(), "FAILS");
   EXPECT_TRUE(Results().toolTip().contains("IR = "));
+}
+
+TEST_F(DesktopTest, AClickOnTheVerdictShowsItsNotes) {
+  Load("10");
+  TypeInto(Field("il"), "15");
+  QTest::mouseClick(&Main().verdict(), Qt::LeftButton);
+  auto* notes = Main().findChild<QDialog*>("verdict_notes");
+  ASSERT_NE(notes, nullptr);
+  EXPECT_TRUE(notes->isVisible());
+  EXPECT_TRUE(notes->findChild<QLabel*>()->text().contains("fails: "));
+  QTest::keyClick(notes, Qt::Key_Escape);
+  EXPECT_FALSE(notes->isVisible());
+  // The marked line is the one that governs.
+  ResultPane& lines = Results();
+  EXPECT_FALSE(lines.MarkRatio(Main().verdict().Figure()).isEmpty());
+  EXPECT_TRUE(lines.MarkRatio("999.00").isEmpty());
 }
 
 TEST_F(DesktopTest, FieldIsGreenWithFocusAndWhiteAfterwards) {
@@ -142,7 +160,7 @@ TEST_F(DesktopTest, OptimiserPanelOpensAndSearches) {
   ASSERT_TRUE(uls.isVisible());
   uls.click();
   EXPECT_GT(platform_.progress, 0);
-  EXPECT_EQ(Main().verdict().Word(), "OK");
+  EXPECT_EQ(Main().verdict().Word(), "passes");
 }
 
 TEST_F(DesktopTest, SaveAndOpenBringBackTheMember) {

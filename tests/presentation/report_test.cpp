@@ -165,6 +165,22 @@ RecordingTarget Drawn(const Design& d, Report report) {
   return page;
 }
 
+TEST(Report, ANoticeStandsAboveTheFrame) {
+  const Design d = Designed({1, false, Report::SectionProperty});
+  for (const Report report :
+       {Report::SectionProperty, Report::SectionAndStability, Report::Checker}) {
+    RecordingTarget page;
+    DrawReport(page, report, d, {}, "not calculated: L 0.010 m is refused");
+    const RecordedShape* notice = page.FindText("not calculated: L 0.010 m is refused");
+    ASSERT_NE(notice, nullptr);
+    EXPECT_EQ(notice->style.colour, Role::Fail);
+    const RecordedShape* name = page.FindText("KORVANE NS3472");
+    ASSERT_NE(name, nullptr);
+    EXPECT_LT(notice->box.bottom, name->box.top);
+    EXPECT_EQ(name->style.colour, Role::Ink);
+  }
+}
+
 TEST(Report, ChannelsHaveABlankBeforeTheirSize) {
   for (const auto& [family, line] : {std::pair{5, "  UPE "}, std::pair{16, "  UNP "}}) {
     const Design d = Designed({family, false, Report::SectionProperty});
