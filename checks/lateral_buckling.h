@@ -22,8 +22,8 @@ struct SegmentFactors {
 };
 SegmentFactors FactorsOfSegment(double r, double k);
 
-/// Stress (MPa), slenderness and reduction of a plate carried stiffener that is compressed, over the length in
-/// mm; reads the record's h, tw, tf, tf2, Afc, Afw and Iz. Throws ArithmeticFault.
+/// Stress (MPa), slenderness and reduction of a plate carried stiffener that is compressed, over
+/// the length in mm; reads the record's h, tw, tf, tf2, Afc, Afw and Iz. Throws ArithmeticFault.
 struct PlateReduced {
   double sigma, lamLT, chiLT;
 };

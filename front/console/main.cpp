@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iostream>
 
+#include "front/console/completion.h"
 #include "front/console/design_json.h"
 #include "front/console/design_text.h"
 #include "front/console/exit_status.h"
@@ -167,6 +168,7 @@ int main(int argc, char** argv) {
   session->callback([&] { status = RunSession(file, decimal, data); });
   AddBatchCommands(app, status);
   AddPaintCommands(app, status);
+  AddCompletionCommand(app);
 
   // A limit on the size of files is told as a full disk.
   std::signal(SIGXFSZ, SIG_IGN);

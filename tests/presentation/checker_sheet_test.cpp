@@ -8,7 +8,7 @@
 #include <set>
 
 #include "core/calculation.h"
-#include "core/project_fields.h"
+#include "core/input_fields.h"
 #include "presentation/aprint.h"
 #include "presentation/checker_rows.h"
 #include "sections/profile_table.h"
