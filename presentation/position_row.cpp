@@ -91,7 +91,9 @@ void DrawPositionRow(DiagramSheet& sheet, const std::vector<double>& positions, 
   const DrawingState before = t;
   const double size = t.FontSize;
   t.SetTextUnits(text * kSmaller);
-  if (size >= kLeastLetters) t.FontSize = std::max(t.FontSize, kLeastLetters);
+  if (size > 0.99 * kLeastLetters) {
+    t.FontSize = std::max(t.FontSize, std::min(size, kLeastLetters));
+  }
   std::vector<Number> numbers;
   for (const double at : positions) {
     Number n;

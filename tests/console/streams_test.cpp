@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "core/project_file.h"
 #include "front/console/terminal.h"
 #include "projects.h"
 #include "run_program.h"
@@ -29,6 +30,21 @@ TEST(Streams, ADashIsTheStandardInput) {
   PutFile(folder / "list", kColumn + "\n");
   EXPECT_EQ(RunProgram({"batch", "--list", "-"}, {}, "/", folder / "list").output,
             RunProgram({"batch", kColumn}).output);
+}
+
+TEST(Drawing, EndForcesGiveNeitherLoadsNorDeflections) {
+  const TempFolder folder;
+  const std::string ends = folder / "ends.kvn";
+  ProjectState st;
+  st.AnalysisMode = 0;
+  ASSERT_EQ(SaveProject(ends, st).why, "");
+  for (const char* what : {"loads-z", "loads-y", "dz", "dy"}) {
+    const ProgramRun run = RunProgram({"draw", ends, "--what", what, "-o", folder / "out.svg"});
+    EXPECT_EQ(run.status, 2) << what;
+    EXPECT_NE(run.errors.find("the project gives end forces - " + ends), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(folder / "out.svg"));
+    EXPECT_EQ(RunProgram({"draw", kColumn, "--what", what, "-o", "-"}).status, 0) << what;
+  }
 }
 
 TEST(Streams, ADashIsTheStandardOutput) {
