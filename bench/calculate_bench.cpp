@@ -31,6 +31,13 @@ void calculate_silent(benchmark::State& state) {
 }
 BENCHMARK(calculate_silent)->Unit(benchmark::kMicrosecond);
 
+/// The verdict on a finished calculation: nobody but a view asks for it.
+void judge_default(benchmark::State& state) {
+  const Design d = NewDesign();
+  for (auto _ : state) benchmark::DoNotOptimize(VerdictOf(d));
+}
+BENCHMARK(judge_default)->Unit(benchmark::kMicrosecond);
+
 /// The analysis alone, at full load, and the same in the plain way.
 void analysis_full(benchmark::State& state) {
   Design d = FullDesign();

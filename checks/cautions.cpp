@@ -90,9 +90,22 @@ void TrapezoidFlats(const Family& family, const Finished& d, NoteList& notes) {
   look("bottom", d.beam.z.M_min < 0, d.rec.b2 - 2 * wall, d.rec.tw, d.rec.classBottom);
 }
 
-/// Second moment about z of web and flange alone, each about its own middle.
-double StiffenerIz(const SectionRecord& rec) {
-  return rec.tf2 * std::pow(rec.b2, 3) / 12 + rec.hw * std::pow(rec.tw, 3) / 12;
+/// Second moment about z of web and flange alone, about their common centroid; the walls of a
+/// trapezoid stand apart.
+double StiffenerIz(const Finished& d) {
+  const SectionRecord& rec = d.rec;
+  const double flange = rec.tf2 * std::pow(rec.b2, 3) / 12;
+  if (d.st.ProfileType == 55) {
+    const double a = d.st.p55_a;
+    const double thickness = rec.tw / std::cos(std::atan(a / d.st.p55_h));
+    const double middle = (rec.cm + rec.b2) / 4;
+    return flange +
+           2 * rec.hw * thickness * (middle * middle + (a * a + thickness * thickness) / 12);
+  }
+  const double web = rec.hw * rec.tw;
+  const double leg = rec.tf2 * rec.b2;
+  const double e = rec.c2 - (rec.b2 - rec.tw) / 2;  // none for a T
+  return flange + web * rec.tw * rec.tw / 12 + e * e * leg / (1 + leg / web);
 }
 
 void TrippingWithPlate(const Family& family, const Finished& d, double IR, NoteList& notes) {
@@ -103,7 +116,7 @@ void TrippingWithPlate(const Family& family, const Finished& d, double IR, NoteL
   const double Lmm = d.ltb.Lk * 1000;
   const LateralMethod method = family.lateral.method;
   const double used = PlateReduction(method, d.st, rec, Lmm).chiLT;
-  rec.Iz = StiffenerIz(rec);
+  rec.Iz = StiffenerIz(d);
   const double own = PlateReduction(method, d.st, rec, Lmm).chiLT;
   if (!(own > 0) || !(own < used)) return;
   const double ratio = std::fabs(d.beam.My_gov / d.ltb.Mdb) * used / own;

@@ -72,6 +72,12 @@ std::string SizeName(const OptimiserRow& row, const CatalogueTable& table, int i
   return row.word + text(1) + "x" + text(square ? 1 : 2) + "x" + text(square ? 2 : 3);
 }
 
+/// The silent calculation stays in force: a verdict on it knows where its values are from.
+void Settle(Design& design) {
+  design.history.stoppedIn.clear();
+  RememberOrigins(design);
+}
+
 std::string DeflectionText(const Design& design) {
   const double stiff = design.deflections.DeflStiff;
   if (stiff == 0.0) return "No load";
@@ -131,9 +137,29 @@ void SearchRow(Design& design, int row, OptimiserResults& results, const SearchP
   index = ir > st.iufa ? series.last : best;
   candidate();
   ir = MaxIR(design.checks);
+  Settle(design);
   results.Passes[row] =
       accepted && index == best && (st.ResultView == kCriterionSls || !(ir > st.iufa));
 }
+
+namespace {
+
+/// The remark of a row: see OptimiserRowView.
+std::string RemarkOf(const Design& design, const OptimiserRow& series) {
+  std::string remark;
+  const Verdict verdict = VerdictOf(design);
+  if (!verdict.Passes()) {
+    remark = StandingWord(verdict.standing);
+    if (!verdict.notes.empty()) remark += std::string(": ") + KindOf(verdict.notes[0].code).word;
+  }
+  const bool judged = FindFamily(series.ProfileType)->lateral.method != LateralMethod::None;
+  if (judged && design.st.LateralTorsionalBuckling != 1) {
+    remark += std::string(remark.empty() ? "" : "; ") + "without lateral torsional buckling";
+  }
+  return remark;
+}
+
+}  // namespace
 
 OptimiserRowView ShowRow(const Design& design, int row, OptimiserResults& results) {
   const OptimiserRow& series = OptimiserRowOf(row);
@@ -147,6 +173,7 @@ OptimiserRowView ShowRow(const Design& design, int row, OptimiserResults& result
   view.surface = Format(view.g, "#0.00");
   view.ir = Format(view.IR, "#0.00");
   view.deflection = DeflectionText(design);
+  view.remark = RemarkOf(design, series);
   return view;
 }
 
@@ -158,6 +185,7 @@ bool TakeOverRow(Design& design, const OptimiserResults& results) {
   if (results.RowChosen < 1 || results.RowChosen > kOptimiserRows) return false;
   design.st.ProfileType = OptimiserRowOf(results.RowChosen).ProfileType;
   SilentRecalculation(design);
+  Settle(design);
   return true;
 }
 

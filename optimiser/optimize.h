@@ -63,9 +63,12 @@ bool CanOptimise(const ProjectState& st);
 void SearchRow(Design& design, int row, OptimiserResults& results,
                const SearchProgress& progress = {});
 
-/// The five fields of a row, as text, with their numbers.
+/// The fields of a row, as text, with their numbers.
 struct OptimiserRowView {
   std::string name, weight, surface, ir, deflection;
+  /// What the ratio alone doesn't say: that the size doesn't pass by the verdict, with the code of
+  /// its gravest note, and that lateral torsional buckling was off. Mostly empty.
+  std::string remark;
   double S = 0.0;  ///< kg/m
   double g = 0.0;  ///< m2/m
   double IR = 0.0;

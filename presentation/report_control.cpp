@@ -8,6 +8,7 @@
 #include "analysis/loads.h"
 #include "checks/buckling_curves.h"
 #include "checks/results.h"
+#include "checks/verdict_line.h"
 #include "core/supports.h"
 #include "core/text.h"
 #include "presentation/figures.h"
@@ -433,6 +434,19 @@ void DrawChecks(DrawingTarget& t, const CheckBlock& block, double line, const De
   t.FontSize = size;
 }
 
+/// Below everything else, always at the same place.
+void DrawVerdict(DrawingTarget& t, const Design& d) {
+  t.CurrentX = kC1;
+  t.CurrentY = kBottom + 0.2;
+  for (const TextRun& run : VerdictLine(VerdictOf(d)).runs) {
+    t.FontBold = run.bold;
+    t.ForeColor = run.colour == 0 ? Role::Ink : RoleOfIndex(run.colour);
+    t.Print(run.text);
+  }
+  t.FontBold = false;
+  t.ForeColor = Role::Ink;
+}
+
 /// Loads below the section values, checks at the foot, diagrams between them.
 Layout LayoutOf(const Design& d, double sectionEnd, double checkLines) {
   Layout at{};
@@ -472,6 +486,7 @@ void DrawControlReport(DrawingTarget& t, double line, const Design& d) {
              d.st.AnalysisMode == 1 ? "Loading/Moment: (kN/kNm/m)" : "Endforces: (kN/kNm/m)");
   DrawReportDiagrams(t, at.diagrams + 1.3, at.checks - 0.4, spare, d);
   DrawChecks(t, checks, at.checks, d);
+  DrawVerdict(t, d);
 }
 
 }  // namespace korvane

@@ -5,6 +5,7 @@
 #include <regex>
 #include <vector>
 
+#include "checks/notes.h"
 #include "front/named_session.h"
 #include "front/platform.h"
 #include "sections/profile_table.h"
@@ -227,11 +228,65 @@ which values are accepted, and the message that a refused value gives. The names
 of the section; what is shown holds for a new project.</p>
 )";
 
+constexpr const char* kNotesHead = R"(<!DOCTYPE html>
+<html lang="en">
+<!-- Made by tools/make_help from the table of the notes: change that, not this page. -->
+<head>
+<meta charset="utf-8">
+<meta name="viewport" content="width=device-width, initial-scale=1">
+<title>Verdict and notes</title>
+<link rel="stylesheet" type="text/css" href="help.css">
+<link rel="stylesheet" href="browser.css">
+<script src="book.js" defer></script>
+</head>
+<body>
+<p class="top"><a href="index.html">Contents</a></p>
+<h1>Verdict and notes</h1>
+<p>The check lines tell what each check gives. The verdict tells what may be said of the member as
+a whole: it <b>passes</b> only where every force that acts was held against a capacity and no check
+fails. It <b>fails</b> where a ratio, a slenderness or a force alone is beyond its limit. It is
+<b>not checked</b> where a force acts that no check of the family reads, where the section can't
+exist, or where a check that would fail was switched off by the program. It is <b>stopped</b> where
+the calculation met an arithmetic failure.</p>
+<p>Under the verdict stand its notes, the gravest first. A <b>caution</b> doesn't change the
+standing: it names a rule or an input that you should look at. Each note ends with its code, by
+which it is found below.</p>
+)";
+
+/// The notes of one severity, or nothing.
+std::string NotesOf(Severity severity) {
+  std::string rows;
+  for (const NoteKind& kind : AllNotes()) {
+    if (kind.severity != severity) continue;
+    rows += std::string("<tr><td><a name=\"") + kind.word + "\"></a>" + Code(kind.word) +
+            "</td><td>" + Escaped(kind.meaning) + "</td><td>" + Escaped(kind.remedy) +
+            "</td></tr>\n";
+  }
+  return "<table>\n<tr><th>Code</th><th>What it means</th><th>What to do</th></tr>\n" + rows +
+         "</table>\n";
+}
+
 }  // namespace
 
 std::string InputsPage(std::shared_ptr<const Library> library) {
   std::string page = kHead;
   for (const Form& form : AllForms()) page += FormSection(form, library);
+  return page + "</body>\n</html>\n";
+}
+
+std::string NotesPage() {
+  struct Part {
+    Severity severity;
+    const char* heading;
+  };
+  constexpr std::array parts{Part{Severity::Fails, "The member fails"},
+                             Part{Severity::NotChecked, "The member is not checked, or stopped"},
+                             Part{Severity::Caution, "Cautions"},
+                             Part{Severity::Information, "Information"}};
+  std::string page = kNotesHead;
+  for (const Part& part : parts) {
+    page += std::string("<h2>") + part.heading + "</h2>\n" + NotesOf(part.severity);
+  }
   return page + "</body>\n</html>\n";
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Command that makes the help book's page of all inputs from the tables of the forms, and the list
-// of pages for a browser from the book's contents.
+// Command that makes the help book's page of all inputs from the tables of the forms, its page of
+// all notes from their table, and the list of pages for a browser from the book's contents.
 #include <exception>
 #include <fstream>
 #include <iostream>
@@ -23,10 +23,10 @@ bool Write(const std::string& file, const std::string& text) {
 
 int main(int argc, char** argv) {
   if (argc != 3) {
-    std::cerr
-        << "usage: make_help DATA BOOK\n"
-           "Writes inputs.html, with the data folder DATA, and pages.js into the folder BOOK.\n"
-           "In this project: make_help data docs/help\n";
+    std::cerr << "usage: make_help DATA BOOK\n"
+                 "Writes inputs.html, with the data folder DATA, notes.html and pages.js into the "
+                 "folder BOOK.\n"
+                 "In this project: make_help data docs/help\n";
     return 2;
   }
   try {
@@ -36,6 +36,7 @@ int main(int argc, char** argv) {
     index << in.rdbuf();
     const bool done =
         Write(book + "inputs.html", korvane::InputsPage(korvane::ReadLibrary(argv[1]))) &&
+        Write(book + "notes.html", korvane::NotesPage()) &&
         Write(book + "pages.js", korvane::PagesScript(index.str()));
     return done ? 0 : 1;
   } catch (const std::exception& e) {

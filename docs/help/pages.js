@@ -38,6 +38,7 @@ const pages = [
   ["files.html", "Files", "Tools"],
   ["console.html", "The console program", "Tools"],
   ["fails.html", "It fails, what now?", "When in doubt"],
+  ["notes.html", "Verdict and notes", "When in doubt"],
   ["messages.html", "Messages and what to do", "When in doubt"],
   ["glossary.html", "Symbols and words, English and Norwegian", "When in doubt"],
 ];

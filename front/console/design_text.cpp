@@ -6,6 +6,7 @@
 
 #include "checks/buckling_curves.h"
 #include "checks/results.h"
+#include "checks/verdict_line.h"
 #include "core/supports.h"
 #include "core/text.h"
 #include "sections/profile_table.h"
@@ -130,14 +131,7 @@ void AddModal(std::string& out, const Design& d) {
 /// The standing in colour, the greatest ratio with its check, and the notes.
 void AddVerdict(std::string& out, const Design& d, bool colour) {
   const Verdict v = VerdictOf(d);
-  const TextRun standing{StandingWord(v.standing), true, false, v.Passes() ? 2 : 4};
-  out += "Verdict: " + Paint(standing, colour) + "   greatest IR = " + Format(v.IR, "0.00") +
-         " (limit " + Format(v.limit, "0.00") + ")";
-  const std::string governing = GoverningLabel(v);
-  if (!governing.empty()) out += ", " + governing;
-  if (v.sls != Serviceability::None) {
-    out += std::string("   serviceability: ") + ServiceabilityWord(v.sls);
-  }
+  for (const TextRun& run : VerdictLine(v).runs) out += Paint(run, colour);
   out += "\n";
   for (const Note& note : v.notes) {
     const NoteKind& kind = KindOf(note.code);

@@ -32,6 +32,8 @@ constexpr std::array<CriterionWord, 3> kCriteria{{
 }};
 
 constexpr const char* kNonePasses = "no section of this series passes";
+constexpr const char* kDeflectionUntested =
+    "End forces give no deflection: the deflection limit isn't tested.";
 
 InputRef DeflectionLimit() {
   return InputOf(&ProjectState::DeflectionLimit);
@@ -63,6 +65,11 @@ std::string Padded(const std::string& text, std::size_t width, bool right) {
   return right ? blanks + text : text + blanks;
 }
 
+/// Whether the search was asked for a deflection that there is none of.
+bool DeflectionUntested(const OptimiseOptions& options, const ProjectState& st) {
+  return options.criterion != kCriteria[0].word && st.AnalysisMode != 1;
+}
+
 void PrintTable(const std::vector<SearchedRow>& rows, const OptimiseOptions& options,
                 const ProjectState& st, std::ostream& out, bool colour) {
   out << "Optimize rolled profiles: " << Captions(options);
@@ -76,9 +83,11 @@ void PrintTable(const std::vector<SearchedRow>& rows, const OptimiseOptions& opt
         << Padded(row.view.weight, 8, true) << Padded(row.view.surface, 8, true)
         << Red(Padded(row.view.ir, 8, true), colour && !row.passes)
         << Padded(row.view.deflection, 12, true);
-    if (!row.passes) out << "  " << kNonePasses;
+    if (!row.view.remark.empty()) out << "  " << row.view.remark;
+    if (!row.passes) out << (row.view.remark.empty() ? "  " : "; ") << kNonePasses;
     out << '\n';
   }
+  if (DeflectionUntested(options, st)) out << '\n' << kDeflectionUntested << '\n';
 }
 
 void PrintJson(const std::vector<SearchedRow>& rows, const OptimiseOptions& options,
@@ -96,8 +105,11 @@ void PrintJson(const std::vector<SearchedRow>& rows, const OptimiseOptions& opti
     object["surface"] = row.view.g;
     object["IR"] = row.view.IR;
     object["deflection"] = row.view.deflection;
+    object["passes"] = row.passes;
+    object["remark"] = row.view.remark;
     json["rows"].push_back(std::move(object));
   }
+  if (DeflectionUntested(options, st)) json["note"] = kDeflectionUntested;
   json["ProfileType"] = static_cast<int>(st.ProfileType);
   out << json.dump(2) << '\n';
 }

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <map>
+#include <set>
 #include <string>
 
 #include "designs.h"
@@ -27,6 +28,7 @@ TEST_P(OrdinaryNotes, FewerThanOneMemberInThreeHasACaution) {
   const Family& family = *FindFamily(GetParam());
   const int wished = DesignsPerFamily();
   std::map<std::string, int> codes;
+  std::set<std::string> stopped;
   int judged = 0;
   int cautioned = 0;
   for (int i = 0; i < wished; ++i) {
@@ -35,9 +37,14 @@ TEST_P(OrdinaryNotes, FewerThanOneMemberInThreeHasACaution) {
     Design d(SourceLibrary());
     StartDesign(d);
     OrdinaryState(seed, family, d.st);
-    Calculate(d);
     Dice dice(seed);
-    BringTo(dice.Uniform(0.3, 1.2), d);
+    try {
+      Calculate(d);
+      BringTo(dice.Uniform(0.3, 1.2), d);
+    } catch (const ArithmeticFault& fault) {
+      stopped.insert(fault.what());
+      continue;
+    }
     const Verdict v = VerdictOf(d);
     ++judged;
     bool caution = false;
@@ -49,6 +56,7 @@ TEST_P(OrdinaryNotes, FewerThanOneMemberInThreeHasACaution) {
     cautioned += caution;
   }
   EXPECT_LT(3 * cautioned, judged);
+  EXPECT_GE(judged, wished - wished / 1000) << *stopped.begin();
   std::printf("family %d: %d members, %.1f%% with a caution", family.code, judged,
               100.0 * cautioned / judged);
   for (const auto& [code, count] : codes) std::printf(", %s %d", code.c_str(), count);

@@ -199,6 +199,10 @@ TEST(HelpTablesTest, InputsPageIsWhatTheTablesSay) {
       << "make it anew with scripts/help_figures";
 }
 
+TEST(HelpTablesTest, NotesPageIsWhatTheTableSays) {
+  EXPECT_EQ(Page("notes.html").toStdString(), NotesPage()) << "make it anew with make_help";
+}
+
 TEST(HelpTablesTest, BrowsersHaveTheContentsList) {
   const std::string index = Page("index.html").toStdString();
   EXPECT_EQ(Page("pages.js").toStdString(), PagesScript(index)) << "make it anew with make_help";

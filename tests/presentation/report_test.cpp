@@ -5,6 +5,7 @@
 
 #include "checks/results.h"
 #include "core/calculation.h"
+#include "core/text.h"
 #include "presentation/aprint.h"
 #include "presentation/page.h"
 #include "presentation/recording_target.h"
@@ -132,6 +133,25 @@ TEST_P(Reports, HoldEveryCheckLine) {
     EXPECT_TRUE(whole || broken) << line->formula << line->numbers;
     EXPECT_GT(page.Count(line->value), 0) << line->formula;
     EXPECT_GT(page.Count(line->limit), 0) << line->formula;
+  }
+}
+
+TEST_P(Reports, SayTheVerdictAtTheFoot) {
+  const bool control = GetParam().report == Report::SectionAndStability;
+  ASSERT_EQ(page.Count("Verdict: "), control ? 1 : 0);
+  if (!control) return;
+  const Verdict v = VerdictOf(design);
+  const RecordedShape* standing = page.FindText(StandingWord(v.standing));
+  ASSERT_NE(standing, nullptr);
+  EXPECT_EQ(standing->style.colour, v.Passes() ? Role::Pass : Role::Fail);
+  const std::string ratio = "greatest IR = " + Format(v.IR, "0.00") + " (limit 1.00)";
+  const std::vector<std::string> texts = page.Texts();
+  const std::string& last = texts.back();
+  EXPECT_NE(last.find(ratio), std::string::npos) << last;
+  EXPECT_NE(last.find(GoverningLabel(v)), std::string::npos) << last;
+  const RecordedShape* line = page.FindText(last);
+  for (const RecordedShape* shape : page.OfKind(ShapeKind::Text)) {
+    EXPECT_LE(shape->box.top, line->box.top) << shape->text;
   }
 }
 

@@ -77,6 +77,7 @@ std::vector<Chapter> Book() {
                             BeamFormulas(),      Frequencies()};
   for (Chapter& member : Members()) book.push_back(std::move(member));
   book.push_back(SettledRules());
+  book.push_back(NoteFigures());
   return book;
 }
 

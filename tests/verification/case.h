@@ -50,6 +50,7 @@ Chapter CriticalMoments();
 Chapter BeamFormulas();
 Chapter Frequencies();
 Chapter SettledRules();
+Chapter NoteFigures();
 std::vector<Chapter> Members();
 
 /// All chapters in the order of the book.

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The figures that the verdict's notes bring of their own, beside the check lines.
+#include <functional>
+
+#include "case.h"
+#include "core/calculation.h"
+#include "tests/support/source_library.h"
+
+namespace korvane::verification {
+
+namespace {
+
+/// A figure of a note on a member; 0 where the member doesn't have the note.
+double FigureOf(NoteCode code, std::size_t figure, int family,
+                const std::function<void(ProjectState&)>& change) {
+  Design d(SourceLibrary());
+  StartDesign(d);
+  d.st.ProfileType = family;
+  change(d.st);
+  Calculate(d);
+  // A first calculation may take loads out of the input and switch lateral buckling off.
+  change(d.st);
+  Calculate(d);
+  for (const Note& note : VerdictOf(d).notes) {
+    if (note.code == code) return note.v.at(figure);
+  }
+  return 0;
+}
+
+void HeldAtItsEnds(ProjectState& st) {
+  st.SupportType = 2;
+  st.q1 = 200;
+  st.NP = 0;
+  st.L = 8;
+  st.LateralTorsionalBuckling = 1;
+}
+
+Case TrippingOfT() {
+  const double Iz = FigureOf(NoteCode::TrippingWithPlate, 1, 56, [](ProjectState& st) {
+    HeldAtItsEnds(st);
+    st.p56_h = 250;
+    st.p56_b1 = 600;
+    st.p56_b2 = 120;
+    st.p56_tw = 10;
+    st.p56_tf1 = 10;
+    st.p56_tf2 = 15;
+  });
+  return {"tripping-with-plate: Iz of T 235x10 + 120x15 alone",
+          "rectangles about the web",
+          "15 120^3/12 + 235 10^3/12",
+          2179583.3,
+          Iz,
+          "mm4",
+          kExact,
+          ""};
+}
+
+Case TrippingOfAngle() {
+  const double Iz = FigureOf(NoteCode::TrippingWithPlate, 1, 53, [](ProjectState& st) {
+    HeldAtItsEnds(st);
+    st.p53_h = 250;
+    st.p53_b1 = 600;
+    st.p53_b2 = 100;
+    st.p53_tw = 10;
+    st.p53_tf1 = 10;
+    st.p53_tf2 = 15;
+  });
+  return {"tripping-with-plate: Iz of angle 235x10 + 100x15 alone",
+          "rectangles about their common centroid, middles 45 mm apart",
+          "15 100^3/12 + 235 10^3/12 + 45^2 2350 1500/3850",
+          3123641.8,
+          Iz,
+          "mm4",
+          kExact,
+          ""};
+}
+
+Case SlendernessOfTheNote() {
+  const double L = FigureOf(NoteCode::SlendernessExceeded, 0, 1, [](ProjectState& st) {
+    st.check_slend = 1;
+    st.islend_limit = 80;
+  });
+  return {"slenderness-exceeded: L/i about z of HEA 200",
+          "iz = 49.8 mm as catalogues print it",
+          "5000/49.8",
+          100.40,
+          L,
+          "",
+          kPrinted,
+          ""};
+}
+
+Case TensionBeyondTheSection() {
+  const double ratio = FigureOf(NoteCode::ForceAboveCapacity, 3, 2, [](ProjectState& st) {
+    st.idxHEB = 0;
+    st.SectionControlMode = 1;
+    st.SupportType = 2;
+    st.q1 = 1;
+    st.NP = -20000;
+  });
+  return {"force-above-capacity: N/Ntd of HEB 100",
+          "A = 26.04 cm2 as catalogues print it",
+          "N = 1.2 20000 kN, Ntd = 2604 355/1.1",
+          28.559,
+          ratio,
+          "",
+          kPrinted,
+          ""};
+}
+
+Case DeflectionOfTheNote() {
+  const double z = FigureOf(NoteCode::Deflection, 0, 1, [](ProjectState&) {});
+  return {"deflection: L/x of HEA 200, 5 m, 10 kN/m",
+          "5 q L^4/(384 E Iy), Iy = 3692 cm4",
+          "x = 10.496 mm",
+          476.36,
+          z,
+          "",
+          kPrinted,
+          ""};
+}
+
+Case RemovedForce() {
+  const double My = FigureOf(NoteCode::LoadsRemoved, 1, 26, [](ProjectState& st) { st.q1 = 8; });
+  return {"loads-removed: My that a T lost", "q L^2/8", "1.2 8 5^2/8", 30, My, "kNm", kExact, ""};
+}
+
+Case OutstandsOfABox() {
+  const double a = FigureOf(NoteCode::BoxOutstands, 1, 23, [](ProjectState& st) {
+    st.p23_h = 400;
+    st.p23_b = 400;
+    st.p23_tw = 10;
+    st.p23_tf = 8;
+    st.p23_a = 150;
+  });
+  return {
+      "box-outstands: a/tf", "division", "150/8, above 14 eps = 11.39", 18.75, a, "", kExact, ""};
+}
+
+Case UnreadForceOfAnI() {
+  const double Mz = FigureOf(NoteCode::ForceUnread, 0, 22, [](ProjectState& st) {
+    st.q2 = 10;
+    st.q2_yz = 0;
+  });
+  return {"force-unread: Mz of a single symmetric I",
+          "q L^2/8",
+          "1.2 10 5^2/8",
+          37.5,
+          Mz,
+          "kNm",
+          kExact,
+          ""};
+}
+
+Case LateralBucklingOff() {
+  const double My = FigureOf(NoteCode::LtbOff, 1, 4, [](ProjectState& st) {
+    st.NP = 0;
+    st.q1 = 0.5;
+    st.LateralTorsionalBuckling = 0;
+  });
+  return {"ltb-off: My that the check would judge",
+          "q L^2/8",
+          "1.2 0.5 5^2/8",
+          1.875,
+          My,
+          "kNm",
+          kExact,
+          ""};
+}
+
+}  // namespace
+
+Chapter NoteFigures() {
+  return {"Figures of the verdict's notes",
+          "What a note says beside the check lines. Which note a member has, and that ordinary "
+          "members have few, is tested apart.",
+          {TrippingOfT(), TrippingOfAngle(), SlendernessOfTheNote(), TensionBeyondTheSection(),
+           DeflectionOfTheNote(), RemovedForce(), OutstandsOfABox(), UnreadForceOfAnI(),
+           LateralBucklingOff()}};
+}
+
+}  // namespace korvane::verification
