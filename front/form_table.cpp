@@ -2,7 +2,6 @@
 #include "front/form_table.h"
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 
 #include "front/forms/forms.h"
@@ -41,45 +40,36 @@ const Control* FindControl(const Form& form, const std::string& name) {
   return it == form.controls.end() ? nullptr : &*it;
 }
 
-void StoreNumber(float32& field, double v) {
-  field = v;
-}
-void StoreNumber(number& field, double v) {
-  field = v;
-}
-void StoreNumber(int16& field, double v) {
-  if (!(v > -32769 && v < 32768)) throw ArithmeticFault("16-bit integer overflow");
-  field = static_cast<int>(std::nearbyint(v));
+FieldRule Bind(InputMember member, int element) {
+  FieldRule rule;
+  rule.input = InputOf(member, element);
+  return rule;
 }
 
-Limit Accept(std::function<bool(const ProjectState&, double)> accepts, std::string message) {
-  return {std::move(accepts),
-          [message = std::move(message)](const ProjectState&) { return message; }};
+FieldRule Calculated(InputMember member, int element) {
+  FieldRule rule = Bind(member, element);
+  rule.then = [](Session& s) { s.Calculate(); };
+  return rule;
 }
 
-Limit AtLeast(double low, std::string message) {
-  return Accept([low](const ProjectState&, double v) { return v >= low; }, std::move(message));
-}
-
-Limit Above(double low, std::string message) {
-  return Accept([low](const ProjectState&, double v) { return v > low; }, std::move(message));
-}
-
-Limit Between(double low, double high, std::string message) {
-  return Accept([low, high](const ProjectState&, double v) { return v >= low && v <= high; },
-                std::move(message));
-}
-
-Control Input(std::string name, std::string caption, FieldRule rule, std::string unit,
-              std::string tip) {
+Control Input(std::string name, std::string caption, FieldRule rule, std::string tip) {
   Control c;
   c.name = std::move(name);
   c.kind = Kind::Input;
   c.caption = std::move(caption);
   c.field = std::move(rule);
-  c.unit = std::move(unit);
+  if (c.field.IsNumber()) c.unit = c.field.input.field->unit;
   c.tip = std::move(tip);
   return c;
+}
+
+std::string TipOf(const Control& c, const ProjectState& st) {
+  if (c.kind != Kind::Input || !c.field.IsNumber()) return c.tip;
+  const Limit limit = LimitOf(st, c.field.input);
+  if (!HasLimit(limit)) return c.tip;
+  std::string range = RangeWords(limit);
+  if (!c.unit.empty()) range += " " + c.unit;
+  return c.tip.empty() ? range : c.tip + ", " + range;
 }
 
 namespace {

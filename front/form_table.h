@@ -3,10 +3,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "core/project_state.h"
+#include "core/input_fields.h"
 
 namespace korvane {
 
@@ -15,27 +16,19 @@ class Session;
 /// What a control is.
 enum class Kind { Input, Option, Check, List, Picture, Button, Label, Surface, Frame, Menu };
 
-/// A limit with its literal message: what is accepted, and how that is told.
-struct Limit {
-  std::function<bool(const ProjectState&, double)> accepts;
-  std::function<std::string(const ProjectState&)> message;
-};
-
-/// What becomes of a refused value.
-enum class Refusal { Stays, BecomesZero };
-
 /// The rule of a text field with a number: the typed value is stored at once, shown again in its
-/// format, then tested; after acceptance `then` runs.
+/// format, then tested against the input's limit; after acceptance `then` runs.
 struct FieldRule {
-  std::function<double(const ProjectState&)> read;
-  std::function<void(ProjectState&, double)> store;
-  const char* format = "#0.0";
-  Limit limit;  ///< no test when empty
-  Refusal refusal = Refusal::Stays;
+  InputRef input;                ///< none of a free text
+  const char* format = nullptr;  ///< where the form writes it otherwise than the input's own
+  std::optional<Limit> limit;    ///< where another holds than the input's own
   std::function<void(Session&)> then;
   std::function<void(Session&)> afterRefusal;
   /// Of a field of free text: takes the text when the field is left.
   std::function<void(ProjectState&, const std::string&)> keep;
+
+  bool IsNumber() const { return input.field != nullptr; }
+  const char* Format() const { return format != nullptr ? format : input.field->format; }
 };
 
 /// A control of a form. Members that a kind does not use stay empty; a text that follows the
@@ -75,41 +68,16 @@ const Control* FindControl(const Form& form, const std::string& name);
 
 // --- Building blocks of the tables --------------------------------------------------------------
 
-/// Reads and stores a field of the state, whatever its type. An int16 takes the rounded value.
-template <class T>
-FieldRule Bind(T ProjectState::*member, const char* format) {
-  FieldRule rule;
-  rule.read = [member](const ProjectState& st) { return double(st.*member); };
-  rule.store = [member](ProjectState& st, double v) { StoreNumber(st.*member, v); };
-  rule.format = format;
-  return rule;
-}
+/// The rule of an input of the record, without a follow-up.
+FieldRule Bind(InputMember member, int element = 0);
+/// The same that calculates after acceptance: the usual follow-up.
+FieldRule Calculated(InputMember member, int element = 0);
 
-/// The same for an element of an array field.
-template <class A>
-FieldRule Bind(A ProjectState::*member, int index, const char* format) {
-  FieldRule rule;
-  rule.read = [member, index](const ProjectState& st) { return double((st.*member)[index]); };
-  rule.store = [member, index](ProjectState& st, double v) { StoreNumber((st.*member)[index], v); };
-  rule.format = format;
-  return rule;
-}
-
-void StoreNumber(float32& field, double v);
-void StoreNumber(number& field, double v);
-void StoreNumber(int16& field, double v);
-
-/// low <= v.
-Limit AtLeast(double low, std::string message);
-/// low < v.
-Limit Above(double low, std::string message);
-/// low <= v <= high.
-Limit Between(double low, double high, std::string message);
-/// By the state.
-Limit Accept(std::function<bool(const ProjectState&, double)> accepts, std::string message);
-
-Control Input(std::string name, std::string caption, FieldRule rule, std::string unit = {},
-              std::string tip = {});
+/// The field of an input: its unit is the input's own, its tip tells the accepted values behind
+/// the words.
+Control Input(std::string name, std::string caption, FieldRule rule, std::string tip = {});
+/// What a tip says of a field: its words and the accepted values as they stand.
+std::string TipOf(const Control& control, const ProjectState& st);
 Control Option(std::string name, std::string caption, std::function<bool(const Session&)> checked,
                std::function<void(Session&)> click);
 Control Check(std::string name, std::string caption, std::function<bool(const Session&)> checked,

@@ -86,7 +86,7 @@ void Session::Refill(const std::string& form, const std::string& control) {
   const Control* c = f == nullptr ? nullptr : FindControl(*f, control);
   if (c == nullptr || c->kind != Kind::Input) return;
   FieldState& field = fields_[form + "." + control];
-  field.text = c->text ? c->text(*this) : Shown(c->field.read(st()), c->field.format);
+  field.text = c->text ? c->text(*this) : Shown(ReadInput(st(), c->field.input), c->field.Format());
   field.green = false;
 }
 
@@ -124,7 +124,7 @@ void Session::Mismatch(const Place& place) {
 
 bool Session::Accept(const Place& place, const FieldRule& rule) {
   FieldState& field = fields_[place.key];
-  if (!rule.store) {  // free text; project and identification are read on saving only
+  if (!rule.IsNumber()) {  // free text; project and identification are read on saving only
     if (rule.keep) rule.keep(st(), field.text);
     return true;
   }
@@ -134,12 +134,11 @@ bool Session::Accept(const Place& place, const FieldRule& rule) {
     return false;
   }
   const double value = float32(*typed);
-  rule.store(st(), value);
-  const bool ok = !rule.limit.accepts || rule.limit.accepts(st(), value);
-  if (!ok && rule.refusal == Refusal::BecomesZero) rule.store(st(), 0);
-  field.text = Shown(rule.read(st()), rule.format);
-  if (!ok) {
-    platform_.Message(rule.limit.message(st()));
+  const char* refusal =
+      StoreInput(st(), rule.input, value, rule.limit ? *rule.limit : rule.input.field->limit);
+  field.text = Shown(ReadInput(st(), rule.input), rule.Format());
+  if (refusal != nullptr) {
+    platform_.Message(refusal);
     focus_ = place.key;
     if (rule.afterRefusal) rule.afterRefusal(*this);
     return false;

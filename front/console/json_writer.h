@@ -91,6 +91,7 @@ private:
   void Value(const int16& v) { Value(int(v)); }
   void Value(std::string_view v);
   void Value(const std::string& v) { Value(std::string_view(v)); }
+  void Value(const char* v) { Value(std::string_view(v)); }
   void Value(std::nullptr_t) { text_ += "null"; }
 
   std::string text_;

@@ -180,10 +180,18 @@ void FormBinder::Describe(const Bound& bound) const {
     return;
   }
   if (bound.widget->toolTip().isEmpty()) {
-    QString tip = Q(c.tip).trimmed();
+    QString tip = Q(TipOf(c, desktop_.session().st())).trimmed();
     if (tip.isEmpty() && c.kind == Kind::Input) tip = name;
     bound.widget->setToolTip(tip);
   }
+}
+
+void FormBinder::RenewTip(QLineEdit* edit) const {
+  const std::string name = edit->objectName().toStdString();
+  const Control* c = FindControl(form_, name);
+  if (c == nullptr || !c->field.IsNumber() || c->field.input.field->limit.follows == nullptr)
+    return;
+  edit->setToolTip(Q(TipOf(*c, desktop_.session().st())).trimmed());
 }
 
 void FormBinder::Refresh() {
@@ -227,6 +235,7 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
   }
   auto* edit = qobject_cast<QLineEdit*>(watched);
   if (edit == nullptr) return QObject::eventFilter(watched, event);
+  if (event->type() == QEvent::ToolTip) RenewTip(edit);
   if (event->type() == QEvent::FocusIn) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
     if (reason == Qt::PopupFocusReason) return false;

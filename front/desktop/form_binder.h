@@ -52,6 +52,8 @@ private:
   void BindButton(Bound& bound);
   void BindList(Bound& bound);
   void Describe(const Bound& bound) const;
+  /// The tip of a field whose limit follows another input, as the limit stands now.
+  void RenewTip(QLineEdit* edit) const;
 
   Desktop& desktop_;
   const Form& form_;

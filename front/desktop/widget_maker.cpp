@@ -89,9 +89,10 @@ QWidget* WidgetMaker::NewWidget(const Control& c) {
   switch (c.kind) {
     case Kind::Input: {
       auto* edit = new QLineEdit;
-      if (c.field.store) {
+      if (c.field.IsNumber()) {
         edit->setAlignment(Qt::AlignRight);
-        const bool exponent = std::string_view(c.field.format).find('E') != std::string_view::npos;
+        const bool exponent =
+            std::string_view(c.field.Format()).find('E') != std::string_view::npos;
         edit->setFixedWidth(Ems(edit, exponent ? 7.6 : 5.6));
       }
       return edit;
@@ -176,7 +177,7 @@ void WidgetMaker::FieldRow(QGridLayout* grid, int row, const std::string& name, 
   const Control& c = At(name);
   grid->addWidget(Caption(name), row, column);
   QWidget* widget = Make(name);
-  const bool wide = c.kind == Kind::List || !c.field.store;
+  const bool wide = c.kind == Kind::List || !c.field.IsNumber();
   grid->addWidget(widget, row, column + 1, 1, wide ? 2 : 1);
   if (!wide) grid->addWidget(Unit(name), row, column + 2);
 }

@@ -99,11 +99,8 @@ bool HasC3(const ProjectState& st) {
 }
 
 Control CFactor(const char* name, const char* caption, number ProjectState::*typed,
-                number LtbResults::*computed, double low, const char* message) {
-  FieldRule rule = Bind(typed, "0.000");
-  rule.limit = Between(low, 4, message);
-  rule.then = CalculateAfter;
-  Control c = Input(name, caption, rule);
+                number LtbResults::*computed) {
+  Control c = Input(name, caption, Calculated(typed));
   // Without manual input the field shows what the moment diagram gives.
   c.text = [typed, computed, caption](const Session& s) {
     const ProjectState& st = s.st();
@@ -149,15 +146,7 @@ void AddLateralCases(std::vector<Control>& c) {
     }));
     c.back().checked = [k](const Session& s) { return s.st().LateralBucklingCase == k; };
   }
-  FieldRule rule = Bind(&ProjectState::k_ltb, "#0.00");
-  rule.limit.accepts = [](const ProjectState& st, double k) {
-    return IsCantilever(st.SupportType) ? k >= 1 && k <= 2 : k >= 0.5 && k <= 1;
-  };
-  rule.limit.message = [](const ProjectState& st) {
-    return std::string(IsCantilever(st.SupportType) ? " 1.0 <= k <= 2.0 " : " 0.5<= k <= 1.0 ");
-  };
-  rule.then = CalculateAfter;
-  c.push_back(Input("ik", "k =", rule, "", "0.5 to 1.0; 1.0 to 2.0 for a cantilever"));
+  c.push_back(Input("ik", "k =", Calculated(&ProjectState::k_ltb)));
   c.back().enabled = [](const Session& s) { return s.st().LateralBucklingCase == 5; };
 }
 
@@ -173,9 +162,7 @@ void AddLoadLevels(std::vector<Control>& c) {
                         }));
     c.back().checked = [k](const Session& s) { return s.st().LoadLevel == k; };
   }
-  FieldRule rule = Bind(&ProjectState::Za, "#0");
-  rule.then = CalculateAfter;
-  c.push_back(Input("iza", "Za = distance from CoG", rule, "mm"));
+  c.push_back(Input("iza", "Za = distance from CoG", Calculated(&ProjectState::Za)));
   c.back().visible = [](const Session& s) { return s.st().LoadLevel == 4; };
 }
 
@@ -208,10 +195,9 @@ Form LateralForm() {
         Refresh(s);
       }));
   c.back().visible = TypesFactors;
-  c.push_back(
-      CFactor("ic1", "C1 =", &ProjectState::C1i, &LtbResults::C1, 0.2, " 0.2 <= C1i <= 4 "));
-  c.push_back(CFactor("ic2", "C2 =", &ProjectState::C2i, &LtbResults::C2, 0, " 0 <= C2i <= 4 "));
-  c.push_back(CFactor("ic3", "C3 =", &ProjectState::C3i, &LtbResults::C3, 0, " 0 <= C3i <= 4 "));
+  c.push_back(CFactor("ic1", "C1 =", &ProjectState::C1i, &LtbResults::C1));
+  c.push_back(CFactor("ic2", "C2 =", &ProjectState::C2i, &LtbResults::C2));
+  c.push_back(CFactor("ic3", "C3 =", &ProjectState::C3i, &LtbResults::C3));
   c.push_back(FrameOf("frlevel", "Loadlevel"));
   AddLoadLevels(c);
   c.push_back(TextLabel("omdb", [](const Session& s) {

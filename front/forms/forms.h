@@ -18,15 +18,10 @@ void AddDatabaseForm(std::vector<Form>& forms);
 void AddFamilyForms(std::vector<Form>& forms);
 
 // Rules that stand once and are used by more than one form.
+/// The yield stress, in three digits.
 FieldRule YieldRule();
-FieldRule MaterialFactorRule();
-FieldRule LoadFactorRule(float32 ProjectState::*member);
-/// The deflection limit; `then` differs by form.
-FieldRule DeflectionLimitRule(std::function<void(Session&)> then);
 /// The list of materials with its click.
 Control MaterialList();
-/// Calculates: the usual follow-up of an accepted value.
-void CalculateAfter(Session& s);
 /// A button that closes its form.
 Control CloseButton(const char* name, const char* caption, const char* form);
 /// The title of a form with a fixed caption.

@@ -93,9 +93,10 @@ void AddRow(std::vector<Control>& c, int row) {
   c.push_back(RowField("odefl", row, &OptimiserRowView::deflection));
 }
 
-Control CriterionOption(const char* name, const char* caption, int criterion) {
+Control CriterionOption(const char* name, int criterion) {
   return Option(
-      name, caption, [criterion](const Session& s) { return s.st().ResultView == criterion; },
+      name, kCriterionCaptions[criterion],
+      [criterion](const Session& s) { return s.st().ResultView == criterion; },
       [criterion](Session& s) { ClickCriterion(s, criterion); });
 }
 
@@ -104,10 +105,10 @@ Form OptimiserForm() {
   form.name = "optroll";
   form.title = Fixed("Optimize rolled profiles");
   std::vector<Control>& c = form.controls;
-  c.push_back(CriterionOption("ULS", "ULS (Buckling/Section Control)", kCriterionUls));
-  c.push_back(CriterionOption("SLS", "SLS (Deflection - z-dir)", kCriterionSls));
-  c.push_back(CriterionOption("ULSSLS", "ULS/SLS", kCriterionUlsSls));
-  c.push_back(Input("idef_limit", "L/", DeflectionLimitRule({}), "", "100 to 1500"));
+  c.push_back(CriterionOption("ULS", kCriterionUls));
+  c.push_back(CriterionOption("SLS", kCriterionSls));
+  c.push_back(CriterionOption("ULSSLS", kCriterionUlsSls));
+  c.push_back(Input("idef_limit", "L/", Bind(&ProjectState::DeflectionLimit)));
   c.back().visible = [](const Session& s) { return s.st().ResultView != kCriterionUls; };
   c.back().enabled = c.back().visible;
   c.push_back(TextLabel(

@@ -9,13 +9,6 @@
 
 namespace korvane {
 
-FieldRule LoadFactorRule(float32 ProjectState::*member) {
-  FieldRule rule = Bind(member, "#0.00");
-  rule.limit = Between(0, 4, " 0 < Loadfactor < 4.0 ");
-  rule.then = CalculateAfter;
-  return rule;
-}
-
 Control CloseButton(const char* name, const char* caption, const char* form) {
   return Button(name, caption, [form](Session& s) { s.Close(form); });
 }
@@ -26,34 +19,6 @@ constexpr const char* kCategories[] = {"P", "V1", "V2"};
 
 std::string CategoryCaption(int pv) {
   return kCategories[pv == 0 || pv == 1 ? pv : 2];
-}
-
-FieldRule Calculated(FieldRule rule) {
-  rule.then = CalculateAfter;
-  return rule;
-}
-
-/// A position, stored in m; shown and typed as x/L while the flag is 1. A refused one becomes 0.
-FieldRule Position(FieldRule rule, int16 ProjectState::*relative, std::string absoluteMessage,
-                   std::string relativeMessage) {
-  rule.format = "#0.000";
-  const auto read = rule.read;
-  const auto store = rule.store;
-  rule.read = [read, relative](const ProjectState& st) {
-    return st.*relative == 1 ? read(st) / st.L : read(st);
-  };
-  rule.store = [store, relative](ProjectState& st, double v) {
-    store(st, st.*relative == 1 ? st.L * v : v);
-  };
-  rule.limit.accepts = [relative](const ProjectState& st, double v) {
-    return v >= 0 && v <= (st.*relative == 1 ? 1.0 : double(st.L));
-  };
-  rule.limit.message = [=](const ProjectState& st) {
-    return st.*relative == 1 ? relativeMessage : absoluteMessage;
-  };
-  rule.refusal = Refusal::BecomesZero;
-  rule.then = CalculateAfter;
-  return rule;
 }
 
 /// A picture button that steps a code and shows it in its caption.
@@ -100,14 +65,14 @@ Control RelativeOption(const char* name, const char* caption, int16 ProjectState
 
 void AddFactors(std::vector<Control>& c) {
   using S = ProjectState;
-  c.push_back(Input("ilfp_uls", "ULS P", LoadFactorRule(&S::lfp_uls), "", "0 to 4"));
-  c.push_back(Input("ilfv1_uls", "ULS V1", LoadFactorRule(&S::lfv1_uls), "", "0 to 4"));
-  c.push_back(Input("ilfv2_uls", "ULS V2", LoadFactorRule(&S::lfv2_uls), "", "0 to 4"));
-  c.push_back(Input("ilfp_sls", "SLS P", LoadFactorRule(&S::lfp_sls), "", "0 to 4"));
-  c.push_back(Input("ilfv1_Sls", "SLS V1", LoadFactorRule(&S::lfv1_sls), "", "0 to 4"));
-  c.push_back(Input("ilfv2_Sls", "SLS V2", LoadFactorRule(&S::lfv2_sls), "", "0 to 4"));
+  c.push_back(Input("ilfp_uls", "ULS P", Calculated(&S::lfp_uls)));
+  c.push_back(Input("ilfv1_uls", "ULS V1", Calculated(&S::lfv1_uls)));
+  c.push_back(Input("ilfv2_uls", "ULS V2", Calculated(&S::lfv2_uls)));
+  c.push_back(Input("ilfp_sls", "SLS P", Calculated(&S::lfp_sls)));
+  c.push_back(Input("ilfv1_Sls", "SLS V1", Calculated(&S::lfv1_sls)));
+  c.push_back(Input("ilfv2_Sls", "SLS V2", Calculated(&S::lfv2_sls)));
   const auto withSelfWeight = [](const Session& s) { return s.st().SelfWeight == 1; };
-  c.push_back(Input("ilfsw_ULS", "Selfweight ULS", Calculated(Bind(&S::lfsw_uls, "#0.00"))));
+  c.push_back(Input("ilfsw_ULS", "Selfweight ULS", Calculated(&S::lfsw_uls)));
   c.back().visible = withSelfWeight;
   c.push_back(Label("ilfsw_SLS", "1.00"));
   c.back().visible = withSelfWeight;
@@ -129,7 +94,7 @@ void AddLines(std::vector<Control>& c) {
   for (int k = 1; k <= 4; ++k) {
     const Line& l = lines[static_cast<std::size_t>(k - 1)];
     const std::string name = "iq" + std::to_string(k);
-    c.push_back(Input(name, "q" + std::to_string(k), Calculated(Bind(l.q, "#0.0")), "kN/m"));
+    c.push_back(Input(name, "q" + std::to_string(k), Calculated(l.q)));
     c.push_back(CategoryToggle(name + "_pv", l.pv));
     c.push_back(DirectionToggle(name + "_yz", l.yz));
   }
@@ -139,16 +104,10 @@ void AddTrapezoids(std::vector<Control>& c) {
   for (int t = 1; t <= 3; ++t) {
     const Trapezoid& s = TrapezoidOf(t);
     const std::string name = "iqt" + std::to_string(t);
-    c.push_back(Input(name + "1", "q1", Calculated(Bind(s.q1, "#0.0")), "kN/m"));
-    c.push_back(Input(name + "2", "q2", Calculated(Bind(s.q2, "#0.0")), "kN/m"));
-    const auto position = [&](float32 ProjectState::*x, const char* letter) {
-      const std::string l = letter;
-      return Position(Bind(x, "#0.000"), &ProjectState::qtx_relative, " 0 < " + l + " <= l ",
-                      " 0 < " + l + " <= 1 ");
-    };
-    c.push_back(Input(name + "x1", "x1", position(s.x1, "x1"), "m"));
-    // The third trapezoid speaks of x1 in both fields: kept.
-    c.push_back(Input(name + "x2", "x2", position(s.x2, t == 3 ? "x1" : "x2"), "m"));
+    c.push_back(Input(name + "1", "q1", Calculated(s.q1)));
+    c.push_back(Input(name + "2", "q2", Calculated(s.q2)));
+    c.push_back(Input(name + "x1", "x1", Calculated(s.x1)));
+    c.push_back(Input(name + "x2", "x2", Calculated(s.x2)));
     c.push_back(CategoryToggle(name + "_pv", s.pv));
     c.push_back(DirectionToggle(name + "_yz", s.yz));
   }
@@ -162,11 +121,8 @@ void AddItems(std::vector<Control>& c) {
         "ipm_pm" + index,
         [i](const Session& s) { return std::string(s.st().pm_pm[i] == 0 ? "P" : "M"); },
         [i](S& st) { st.pm_pm[i] = Flipped(st.pm_pm[i]); }));
-    c.push_back(Input("ipm" + index, "P/M", Calculated(Bind(&S::pm, i, "#0.0")), "kN, kNm"));
-    c.push_back(Input(
-        "ipmx" + index, "x",
-        Position(Bind(&S::pmx, i, "#0.000"), &S::pmx_relative, " 0 < x <= l ", " 0 < x <= 1 "),
-        "m"));
+    c.push_back(Input("ipm" + index, "P/M", Calculated(&S::pm, i)));
+    c.push_back(Input("ipmx" + index, "x", Calculated(&S::pmx, i)));
     c.push_back(Toggle(
         "ipm_pv" + index, [i](const Session& s) { return CategoryCaption(s.st().pm_pv[i]); },
         [i](S& st) { st.pm_pv[i] = NextCategory(st.pm_pv[i]); }));
@@ -200,10 +156,9 @@ Form LoadingForm() {
   };
   std::vector<Control>& c = form.controls;
   AddFactors(c);
-  c.push_back(
-      Input("inp", "N (P)", Calculated(Bind(&S::NP, "#0.0")), "kN", "Compression positive"));
-  c.push_back(Input("inv1", "N (V1)", Calculated(Bind(&S::NV1, "#0.0")), "kN"));
-  c.push_back(Input("inv2", "N (V2)", Calculated(Bind(&S::NV2, "#0.0")), "kN"));
+  c.push_back(Input("inp", "N (P)", Calculated(&S::NP), "Compression positive"));
+  c.push_back(Input("inv1", "N (V1)", Calculated(&S::NV1)));
+  c.push_back(Input("inv2", "N (V2)", Calculated(&S::NV2)));
   AddLines(c);
   AddTrapezoids(c);
   AddItems(c);
@@ -239,19 +194,17 @@ Form EndForceForm() {
   form.name = "endforce";
   form.title = Fixed("Endforces (kN, kNm)");
   std::vector<Control>& c = form.controls;
-  c.push_back(Input("ine", "N", Calculated(Bind(&S::Ne, "#0.0")), "kN", " (+=compression)"));
+  c.push_back(Input("ine", "N", Calculated(&S::Ne), " (+=compression)"));
   struct Row {
     const char* name;
     const char* caption;
     Indexed<float32, 1, 2> S::*member;
-    const char* unit;
   };
-  for (const Row& row : {Row{"imy", "My", &S::My_end, "kNm"}, Row{"imz", "Mz", &S::Mz_end, "kNm"},
-                         Row{"ivy", "Vy", &S::Vy_end, "kN"}, Row{"ivz", "Vz", &S::Vz_end, "kN"}}) {
+  for (const Row& row : {Row{"imy", "My", &S::My_end}, Row{"imz", "Mz", &S::Mz_end},
+                         Row{"ivy", "Vy", &S::Vy_end}, Row{"ivz", "Vz", &S::Vz_end}}) {
     for (int end = 1; end <= 2; ++end) {
       const std::string number = std::to_string(end);
-      c.push_back(Input(row.name + number, row.caption + number,
-                        Calculated(Bind(row.member, end, "#0.0")), row.unit));
+      c.push_back(Input(row.name + number, row.caption + number, Calculated(row.member, end)));
     }
   }
   c.push_back(Label("onote", "Shall be used for members with only joint forces"));
@@ -275,11 +228,7 @@ Form StiffenerForm() {
   c.push_back(ValueOption("cwebstiff0", "No web stiffeners", &S::WebStiffener, 0));
   c.push_back(ValueOption("cwebstiff1", "Web stiffeners", &S::WebStiffener, 1));
   const auto withWeb = [](const Session& s) { return s.st().WebStiffener == 1; };
-  FieldRule distance = Bind(&S::a_webstiff, "#0");
-  distance.limit =
-      Accept([](const S& st, double a) { return a >= 100 && a < 1000 * st.L; }, " 100 < a < l ");
-  distance.then = CalculateAfter;
-  c.push_back(Input("iweba", "a =", distance, "mm", "100 mm to the member length"));
+  c.push_back(Input("iweba", "a =", Calculated(&S::a_webstiff)));
   c.back().visible = withWeb;
   c.push_back(Label("webamm", "mm"));
   c.back().visible = withWeb;
@@ -301,14 +250,12 @@ Form PointsForm() {
     c.push_back(ValueOption("no_cp" + std::to_string(n), std::to_string(n), &S::cp_count, n));
   }
   for (int i = 1; i <= 3; ++i) {
-    FieldRule rule =
-        Position(Bind(&S::cp_x, i, "#0.000"), &S::cp_relative, " 0 < x <= l ", " 0 <= x <= 1 ");
-    rule.refusal = Refusal::Stays;
+    FieldRule rule = Calculated(&S::cp_x, i);
     // A refused absolute position recalculates all the same.
     rule.afterRefusal = [](Session& s) {
       if (s.st().cp_relative == 0) s.Calculate();
     };
-    c.push_back(Input("icp(" + std::to_string(i) + ")", "x" + std::to_string(i), rule, "m"));
+    c.push_back(Input("icp(" + std::to_string(i) + ")", "x" + std::to_string(i), rule));
     c.back().visible = [i](const Session& s) {
       return s.st().cp_mode == 1 && s.st().cp_count >= i;
     };

@@ -22,32 +22,13 @@ std::string ViewText(const View& view) {
   return out;
 }
 
-void CalculateAfter(Session& s) {
-  s.Calculate();
-}
-
 std::function<std::string(const Session&)> Fixed(std::string caption) {
   return [caption = std::move(caption)](const Session&) { return caption; };
 }
 
 FieldRule YieldRule() {
-  FieldRule rule = Bind(&ProjectState::fyk, "#00");
-  rule.limit = Between(50, 2000, " 50 <= fyk <= 2000 ");
-  rule.then = CalculateAfter;
-  return rule;
-}
-
-FieldRule MaterialFactorRule() {
-  FieldRule rule = Bind(&ProjectState::gammam1, "#0.00");
-  rule.limit = Between(0.5, 1.5, " 0.5 <= gammam1 <=1.5 ");
-  rule.then = CalculateAfter;
-  return rule;
-}
-
-FieldRule DeflectionLimitRule(std::function<void(Session&)> then) {
-  FieldRule rule = Bind(&ProjectState::DeflectionLimit, "#0");
-  rule.limit = Between(100, 1500, "100 <= Deflection <=1500 ");
-  rule.then = std::move(then);
+  FieldRule rule = Calculated(&ProjectState::fyk);
+  rule.format = "#000";
   return rule;
 }
 
@@ -117,9 +98,8 @@ void ClickSupport(Session& s, const Support& support) {
 /// a range of its own.
 void TakeSpring(Session& s) {
   if (!s.Enabled("korvane.ispring")) return;
-  FieldRule rule = Bind(&ProjectState::SpringRestraint, "#0");
+  FieldRule rule = Calculated(&ProjectState::SpringRestraint);
   rule.limit = Between(1, 99, " 1 < springstiffness 99 ");
-  rule.then = CalculateAfter;
   s.LeaveBy("korvane.ispring", rule);
 }
 
@@ -180,9 +160,10 @@ void RunOptimiseCurrent(Session& s) {
   s.platform().WaitCursor(false);
 }
 
-Control CriterionOption(const char* name, const char* caption, int criterion) {
+Control CriterionOption(const char* name, int criterion) {
   Control c = Option(
-      name, caption, [criterion](const Session& s) { return s.st().ResultView == criterion; },
+      name, kCriterionCaptions[criterion],
+      [criterion](const Session& s) { return s.st().ResultView == criterion; },
       [criterion](Session& s) {
         s.st().ResultView = criterion;
         RunOptimiseCurrent(s);
@@ -219,57 +200,50 @@ void AddInputs(std::vector<Control>& c) {
   c.push_back(TextInput("iproj", "Project name:", &ProjectState::iproj));
   c.push_back(TextInput("iident", "Identification:", &ProjectState::iident));
 
-  FieldRule length = Bind(&ProjectState::L, "#0.000");
-  length.limit = AtLeast(0.05, " L >= 0.050 ");
+  FieldRule length = Bind(&ProjectState::L);
   length.then = [](Session& s) {
     if (const auto message = NormaliseLoads(s.st())) s.platform().Message(message->text);
     s.Calculate();
   };
-  c.push_back(Input("il", "L", length, "m", "Member length, L >= 0.050 m"));
+  c.push_back(Input("il", "L", length, "Member length"));
 
-  FieldRule young = Bind(&ProjectState::E, "0.00E+0");
-  young.limit = AtLeast(1000, " 1000 <= E-modulus ");
-  young.then = CalculateAfter;
   c.push_back(MaterialList());
-  Control yield = Input("ifyk", "fyk =", YieldRule(), "MPa",
-                        "Characteristic yield stress, 50 to 2000 MPa; open for the free grade");
-  yield.field.format = "#000";
+  Control yield =
+      Input("ifyk", "fyk =", YieldRule(), "Characteristic yield stress, open for the free grade");
   yield.enabled = FreeMaterial;
   c.push_back(yield);
-  c.push_back(Input("ie", "E =", young, "MPa", "Young's modulus, E >= 1000 MPa"));
+  c.push_back(Input("ie", "E =", Calculated(&ProjectState::E), "Young's modulus"));
   c.push_back(
       TextLabel("ofyd", [](const Session& s) { return "fd = " + s.Shown(s.st().fd, "#00.0"); }));
   c.back().unit = "MPa";
-  c.push_back(Input("igammam1", "gm1 =", MaterialFactorRule(), "", "Material factor, 0.5 to 1.5"));
+  c.push_back(Input("igammam1", "gm1 =", Calculated(&ProjectState::gammam1), "Material factor"));
 
   const auto buckling = [&](const char* name, const char* caption, float32 ProjectState::*factor,
-                            int16 ProjectState::*bucklingCase, const char* message) {
-    FieldRule rule = Bind(factor, "#0.00");
-    rule.limit = AtLeast(0.2, message);
+                            int16 ProjectState::*bucklingCase) {
+    FieldRule rule = Bind(factor);
     rule.then = [bucklingCase](Session& s) {
       s.st().*bucklingCase = 6;
       s.Calculate();
     };
-    c.push_back(Input(name, caption, rule, "", "Buckling length factor, at least 0.2"));
+    c.push_back(Input(name, caption, rule, "Buckling length factor"));
   };
   buckling("ibly", "Buckling length factor: Y-axis", &ProjectState::bly,
-           &ProjectState::BucklingCaseY, " Buckling length factor Y-axis >= 0.2 ");
+           &ProjectState::BucklingCaseY);
   buckling("iblz", "Buckling length factor: Z-axis", &ProjectState::blz,
-           &ProjectState::BucklingCaseZ, " Buckling length factor Z-axis >= 0.2 ");
+           &ProjectState::BucklingCaseZ);
 
-  FieldRule spring = Bind(&ProjectState::SpringRestraint, "#0");
-  spring.limit = Between(0, 100, " 1 < Spring-restraint  > 99 ");
-  spring.then = CalculateAfter;
-  Control ispring = Input("ispring", "Spring restraint", spring, "%", "0 to 100 %");
+  Control ispring =
+      Input("ispring", "Spring restraint", Calculated(&ProjectState::SpringRestraint));
   ispring.enabled = [](const Session& s) { return IsSpring(s.st().SupportType); };
   ispring.visible = ispring.enabled;
   c.push_back(ispring);
 
-  Control limit = Input("idef_limit", "L/", DeflectionLimitRule([](Session& s) {
-                          const int view = s.st().ResultView;
-                          if (view >= 0 && view <= 2) RunOptimiseCurrent(s);
-                        }),
-                        "", "Deflection limit L/x, x 100 to 1500");
+  FieldRule deflection = Bind(&ProjectState::DeflectionLimit);
+  deflection.then = [](Session& s) {
+    const int view = s.st().ResultView;
+    if (view >= 0 && view <= 2) RunOptimiseCurrent(s);
+  };
+  Control limit = Input("idef_limit", "L/", deflection, "Deflection limit L/x");
   limit.visible = [](const Session& s) { return s.st().OptimiseOpen == 1; };
   c.push_back(limit);
 }
@@ -326,9 +300,9 @@ void AddOptions(std::vector<Control>& c) {
         s.st().OptimiseOpen = s.st().OptimiseOpen == 1 ? 0 : 1;
         s.Refill("korvane", "idef_limit");
       }));
-  c.push_back(CriterionOption("ULS", "ULS (Buckling/Section Control)", kCriterionUls));
-  c.push_back(CriterionOption("SLS", "SLS (Deflection - z-dir)", kCriterionSls));
-  c.push_back(CriterionOption("ULSSLS", "ULS/SLS", kCriterionUlsSls));
+  c.push_back(CriterionOption("ULS", kCriterionUls));
+  c.push_back(CriterionOption("SLS", kCriterionSls));
+  c.push_back(CriterionOption("ULSSLS", kCriterionUlsSls));
 }
 
 void AddButtons(std::vector<Control>& c) {

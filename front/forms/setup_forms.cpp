@@ -15,43 +15,30 @@ Form DefaultsForm() {
   form.title = Fixed("Default Values");
   std::vector<Control>& c = form.controls;
   c.push_back(FrameOf("frufa", "Allowable Usage Factor"));
-  FieldRule usage = Bind(&S::iufa, "#0.00");
-  usage.limit = Between(0.3, 2, " 0.3 < IR < 2.0 ");
-  usage.then = CalculateAfter;
-  c.push_back(Input("iufa", "UF =", usage, "", "0.3 to 2.0"));
+  c.push_back(Input("iufa", "UF =", Calculated(&S::iufa)));
   c.push_back(FlagCheck("check_slend", "Slenderness limit (Buckling Control)", &S::check_slend));
-  FieldRule slenderness = Bind(&S::islend_limit, "#0");
-  slenderness.limit = Between(50, 1000, "50 <= Deflection <=1000 ");
   const auto checked = [](const Session& s) { return s.st().check_slend == 1; };
-  c.push_back(Input("islend_limit", "Maximum slenderness:", slenderness, "", "50 to 1000"));
+  c.push_back(Input("islend_limit", "Maximum slenderness:", Bind(&S::islend_limit)));
   c.back().enabled = checked;
   c.push_back(Label("slend_text", " (<= 250, ref NS ch 11.7)"));
   c.back().visible = checked;
   c.push_back(FrameOf("frdef", "Deflection Limit"));
-  c.push_back(
-      Input("idef_limit", "Deflection limit: L/", DeflectionLimitRule({}), "", "100 to 1500"));
+  c.push_back(Input("idef_limit", "Deflection limit: L/", Bind(&S::DeflectionLimit)));
   c.push_back(FrameOf("frmat", "Material "));
   c.push_back(MaterialList());
-  c.push_back(Input("ifyk", "fyk =", YieldRule(), "MPa", "50 to 2000 MPa"));
-  c.back().field.format = "#000";
+  c.push_back(Input("ifyk", "fyk =", YieldRule()));
   c.back().enabled = [](const Session& s) {
     return s.st().MaterialIndex >= s.design().lib->materials.Last();
   };
-  c.push_back(Input("igammam1", "Material factor:  gm1 =", MaterialFactorRule(), "", "0.5 to 1.5"));
+  c.push_back(Input("igammam1", "Material factor:  gm1 =", Calculated(&S::gammam1)));
   c.push_back(FrameOf("frload", "Loadfactors"));
-  c.push_back(Input("ilfp_uls", "ULS Permanent (P) =", LoadFactorRule(&S::lfp_uls), "", "0 to 4"));
-  c.push_back(
-      Input("ilfv1_uls", "ULS Variable (V1) =", LoadFactorRule(&S::lfv1_uls), "", "0 to 4"));
-  c.push_back(
-      Input("ilfv2_uls", "ULS Variable (V2) =", LoadFactorRule(&S::lfv2_uls), "", "0 to 4"));
-  c.push_back(Input("ilfp_sls", "SLS Permanent (P) =", LoadFactorRule(&S::lfp_sls), "", "0 to 4"));
-  c.push_back(
-      Input("ilfv1_Sls", "SLS Variable (V1) =", LoadFactorRule(&S::lfv1_sls), "", "0 to 4"));
-  c.push_back(
-      Input("ilfv2_Sls", "SLS Variable (V2) =", LoadFactorRule(&S::lfv2_sls), "", "0 to 4"));
-  FieldRule weight = Bind(&S::lfsw_uls, "#0.00");
-  weight.then = CalculateAfter;
-  c.push_back(Input("ilfsw_ULS", "Selfweight =", weight));
+  c.push_back(Input("ilfp_uls", "ULS Permanent (P) =", Calculated(&S::lfp_uls)));
+  c.push_back(Input("ilfv1_uls", "ULS Variable (V1) =", Calculated(&S::lfv1_uls)));
+  c.push_back(Input("ilfv2_uls", "ULS Variable (V2) =", Calculated(&S::lfv2_uls)));
+  c.push_back(Input("ilfp_sls", "SLS Permanent (P) =", Calculated(&S::lfp_sls)));
+  c.push_back(Input("ilfv1_Sls", "SLS Variable (V1) =", Calculated(&S::lfv1_sls)));
+  c.push_back(Input("ilfv2_Sls", "SLS Variable (V2) =", Calculated(&S::lfv2_sls)));
+  c.push_back(Input("ilfsw_ULS", "Selfweight =", Calculated(&S::lfsw_uls)));
   c.push_back(Label("slsfactor", "SLS loadfactor = 1.0"));
   c.push_back(Button("Command2", "Save to file",
                      [](Session& s) { WriteDefaults(s.folders().own, s.st()); }));

@@ -64,9 +64,10 @@ TEST_P(FamilyWindow, OpensAndChanges) {
   } else {
     const Form& form = *FindForm(family.form);
     for (const Control& c : form.controls) {
-      if (c.kind != Kind::Input || !c.field.store) continue;
+      if (c.kind != Kind::Input || !c.field.IsNumber()) continue;
       auto& edit = On<QLineEdit>(window, c.name.c_str());
-      const std::string value = Format(c.field.read(session_.st()) * 1.01, c.field.format);
+      const std::string value =
+          Format(ReadInput(session_.st(), c.field.input) * 1.01, c.field.Format());
       TypeInto(edit, value.c_str());
       EXPECT_EQ(edit.text().toStdString(), value) << c.name;
       break;

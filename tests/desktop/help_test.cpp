@@ -210,25 +210,6 @@ TEST(HelpTablesTest, BrowsersHaveTheContentsList) {
   }
 }
 
-TEST(HelpTablesTest, RangesAreFoundByTrying) {
-  const ProjectState st = [] {
-    ProjectState s;
-    s.L = 6;
-    return s;
-  }();
-  EXPECT_EQ(RangeOf(Between(0.3, 2, ""), st).text, "0.3 to 2");
-  EXPECT_EQ(RangeOf(Between(100, 1500, ""), st).text, "100 to 1500");
-  EXPECT_EQ(RangeOf(AtLeast(0.05, ""), st).text, "at least 0.05");
-  EXPECT_EQ(RangeOf(Above(0, ""), st).text, "more than 0");
-  const auto below = [](const ProjectState& s, double v) { return v >= 100 && v < 1000 * s.L; };
-  const AcceptedRange distance = RangeOf(Accept(below, ""), st);
-  EXPECT_EQ(distance.text, "at least 100, less than 6000");
-  EXPECT_TRUE(distance.follows);
-  EXPECT_FALSE(RangeOf(AtLeast(50, ""), st).follows);
-  const auto anything = [](const ProjectState&, double) { return true; };
-  EXPECT_EQ(RangeOf(Accept(anything, ""), st).text, "any");
-}
-
 // --- Search -------------------------------------------------------------------------------------
 
 TEST(HelpBookTest, SearchFindsLateral) {

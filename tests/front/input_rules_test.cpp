@@ -26,7 +26,7 @@ struct Case {
 
 /// Reads what a field is bound to.
 double StateOf(const Session& s, const std::string& form, const std::string& control) {
-  return FindControl(*FindForm(form), control)->field.read(s.st());
+  return ReadInput(s.st(), FindControl(*FindForm(form), control)->field.input);
 }
 
 int TheFreeRow() {
@@ -548,7 +548,8 @@ INSTANTIATE_TEST_SUITE_P(AllForms, InputRule, ::testing::ValuesIn(kCases), CaseN
 TEST(InputRules, NoLimitIsLeftOut) {
   for (const Form& form : AllForms()) {
     for (const Control& control : form.controls) {
-      if (control.kind != Kind::Input || !control.field.limit.accepts) continue;
+      if (control.kind != Kind::Input || !control.field.IsNumber()) continue;
+      if (!HasLimit(control.field.input.field->limit)) continue;
       const bool array = control.name.find('(') != std::string::npos;
       bool listed = false;
       for (const Case& c : kCases) {
