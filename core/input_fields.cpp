@@ -392,6 +392,10 @@ double ReadInput(const S& st, const InputRef& input) {
   return IsRelative(st, input) ? value / st.L : value;
 }
 
+void PutInput(S& st, const InputRef& input, double value) {
+  Store(st, input, value);
+}
+
 Limit LimitOf(const S& st, const InputRef& input) {
   return InForce(input.field->limit, st);
 }

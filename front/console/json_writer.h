@@ -11,6 +11,9 @@
 
 namespace korvane {
 
+/// A text as JSON at the end of a line; what is not UTF-8 comes out as the replacement character.
+void AppendJsonText(std::string_view text, std::string& line);
+
 /// Members in the order of the calls. Texts are UTF-8; what is not comes out as the replacement
 /// character. Numbers are the shortest that read back to the same value, with a decimal point or
 /// an exponent; one that is not finite is null.

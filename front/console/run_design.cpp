@@ -10,52 +10,6 @@
 
 namespace korvane {
 
-Design StartedDesign(std::shared_ptr<const Library> library) {
-  Design design(std::move(library));
-  StartDesign(design);
-  try {
-    Calculate(design);
-  } catch (const CalculationFault&) {
-    // The new project's own failure is not the file's.
-  }
-  design.messages.clear();
-  return design;
-}
-
-namespace {
-
-/// The opening of a project: material step, then the calculations of opening and of the focus.
-void CalculateOpened(Design& design) {
-  ForgetFormerInput(design);
-  try {
-    SetMaterial(design.lib->materials, design.rec.tmax, design.st);
-  } catch (const ArithmeticFault& fault) {
-    design.history.stoppedIn = "SetMaterial";
-    throw CalculationFault("SetMaterial", fault.what());
-  }
-  Calculate(design);
-  Calculate(design);
-}
-
-/// The results as far as the calculation of this project got, every other one empty: those that
-/// stand from the start are another member's.
-void KeepOwnResults(const ProjectState& opened, Design& design) {
-  Design own(design.lib);
-  own.st = opened;
-  try {
-    CalculateOpened(own);
-    own = Design(design.lib);  // the failure hangs on what another section left: nothing is known
-  } catch (const CalculationFault&) {
-    // The same failure: what was reached stands.
-  }
-  own.st = std::move(design.st);
-  own.messages = std::move(design.messages);
-  own.history = std::move(design.history);
-  design = std::move(own);
-}
-
-}  // namespace
-
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -82,14 +36,7 @@ DesignRun RunProject(Design& design, const std::string& path) {
   run.file = ReadProjectInput(path, design.st, run);
   if (run.file != FileResult::Ok) return run;
   design.st.CurrentFileName = path;
-  const ProjectState opened = design.st;
-  try {
-    CalculateOpened(design);
-  } catch (const CalculationFault& fault) {
-    run.fault = fault.Step();
-    run.what = fault.what();
-    KeepOwnResults(opened, design);
-  }
+  static_cast<MemberRun&>(run) = OpenMember(design);
   return run;
 }
 

@@ -69,24 +69,13 @@ const Family* FamilyOf(const Session& s) {
 
 void ClickSupport(Session& s, const Support& support) {
   ProjectState& st = s.st();
-  const double factor = LengthFactorOfCase(support.bucklingCase);
-  st.SupportType = support.code;
+  TakeSupport(support, st);
+  if (st.BucklingCaseY < 5) s.Refill("korvane", "ibly");
+  if (st.BucklingCaseZ < 5) s.Refill("korvane", "iblz");
   if (IsSpring(support.code)) {
     s.Refill("korvane", "ispring");
     s.FocusField("korvane.ispring");
   }
-  if (st.BucklingCaseY < 5) {
-    st.bly = factor;
-    st.BucklingCaseY = support.bucklingCase;
-    s.Refill("korvane", "ibly");
-  }
-  if (st.BucklingCaseZ < 5) {
-    st.blz = factor;
-    st.BucklingCaseZ = support.bucklingCase;
-    s.Refill("korvane", "iblz");
-  }
-  st.LateralBucklingCase = support.bucklingCase;
-  st.k_ltb = factor;
   // The cantilever deliberately leaves the loads untidied.
   if (!IsCantilever(support.code)) {
     if (const auto message = NormaliseLoads(st)) s.platform().Message(message->text);
