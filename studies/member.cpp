@@ -17,6 +17,12 @@ Design StartedDesign(std::shared_ptr<const Library> library) {
   return design;
 }
 
+ProjectState NewMember(std::shared_ptr<const Library> library) {
+  Design design(std::move(library));
+  StartDesign(design);
+  return design.st;
+}
+
 namespace {
 
 /// The opening of a project: material step, then the calculations of opening and of the focus. The

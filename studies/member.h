@@ -20,6 +20,9 @@ struct MemberRun {
 /// The start sequence and the first calculation of the new project, whose failure is passed over.
 Design StartedDesign(std::shared_ptr<const Library> library);
 
+/// The input of a new project.
+ProjectState NewMember(std::shared_ptr<const Library> library);
+
 /// Whether the result lines are wanted.
 enum class Lines { Composed, None };
 

@@ -2,9 +2,11 @@
 #include "studies/solve.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 
 #include "studies/member.h"
+#include "studies/result_columns.h"
 
 namespace korvane {
 
@@ -94,7 +96,12 @@ Trial TryValue(const Design& started, const ProjectState& member, const MemberIn
 }
 
 double PresentValue(const ProjectState& member, const MemberInput& input) {
-  return input.kind == InputKind::Loads ? 1.0 : ReadInput(member, input.ref);
+  if (input.kind == InputKind::Loads) return 1;
+  // The decimals that were typed, not those of single precision.
+  const std::string digits = Digits(float32(ReadInput(member, input.ref)).Single());
+  double value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  return value;
 }
 
 void DefaultRange(const ProjectState& member, Question& q) {

@@ -2,6 +2,7 @@
 // Writes a JSON text as it goes, two blanks a level, a member or an element a line.
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -95,6 +96,10 @@ private:
   void Value(std::string_view v);
   void Value(const std::string& v) { Value(std::string_view(v)); }
   void Value(const char* v) { Value(std::string_view(v)); }
+  template <std::same_as<bool> Bool>
+  void Value(Bool v) {
+    text_ += v ? "true" : "false";
+  }
   void Value(std::nullptr_t) { text_ += "null"; }
 
   std::string text_;

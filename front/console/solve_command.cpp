@@ -35,7 +35,7 @@ bool ParseRange(const std::string& text, double& low, double& high) {
 }
 
 std::string Described(const Trial& trial) {
-  std::string text = "IR " + Format(trial.IR, "0.0000");
+  std::string text = "IR " + Format(trial.IR, "0.000000");
   if (!trial.check.empty()) text += ", " + trial.check;
   return text;
 }
@@ -87,7 +87,7 @@ std::string JsonOf(const Question& q, const Answer& answer) {
   const auto trial = [&](const char* name, const Trial& t) {
     json.Object(name, [&] {
       json.Member("value", t.value);
-      json.Member("passes", t.passes ? 1 : 0);
+      json.Member("passes", t.passes);
       json.Member("IR", t.IR);
       json.Member("check", t.check);
     });

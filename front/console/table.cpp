@@ -140,8 +140,12 @@ int DesignTable(std::shared_ptr<const Library> library, const TableOptions& opti
   TablePlan plan;
   plan.optimise = options.optimise;
   plan.jsonLines = options.jsonLines;
-  plan.base = started.st;
-  if (!options.base.empty() && !ReadMember(options.base, plan.base, errors)) return kBadInput;
+  if (options.base.empty()) {
+    plan.base = NewMember(library);
+  } else {
+    plan.base = started.st;
+    if (!ReadMember(options.base, plan.base, errors)) return kBadInput;
+  }
   auto results = ResultsOf(options.columns, errors);
   if (!results) return kBadInput;
   plan.results = std::move(*results);

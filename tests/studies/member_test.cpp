@@ -29,8 +29,7 @@ using Results = std::vector<std::string>;
 Results ResultsOf(const Design& d) {
   Results all;
   ForEachResult(
-      d, true,
-      [&](const char* name, double v) { all.push_back(name + (" " + FileText(v))); },
+      d, true, [&](const char* name, double v) { all.push_back(name + (" " + FileText(v))); },
       [&](const char* name, const std::string& text) { all.push_back(name + (" " + text)); });
   for (const ResultColumn& column : AllResultColumns()) {
     all.push_back(CellOf(column, {d, VerdictOf(d)}));
