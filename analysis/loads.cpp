@@ -16,11 +16,6 @@ struct GroupFactors {
   double Of(int group) const { return group == 0 ? p : group == 1 ? v1 : v2; }
 };
 
-struct LineLoad {
-  float32 ProjectState::*q;
-  int16 ProjectState::*pv;
-  int16 ProjectState::*yz;
-};
 constexpr std::array<LineLoad, 4> kLineLoads{{
     {&ProjectState::q1, &ProjectState::q1_pv, &ProjectState::q1_yz},
     {&ProjectState::q2, &ProjectState::q2_pv, &ProjectState::q2_yz},
@@ -72,6 +67,10 @@ GroupFactors UlsFactors(const ProjectState& st) {
 }
 
 }  // namespace
+
+const LineLoad& LineLoadOf(int n) {
+  return kLineLoads.at(static_cast<std::size_t>(n - 1));
+}
 
 const Trapezoid& TrapezoidOf(int t) {
   using S = ProjectState;
@@ -180,13 +179,12 @@ std::optional<LoadMessage> CheckTrapezoids(const ProjectState& st) {
     const double q1 = st.*s.q1;
     const double q2 = st.*s.q2;
     if ((q1 > 0 && q2 < 0) || (q1 < 0 && q2 > 0)) {
-      return LoadMessage{" Trapezoidal load: One positive and one negative value ",
-                         "iqt" + std::to_string(t) + "2"};
+      return LoadMessage{" Trapezoidal load: One positive and one negative value ", s.q2};
     }
   }
   for (int t = 1; t <= 3; ++t) {
     const Trapezoid& s = TrapezoidOf(t);
-    if (st.*s.x1 > st.*s.x2) return LoadMessage{" x1 < x2 ", "iqt" + std::to_string(t) + "x2"};
+    if (st.*s.x1 > st.*s.x2) return LoadMessage{" x1 < x2 ", s.x2};
   }
   return std::nullopt;
 }

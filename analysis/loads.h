@@ -21,6 +21,15 @@ struct Trapezoid {
 /// Trapezoid 1 to 3.
 const Trapezoid& TrapezoidOf(int t);
 
+/// Members of the state that hold one line load over the whole length.
+struct LineLoad {
+  float32 ProjectState::*q;
+  int16 ProjectState::*pv;
+  int16 ProjectState::*yz;
+};
+/// Line load 1 to 4.
+const LineLoad& LineLoadOf(int n);
+
 /// Loads of one plane. Index 1..3 trapezoids, 1..8 load entries. kN/m, kN, kNm.
 struct PlaneLoads {
   float32 q;                        ///< full line load
@@ -61,8 +70,8 @@ void StripForPlateTypes(ProjectState& st);
 
 /// What NormaliseLoads has to say when it fails.
 struct LoadMessage {
-  std::string text;   ///< literal message
-  std::string focus;  ///< control of the load form that gets the focus
+  std::string text;              ///< literal message
+  float32 ProjectState::*field;  ///< at fault: it gets the focus
 };
 
 /// Tidies the load record, the characteristic points and the stiffener distance against length

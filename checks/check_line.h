@@ -33,6 +33,11 @@ struct GoverningSection {
   double Mvdy = 0, Mvdz = 0, Mvndy = 0, Mvndz = 0, alfa = 0, beta = 0;
   double Vz = 0, Vy = 0, Vdz = 0, Vdy = 0;
   int corner = 0;  ///< angles: governing corner
+  int sectionClass = 0;
+  /// What the capacities came from, for whoever checks them by hand: factors on the plastic
+  /// moduli, capacities before shear, and those of the flanges and of the whole plastic section.
+  double betay = 0, betaz = 0, Mdy = 0, Mdz = 0;
+  double Mndy = 0, Mndz = 0, Mndypl = 0, Mndzpl = 0, Mfdy = 0, Mfdz = 0;
 };
 
 /// A governing shear check or, without a position, the lateral check.
@@ -83,8 +88,25 @@ struct BucklingResults {
   number ky, kz, klt;       ///< moment factors
 };
 
+/// One segment between lateral restraints, or the whole member, as its lateral resistance was
+/// worked out.
+struct LtbSegmentResult {
+  int segment = 0;        ///< from 0
+  double M1 = 0, M2 = 0;  ///< kNm, moments at its ends
+  double C1 = 0, C3 = 0;
+  double D = 0;      ///< mm, term of load level and asymmetry
+  double sigma = 0;  ///< MPa, critical stress of plate carried families, else 0
+  double Mcr = 0;    ///< N*mm, 0 where a family has a stress instead
+  double alfa = 0;   ///< imperfection factor
+  double beta = 0;   ///< factor on the plastic modulus
+  double lamLT = 0, chiLT = 0;
+  double Mdb = 0;  ///< kNm
+};
+
 /// Results of the lateral torsional buckling step.
 struct LtbResults {
+  LtbSegmentResult governing;  ///< the segment of Mdb
+  LtbSegmentResult least;      ///< the segment of chiLT_min
   number C1, C2, C3;
   number zg;   ///< mm, load level in the formula
   number Lk;   ///< m, buckling length

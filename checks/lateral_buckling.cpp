@@ -96,29 +96,42 @@ struct Segment {
   double Lmm, alpha;
 };
 
-/// Mcr, lamLT, chiLT of the segment and the level term C2*zg; returns the design moment in
-/// kNm.
-double DesignMoment(const LateralRule& rule, const ProjectState& st, const SectionRecord& rec,
-                    double level, const Signs& signs, const Segment& segment, LtbResults& ltb) {
-  double w = rec.betay;
+/// Mcr, lamLT, chiLT of the segment and the level term C2*zg, with the way there; Mdb in kNm.
+LtbSegmentResult DesignMoment(const LateralRule& rule, const ProjectState& st,
+                              const SectionRecord& rec, double level, const Signs& signs,
+                              const Segment& segment, LtbResults& ltb) {
+  LtbSegmentResult s;
+  s.C1 = ltb.C1;
+  s.C3 = ltb.C3;
+  s.beta = rec.betay;
   if (IsPlate(rule.method)) {
-    w = signs.plateOnly ? rec.betaTop : rec.betaBottom;
+    s.beta = signs.plateOnly ? rec.betaTop : rec.betaBottom;
     ltb.chiLT = 1;
     if (!signs.plateOnly) {
       const PlateReduced reduced = PlateReduction(rule.method, st, rec, segment.Lmm);
       ltb.lamLT = reduced.lamLT;
       ltb.chiLT = reduced.chiLT;
+      s.sigma = reduced.sigma;
+      s.lamLT = ltb.lamLT;
     }
-    return MomentOf(st, ltb.chiLT * w * rec.Wply);
+    s.chiLT = ltb.chiLT;
+    s.Mdb = MomentOf(st, s.chiLT * s.beta * rec.Wply);
+    return s;
   }
   if (rule.method == LateralMethod::SinglySymmetric) {
-    w = signs.topCompressed ? rec.betaTop : rec.betaBottom;
+    s.beta = signs.topCompressed ? rec.betaTop : rec.betaBottom;
     level -= ltb.C3 * (signs.topCompressed ? rec.zjTop : rec.zjBottom);
   }
   ltb.Mcr = CriticalMoment(st, rec, ltb.C1, level, segment.Lmm);
-  ltb.lamLT = std::sqrt(w * rec.Wply * st.fyk / ltb.Mcr);
+  ltb.lamLT = std::sqrt(s.beta * rec.Wply * st.fyk / ltb.Mcr);
   ltb.chiLT = Reduction(ltb.lamLT, segment.alpha);
-  return MomentOf(st, ltb.chiLT * w * rec.Wply);
+  s.alfa = segment.alpha;
+  s.D = level;
+  s.Mcr = ltb.Mcr;
+  s.lamLT = ltb.lamLT;
+  s.chiLT = ltb.chiLT;
+  s.Mdb = MomentOf(st, s.chiLT * s.beta * rec.Wply);
+  return s;
 }
 
 void ClassifyFor(const Family& family, const ProjectState& st, double My, SectionForces& f,
@@ -174,8 +187,12 @@ void LtbNoRestraints(const Family& family, ProjectState& st, SectionForces& f, S
   }
   ltb.Lk = st.L * st.k_ltb;
   const Signs signs{middle > 0, middle >= 0 && z.M_q[0] >= 0 && z.M_q[4] >= 0};
-  ltb.Mdb = DesignMoment(family.lateral, st, rec, ltb.C2 * ltb.zg, signs,
-                         {ltb.Lk * 1000, family.lateral.alpha}, ltb);
+  ltb.governing = DesignMoment(family.lateral, st, rec, ltb.C2 * ltb.zg, signs,
+                               {ltb.Lk * 1000, family.lateral.alpha}, ltb);
+  ltb.governing.M1 = z.M[0];
+  ltb.governing.M2 = z.M[50];
+  ltb.least = ltb.governing;
+  ltb.Mdb = ltb.governing.Mdb;
   ltb.Mdb_min = ltb.Mdb;
   ltb.chiLT_min = ltb.chiLT;
   if (st.LateralTorsionalBuckling == 0) {
@@ -211,6 +228,8 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
   ltb.Mdb_min = 1E16;
   ltb.chiLT_min = 1;
   ltb.C2 = 0;
+  ltb.governing = {};
+  ltb.least = {};
   ltb.Lk = st.k_ltb * st.L / (n + 1);
   double worst = 0;
   double C1 = 0;
@@ -231,8 +250,12 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
     ltb.C3 = c.C3;
     ClassifyFor(family, st, (M1 + M2) / 2, f, rec);
     const Signs signs{(M1 + M2) / 2 > 0, M1 >= 0 && M2 >= 0};
-    const double Mseg = DesignMoment(family.lateral, st, rec, 0, signs,
-                                     {ltb.Lk * 1000, family.lateral.alphaRestrained}, ltb);
+    LtbSegmentResult segment = DesignMoment(family.lateral, st, rec, 0, signs,
+                                            {ltb.Lk * 1000, family.lateral.alphaRestrained}, ltb);
+    segment.segment = g;
+    segment.M1 = M1;
+    segment.M2 = M2;
+    const double Mseg = segment.Mdb;
     const double Ms = SegmentMoment(M, i1, i2, IsPlate(family.lateral.method));
     const double ratio = std::fabs(Ms / Mseg);
     if (ratio >= worst) {  // a later segment wins a tie
@@ -242,10 +265,12 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
       C1 = c.C1;
       C3 = c.C3;
       st.LtbCriticalSegment = g;
+      ltb.governing = segment;
     }
     if (ltb.chiLT <= ltb.chiLT_min) {
       ltb.chiLT_min = ltb.chiLT;
       ltb.Mdb_min = Mseg;
+      ltb.least = segment;
     }
   }
   ltb.C1 = C1;
@@ -268,7 +293,7 @@ PlateReduced PlateReduction(LateralMethod method, const ProjectState& st, const 
   }
   const double lam = number(std::sqrt(st.fyk / sigma));
   const double a = 1 + (lam - 0.6) * 0.35 + lam * lam;
-  return {lam, lam <= 0.6 ? 1 : (a - std::sqrt(a * a - 4 * lam * lam)) / (2 * lam * lam)};
+  return {sigma, lam, lam <= 0.6 ? 1 : (a - std::sqrt(a * a - 4 * lam * lam)) / (2 * lam * lam)};
 }
 
 SegmentFactors FactorsOfSegment(double r, double k) {

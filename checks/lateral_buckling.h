@@ -22,10 +22,10 @@ struct SegmentFactors {
 };
 SegmentFactors FactorsOfSegment(double r, double k);
 
-/// Slenderness and reduction of a plate carried stiffener that is compressed, over the length in
-/// mm; reads the record's h, tw, tf, tf2, Afc, Afw and Iz. Throws ArithmeticFault.
+/// Stress (MPa), slenderness and reduction of a plate carried stiffener that is compressed, over
+/// the length in mm; reads the record's h, tw, tf, tf2, Afc, Afw and Iz. Throws ArithmeticFault.
 struct PlateReduced {
-  double lamLT, chiLT;
+  double sigma, lamLT, chiLT;
 };
 PlateReduced PlateReduction(LateralMethod method, const ProjectState& st, const SectionRecord& rec,
                             double Lmm);

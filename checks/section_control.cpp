@@ -113,6 +113,8 @@ private:
     const int sideClass = top ? rec_.classTop : rec_.classBottom;
     const double m = std::fabs(f_.My) / Mvd;
     capacityY_ = Mvd;
+    unshearedY_ = top ? rec_.MdyTop : rec_.MdyBottom;
+    betaY_ = top ? rec_.betaTop : rec_.betaBottom;
     Take(m, Term::My, 0, sideClass);
     if (style_.axial && f_.N != 0) {
       const double Nd = AxialCapacity();
@@ -127,6 +129,8 @@ private:
     if (!my && !mz) return;
     const bool exact = st_.SectionControlMode != 0 && rec_.class_ <= 2;
     capacityY_ = rec_.Mvdy;
+    unshearedY_ = rec_.Mdy;
+    betaY_ = rec_.betay;
     const double ry = my ? f_.My / rec_.Mvdy : 0;
     const double rz = mz ? f_.Mz / rec_.Mvdz : 0;
     const bool alone = !style_.pureMomentsOnly || !n;
@@ -178,6 +182,17 @@ private:
     s.Vy = f_.Vy;
     s.Vdz = rec_.Vdz;
     s.Vdy = rec_.Vdy;
+    s.sectionClass = sectionClass;
+    s.betay = betaY_;
+    s.betaz = rec_.betaz;
+    s.Mdy = unshearedY_;
+    s.Mdz = rec_.Mdz;
+    s.Mndy = rec_.Mndy;
+    s.Mndz = rec_.Mndz;
+    s.Mndypl = rec_.Mndypl;
+    s.Mndzpl = rec_.Mndzpl;
+    s.Mfdy = rec_.Mfdy;
+    s.Mfdz = rec_.Mfdz;
   }
 
   const Family& family_;
@@ -188,7 +203,7 @@ private:
   CheckResults& out_;
   const Style style_;
   double x_ = 0;
-  double capacityY_ = 0;
+  double capacityY_ = 0, unshearedY_ = 0, betaY_ = 0;
   bool standing_ = false;         ///< the record has the capacities without shear ...
   std::array<int, 3> classes_{};  ///< ... of these classes
 };
@@ -234,6 +249,7 @@ void AngleControl(const ProjectState& st, const BeamResults& beam, bool equalLeg
       s.Mvdy = Mud[corner - 1];
       s.Mvdz = Mvd[corner - 1];
       s.corner = corner;
+      s.sectionClass = rec.class_;
     }
     // A slip that is kept: the shear along z compares with IRvz but is stored in IRvy, so IRvz
     // stays 0, the line is rewritten at every point and its colour never turns.

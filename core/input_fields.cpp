@@ -396,6 +396,27 @@ void PutInput(S& st, const InputRef& input, double value) {
   Store(st, input, value);
 }
 
+std::string ReadText(const S& st, const InputRef& input) {
+  const auto* member = std::get_if<std::string S::*>(&input.field->member);
+  return member == nullptr ? std::string() : st.**member;
+}
+
+void StoreText(S& st, const InputRef& input, const std::string& text) {
+  if (const auto* member = std::get_if<std::string S::*>(&input.field->member)) st.** member = text;
+}
+
+void CopyInput(const S& from, S& to, const InputRef& input) {
+  std::visit(
+      [&](auto member) {
+        if constexpr (kIsArray<std::remove_cvref_t<decltype(to.*member)>>) {
+          (to.*member)[input.element] = (from.*member)[input.element];
+        } else {
+          to.*member = from.*member;
+        }
+      },
+      input.field->member);
+}
+
 Limit LimitOf(const S& st, const InputRef& input) {
   return InForce(input.field->limit, st);
 }

@@ -59,6 +59,13 @@ double ReadInput(const ProjectState& st, const InputRef& input);
 /// ArithmeticFault for a value that the field can't hold.
 void PutInput(ProjectState& st, const InputRef& input, double value);
 
+/// The text of an input; empty for a number, and StoreText stores none there.
+std::string ReadText(const ProjectState& st, const InputRef& input);
+void StoreText(ProjectState& st, const InputRef& input, const std::string& text);
+
+/// Copies one input from another state, as it is stored.
+void CopyInput(const ProjectState& from, ProjectState& to, const InputRef& input);
+
 /// The limit of an input as it stands for this state.
 Limit LimitOf(const ProjectState& st, const InputRef& input);
 

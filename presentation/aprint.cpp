@@ -2,6 +2,7 @@
 #include "presentation/aprint.h"
 
 #include "core/text.h"
+#include "presentation/checker_sheet.h"
 #include "presentation/figures.h"
 #include "presentation/page.h"
 #include "sections/p23bas.h"
@@ -10,8 +11,14 @@
 namespace korvane {
 
 const char* ReportTitle(Report report) {
-  return report == Report::SectionProperty ? "Section Property and Capacity"
-                                           : "Section and Stability Control";
+  switch (report) {
+    case Report::SectionProperty:
+      return "Section Property and Capacity";
+    case Report::Checker:
+      return "Numbers for the Checker";
+    default:
+      return "Section and Stability Control";
+  }
 }
 
 namespace {
@@ -46,6 +53,8 @@ void DrawReport(DrawingTarget& page, Report report, const Design& design, const 
   const double line = DrawPageFrame(page, design, time);
   if (report == Report::SectionProperty) {
     DrawSectionReport(page, line, design);
+  } else if (report == Report::Checker) {
+    DrawCheckerSheet(page, line, design);
   } else {
     DrawControlReport(page, line, design);
   }

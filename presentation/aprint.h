@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The two printed reports, each on one A4 page with a fixed frame.
+// The two printed reports and the checker's sheet, each on one A4 page with a fixed frame.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ namespace korvane {
 inline constexpr double kPageWidth = 595.276;
 inline constexpr double kPageHeight = 841.890;
 
-enum class Report { SectionProperty = 0, SectionAndStability = 1 };
+enum class Report { SectionProperty = 0, SectionAndStability = 1, Checker = 2 };
 
 /// Local date and time of the print.
 struct ReportTime {

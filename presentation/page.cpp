@@ -37,10 +37,6 @@ void PutValue(DrawingTarget& t, double column, double line, std::string_view nam
 
 namespace {
 
-std::string Two(int v) {
-  return (v < 10 ? "0" : "") + std::to_string(v);
-}
-
 /// Shortens a text with dots until it fits the width.
 std::string Shortened(const DrawingTarget& t, std::string text, double width) {
   while (!text.empty() && t.TextWidth(text + "...") > width) {
@@ -53,18 +49,26 @@ std::string Shortened(const DrawingTarget& t, std::string text, double width) {
   return text + "...";
 }
 
-/// Text in a field of the frame: a long one takes smaller letters, and only then loses its end.
+}  // namespace
+
 void PutFitted(DrawingTarget& t, double column, double line, const std::string& text,
                double width) {
-  constexpr double leastLetters = 0.68;
+  if (t.TextWidth(text) <= width) return PutText(t, column, line, text);
   const double size = t.FontSize;
-  const double share = std::clamp(width / std::max(t.TextWidth(text), width), leastLetters, 1.0);
+  const double least = std::min(1.0, kLeastSize / size);
+  const double share = std::max(width / t.TextWidth(text), least);
   const double foot = line + t.TextHeight();
   t.FontSize = size * share;
   const bool fits = t.TextWidth(text) <= width * 1.0001;
   const double top = foot - t.TextHeight() - (1 - share) * 0.2 * t.TextHeight();
   PutText(t, column, top, fits ? text : Shortened(t, text, width));
   t.FontSize = size;
+}
+
+namespace {
+
+std::string Two(int v) {
+  return (v < 10 ? "0" : "") + std::to_string(v);
 }
 
 /// The end of a path matters more than its beginning.

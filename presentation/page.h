@@ -19,6 +19,7 @@ inline constexpr double kRightEdge = kPageColumns - 0.06 * kPageColumns;
 inline constexpr double kLineStep = 1.0;
 inline constexpr double kBodySize = 8;    ///< pt
 inline constexpr double kFrameSize = 11;  ///< pt
+inline constexpr double kLeastSize = 6;   ///< pt, letters are never smaller
 
 /// Column stops of the body.
 inline constexpr double kC1 = kMargin;
@@ -31,6 +32,9 @@ void PutText(DrawingTarget& t, double column, double line, std::string_view text
 void PutHeading(DrawingTarget& t, double column, double line, std::string_view text);
 /// Text whose right end stands at the column.
 void PutRight(DrawingTarget& t, double column, double line, std::string_view text);
+/// Text in a field: a long one takes smaller letters, and only then loses its end, which "..."
+/// stands for.
+void PutFitted(DrawingTarget& t, double column, double line, const std::string& text, double width);
 /// name "=" value unit, the value right aligned; the width of the block is 26 columns.
 void PutValue(DrawingTarget& t, double column, double line, std::string_view name,
               std::string_view value, std::string_view unit);

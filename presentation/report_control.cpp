@@ -2,7 +2,6 @@
 // The body of the report "Section and Stability Control": every block has its place on the page,
 // so that a member with all loads in use stays on one sheet.
 #include <algorithm>
-#include <array>
 #include <vector>
 
 #include "analysis/loads.h"
@@ -44,26 +43,15 @@ struct LoadRow {
   std::string load, value, position, category;
 };
 
-using S = ProjectState;
-struct LineLoad {
-  float32 S::*q;
-  int16 S::*pv;
-  int16 S::*yz;
-};
-constexpr std::array<LineLoad, 4> kLines{{{&S::q1, &S::q1_pv, &S::q1_yz},
-                                          {&S::q2, &S::q2_pv, &S::q2_yz},
-                                          {&S::q3, &S::q3_pv, &S::q3_yz},
-                                          {&S::q4, &S::q4_pv, &S::q4_yz}}};
-
 /// The loads of one direction that are not 0: line loads, point items, trapezoids.
 std::vector<LoadRow> LoadRows(const ProjectState& st, bool z) {
   std::vector<LoadRow> rows;
   const auto value = [](double v) { return Format(v, "##0.0"); };
   const auto position = [](double x) { return Format(x, "##0.000"); };
-  for (std::size_t k = 0; k < kLines.size(); ++k) {
-    const LineLoad& l = kLines[k];
+  for (int n = 1; n <= 4; ++n) {
+    const LineLoad& l = LineLoadOf(n);
     if (st.*l.q == 0 || (st.*l.yz != 0) != z) continue;
-    rows.push_back({"q " + std::to_string(k + 1), value(st.*l.q), "", Category(st.*l.pv)});
+    rows.push_back({"q " + std::to_string(n), value(st.*l.q), "", Category(st.*l.pv)});
   }
   for (int i = 1; i <= 8; ++i) {
     if (st.pm[i] == 0) continue;

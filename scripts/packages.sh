@@ -34,6 +34,6 @@ fail() {
 
 BUILD_PACKAGES="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev"
 DESKTOP_PACKAGES="qt6-base-dev qt6-base-dev-tools qt6-svg-dev libgl-dev fonts-liberation"
-TEST_PACKAGES="libgtest-dev libbenchmark-dev poppler-utils xvfb xdotool strace"
+TEST_PACKAGES="libgtest-dev libbenchmark-dev poppler-utils xvfb xdotool strace fonts-dejavu-core"
 DISPLAY_PACKAGES="xvfb openbox"
 BOOK_PACKAGES="chromium fonts-lmodern poppler-utils python3"

@@ -39,16 +39,48 @@ void CalculateOpened(Design& design, Lines lines) {
   lines == Lines::Composed ? Calculate(design) : CalculateNumbers(design);
 }
 
+/// The steps of a calculation whose results stand apart, in order.
+enum Stage { kForces, kSection, kLateral, kChecks, kBuckling, kComplete };
+
+/// The stage that a failing step belongs to; its results and those behind it are not reached.
+Stage StageOf(const std::string& step) {
+  if (step == "AnalyseBeam") return kForces;
+  if (step == "LateralTorsionalBuckling") return kLateral;
+  if (step == "ChooseBucklingCurves" || step == "SectionControl") return kChecks;
+  if (step == "BucklingControl") return kBuckling;
+  const bool behind = step == "MaxIR" || step == "Deflections" || step == "ModalAnalysis";
+  return behind ? kComplete : kSection;
+}
+
+/// The ratios without the lines, which are composed last of all.
+CheckResults WithoutLines(CheckResults c) {
+  for (CheckLine* line : {&c.lineSection, &c.lineVz, &c.lineVy, &c.lineLateral, &c.lineBucklingY,
+                          &c.lineBucklingZ, &c.lineSlenderness}) {
+    *line = {};
+  }
+  return c;
+}
+
 /// The results as far as the calculation of this member got, every other one empty: those that
 /// stand from the start are another member's.
-void KeepOwnResults(const ProjectState& opened, Design& design) {
+void KeepOwnResults(const ProjectState& opened, const std::string& step, Design& design) {
   Design own(design.lib);
   own.st = opened;
+  std::string stopped;
   try {
     CalculateOpened(own, Lines::Composed);
-    own = Design(design.lib);  // the failure hangs on what another section left: nothing is known
-  } catch (const CalculationFault&) {
-    // The same failure: what was reached stands.
+  } catch (const CalculationFault& fault) {
+    stopped = fault.Step();
+  }
+  if (stopped != step) {  // the failure hangs on what another section left in the record
+    const Stage stage = StageOf(step);
+    own = Design(design.lib);
+    if (stage > kForces) own.beam = design.beam;
+    if (stage > kForces) own.forces = design.forces;
+    if (stage > kSection) own.rec = design.rec;
+    if (stage > kLateral) own.ltb = design.ltb;
+    if (stage > kChecks) own.checks = WithoutLines(design.checks);
+    if (stage > kBuckling) own.buckling = design.buckling;
   }
   own.st = std::move(design.st);
   own.messages = std::move(design.messages);
@@ -63,7 +95,7 @@ MemberRun Run(const ProjectState& opened, Design& design, Lines lines) {
   } catch (const CalculationFault& fault) {
     run.fault = fault.Step();
     run.what = fault.what();
-    KeepOwnResults(opened, design);
+    KeepOwnResults(opened, fault.Step(), design);
   }
   return run;
 }

@@ -5,8 +5,8 @@
 #include <regex>
 #include <vector>
 
+#include "front/named_session.h"
 #include "front/platform.h"
-#include "front/session.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
@@ -116,13 +116,13 @@ std::string FieldTable(const Form& form, const Session& s, const ProjectState& n
     if (c.kind != Kind::Input) continue;
     std::string accepted = c.field.IsNumber() ? "any number" : "any text";
     std::string message;
-    if (c.field.IsNumber() && HasLimit(c.field.input.field->limit)) {
+    if (c.field.Limited()) {
       const Limit& limit = c.field.input.field->limit;
       accepted = RangeWords(InForce(limit, newProject)) + (limit.follows != nullptr ? " *" : "");
       message = Messages(limit, newProject);
     }
-    rows += Row({Code(c.name), Escaped(Caption(c.caption)), Escaped(c.unit),
-                 Escaped(s.Text(form.name + "." + c.name)), accepted, message});
+    rows += Row({Code(c.name), Escaped(Caption(c.caption)), Escaped(c.unit), Escaped(s.Text(c)),
+                 accepted, message});
   }
   if (rows.empty()) return {};
   return "<table>\n" +
@@ -131,15 +131,15 @@ std::string FieldTable(const Form& form, const Session& s, const ProjectState& n
 }
 
 /// What stands on the control, or what it holds.
-std::string Words(const Control& c, const std::string& key, const Session& s) {
+std::string Words(const Control& c, const Session& s) {
   std::string words = Escaped(Caption(c.caption));
   const auto add = [&words](const std::string& more) {
     words += (words.empty() ? "" : "; ") + more;
   };
   if (!c.tip.empty()) add(Escaped(Trimmed(c.tip)));
-  if (c.kind == Kind::Picture && c.text) add("a code, at first " + Code(s.Text(key)));
+  if (c.kind == Kind::Picture && c.text) add("a code, at first " + Code(s.Text(c)));
   if (c.kind != Kind::List) return words;
-  const std::vector<std::string> items = s.Items(key);
+  const std::vector<std::string> items = s.Items(c);
   if (items.empty()) {
     add("empty at first");
   } else {
@@ -157,7 +157,7 @@ std::string OtherControls(const Form& form, const Session& s) {
     const char* kind = KindWord(c.kind);
     if (kind == nullptr) continue;
     if (c.kind != Kind::Option) frame.clear();
-    rows += Row({Code(c.name), kind, frame + Words(c, form.name + "." + c.name, s)});
+    rows += Row({Code(c.name), kind, frame + Words(c, s)});
   }
   if (rows.empty()) return {};
   return "<table>\n" + Row({"Control", "Kind", "What stands on it or what it holds"}, "th") + rows +
@@ -191,13 +191,12 @@ std::string TitleOf(const Form& form, const Session& s) {
 /// One form with the values of a new project in its fields.
 std::string FormSection(const Form& form, const std::shared_ptr<const Library>& library) {
   Platform platform;
-  Session s(library, platform, false);
+  NamedSession s(library, platform, false);
   s.Start();
   const ProjectState newProject = s.st();
   s.Focus("korvane");
   if (const Family* family = FamilyOfForm(form.name)) s.st().ProfileType = family->code;
   if (form.name != "korvane") s.Show(form.name);
-  s.Fill(form.name);
   const std::string body = FieldTable(form, s, newProject) + OtherControls(form, s) +
                            (form.name == "korvane" ? Commands(form) : "");
   if (body.empty()) return {};

@@ -25,7 +25,7 @@ struct BatchOptions {
 
 /// How the projects came out.
 struct BatchCounts {
-  std::size_t pass = 0, fail = 0, notChecked = 0, fault = 0, unread = 0;
+  std::size_t pass = 0, fail = 0, fault = 0, unread = 0, notChecked = 0;
   void Add(const BatchCounts& other);
   std::size_t All() const { return pass + fail + notChecked + fault + unread; }
   /// 2 when a file couldn't be read, else 3 when a calculation stopped, else 1 when a member

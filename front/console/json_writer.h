@@ -94,6 +94,7 @@ private:
   void Value(const number& v) { Value(double(v)); }
   void Value(const int16& v) { Value(int(v)); }
   void Value(std::string_view v);
+  void Value(const char* v) { Value(std::string_view(v)); }
   void Value(const std::string& v) { Value(std::string_view(v)); }
   void Value(const char* v) { Value(std::string_view(v)); }
   template <std::same_as<bool> Bool>

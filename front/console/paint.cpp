@@ -145,7 +145,7 @@ int Finish(const PaintJob& job, const Arguments& a, Format onStandardOutput) {
     return kBadInput;
   }
   if (*format != Format::Pdf && job.pages.size() > 1 && a.output == kStandardStream) {
-    std::cerr << "two pictures need two files - name them with -o\n";
+    std::cerr << "several pictures need several files - name them with -o\n";
     return kBadInput;
   }
   std::vector<Made> made;
@@ -163,6 +163,30 @@ int Finish(const PaintJob& job, const Arguments& a, Format onStandardOutput) {
   return kAllPass;
 }
 
+/// The sheets behind a word.
+struct Sheets {
+  const char* word;
+  std::vector<Report> reports;
+};
+
+const std::vector<Sheets>& AllSheets() {
+  using enum Report;
+  static const std::vector<Sheets> all{
+      {"section", {SectionProperty}},
+      {"control", {SectionAndStability}},
+      {"checker", {Checker}},
+      {"both", {SectionProperty, SectionAndStability}},
+      {"all", {SectionProperty, SectionAndStability, Checker}},
+  };
+  return all;
+}
+
+const std::vector<Report>& ReportsOf(const std::string& kind) {
+  const auto& all = AllSheets();
+  return std::find_if(all.begin(), all.end(), [&](const Sheets& s) { return kind == s.word; })
+      ->reports;
+}
+
 int RunReport(const Arguments& a) {
   Design design = StartedDesign(ReadLibrary(FindDataFolder(a.data)));
   if (const int status = Prepare(a, design)) return status;
@@ -170,9 +194,7 @@ int RunReport(const Arguments& a) {
   job.width = kPageWidth;
   job.height = kPageHeight;
   const ReportTime time = Now();
-  for (const Report report : {Report::SectionProperty, Report::SectionAndStability}) {
-    const bool section = report == Report::SectionProperty;
-    if (a.kind != "both" && (a.kind == "section") != section) continue;
+  for (const Report report : ReportsOf(a.kind)) {
     job.title = ReportTitle(report);
     job.pages.emplace_back(
         [&design, report, time](DrawingTarget& page) { DrawReport(page, report, design, time); });
@@ -269,10 +291,13 @@ void AddPaintCommands(CLI::App& app, int& status) {
   };
   CLI::App* report = app.add_subcommand("report", "write a report of the project");
   common(report);
+  std::vector<std::string> kinds;
+  for (const Sheets& s : AllSheets()) kinds.emplace_back(s.word);
   report
       ->add_option("--kind", a->kind,
-                   "section, control, or both: two pages of a PDF, or OUT-1 and OUT-2")
-      ->check(CLI::IsMember({"section", "control", "both"}));
+                   "section, control, checker (every number unrounded), both reports, or all "
+                   "sheets: the pages of a PDF, or OUT-1, OUT-2 and OUT-3")
+      ->check(CLI::IsMember(kinds));
   report->callback([a, &status] { status = RunReport(*a); });
 
   CLI::App* draw = app.add_subcommand("draw", "write a diagram or the section's figure");

@@ -9,7 +9,7 @@
 #include "front/console/design_json.h"
 #include "front/console/exit_status.h"
 #include "front/console/nearest.h"
-#include "front/session.h"
+#include "front/named_session.h"
 
 namespace korvane {
 
@@ -163,11 +163,11 @@ private:
   }
   void Open(const std::string& path) {
     platform_.AnswerAtOnce(path);
-    session_.OpenCommand();
+    session_.files().Open();
   }
   void Save(const std::string& path) {
     platform_.AnswerAtOnce(path);
-    session_.SaveAsCommand();
+    session_.files().SaveAs();
   }
   void Answer(const std::string& path) {
     platform_.Answer(path == "cancel" ? std::nullopt : std::optional<std::string>(path));
@@ -216,7 +216,7 @@ private:
 
   std::ostream& out_;
   ScriptPlatform platform_;
-  Session session_;
+  NamedSession session_;
   Named named_ = Named::Nothing;
   std::string name_;
   int focusings_ = 0;

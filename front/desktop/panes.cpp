@@ -117,18 +117,15 @@ ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent), unit_(new QLabel(paren
   unit_->setForegroundRole(QPalette::PlaceholderText);
 }
 
-void ValueLabel::ShowValue(const QString& text) {
-  const auto blank = text.indexOf(QLatin1Char(' '));
-  const QString value = blank < 0 ? text : text.left(blank);
-  const QString rest = blank < 0 ? QString() : text.mid(blank + 1);
-  if (this->text() != value) setText(value);
-  if (unit_->text() != rest) unit_->setText(rest);
+void ValueLabel::ShowValue(const QString& text, const QString& unit) {
+  if (this->text() != text) setText(text);
+  if (unit_->text() != unit) unit_->setText(unit);
 }
 
 // --- Figure -------------------------------------------------------------------------------------
 
-FigurePane::FigurePane(const Session& session, std::string form, QWidget* parent)
-    : Pane(session, parent), form_(std::move(form)) {
+FigurePane::FigurePane(const Session& session, const Form& form, QWidget* parent)
+    : Pane(session, parent), form_(form) {
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::TabFocus);
   setMinimumSize(Ems(this, 14), Ems(this, 13));
@@ -142,11 +139,8 @@ void FigurePane::Draw(QPainter& painter) {
   PainterTarget target(painter, width(), height(), rect(), DrawingColours(palette()));
   target.FontSize = Ems(this, 0.85);
   FigureOptions options;
-  const std::string& field = session_.FocusedField();
-  if (field.rfind(form_ + ".", 0) == 0) {
-    const Control* c = FindControl(*FindForm(form_), field.substr(form_.size() + 1));
-    if (c != nullptr) options.highlight = c->caption.substr(0, c->caption.find(' '));
-  }
+  const Control* field = session_.FocusedField();
+  if (field != nullptr && field->form == &form_) options.highlight = field->letter;
   DrawSectionFigure(target, {0, 0, double(width()), double(height())}, Destination::Page,
                     session_.st(), session_.design().rec, options);
 }
@@ -175,6 +169,14 @@ void VerdictPane::Refresh() {
   setAccessibleName(tr("Greatest IR %1 %2").arg(figure_, word_));
   setToolTip(tr("Greatest utilisation ratio of all checks; the limit is %1")
                  .arg(QString::fromStdString(session_.Shown(d.st.iufa, "#0.00"))));
+  // Nobody's numbers stand under another's title.
+  if (const std::string why = session_.NotCalculated(); !why.empty()) {
+    role_ = Role::Quiet;
+    figure_ = QStringLiteral("-");
+    word_ = tr("not calculated");
+    setAccessibleName(QString::fromStdString(why));
+    setToolTip(QString::fromStdString(why));
+  }
   update();
 }
 

@@ -53,8 +53,7 @@ class ValueLabel : public QLabel {
 
 public:
   explicit ValueLabel(QWidget* parent = nullptr);
-  /// Value and unit as the session gives them, a blank between them.
-  void ShowValue(const QString& text);
+  void ShowValue(const QString& text, const QString& unit);
   QLabel* unit() { return unit_; }
 
 private:
@@ -67,14 +66,14 @@ class FigurePane : public Pane {
 
 public:
   /// form: the form whose fields light up their letters.
-  FigurePane(const Session& session, std::string form, QWidget* parent = nullptr);
+  FigurePane(const Session& session, const Form& form, QWidget* parent = nullptr);
   QSize sizeHint() const override;
 
 protected:
   void Draw(QPainter& painter) override;
 
 private:
-  std::string form_;
+  const Form& form_;
 };
 
 /// The result lines as the views compose them, each ratio with a bar to its limit.
@@ -82,8 +81,8 @@ class ResultPane : public Pane {
   Q_OBJECT
 
 public:
-  enum class Form { Short, Long };
-  ResultPane(const Session& session, Form form, QWidget* parent = nullptr);
+  enum class Length { Short, Long };
+  ResultPane(const Session& session, Length length, QWidget* parent = nullptr);
   void Refresh() override;
   /// The lines as text, as the context menu copies them.
   QStringList Lines() const;
@@ -107,7 +106,7 @@ private:
   QFont FontOf(const TextRun& run, bool fails) const;
   double TabAfter(double x) const;
   double WidthOf(const ViewLine& line) const;
-  Form form_;
+  Length length_;
   View view_;
   double rows_ = 1;  ///< height of the lines, in rows
   double bars_ = 0;  ///< left end of the bars

@@ -57,19 +57,20 @@ constexpr double kTightRow = 1.1;
 
 }  // namespace
 
-ResultPane::ResultPane(const Session& session, Form form, QWidget* parent)
-    : Pane(session, parent), form_(form) {
+ResultPane::ResultPane(const Session& session, Length length, QWidget* parent)
+    : Pane(session, parent), length_(length) {
   setFocusPolicy(Qt::TabFocus);
   Refresh();
 }
 
 QSize ResultPane::sizeHint() const {
-  return {Ems(this, form_ == Form::Short ? 36 : 60), Ems(this, form_ == Form::Short ? 15 : 22)};
+  return {Ems(this, length_ == Length::Short ? 36 : 60),
+          Ems(this, length_ == Length::Short ? 15 : 22)};
 }
 
 double ResultPane::RowHeight() const {
   const double letters = QFontMetricsF(font()).height();
-  if (form_ == Form::Long) return letters * kRow;
+  if (length_ == Length::Long) return letters * kRow;
   return std::clamp(height() / rows_, letters * kTightRow, letters * kRow);
 }
 
@@ -80,7 +81,7 @@ View ResultPane::Composed() const {
   const auto append = [&view](const View& more) {
     view.insert(view.end(), more.begin(), more.end());
   };
-  if (form_ == Form::Short) {
+  if (length_ == Length::Short) {
     append(SectionControlShort(d.st, d.checks));
     if (buckling) append(BucklingShort(d.st, d.checks, d.buckling));
     return view;
@@ -111,12 +112,12 @@ void ResultPane::Measure() {
   double widest = 0;
   for (const ViewLine& line : view_) widest = std::max(widest, WidthOf(line));
   setMinimumWidth(qRound(widest) + Ems(this, 1));
-  const double row = form_ == Form::Long ? kRow : kTightRow;
+  const double row = length_ == Length::Long ? kRow : kTightRow;
   setMinimumHeight(qRound(rows_ * row * QFontMetricsF(font()).height()));
 }
 
 void ResultPane::FitLetters() {
-  if (form_ == Form::Long || parentWidget() == nullptr) return;
+  if (length_ == Length::Long || parentWidget() == nullptr) return;
   // The room is the parent's: the pane itself is never narrower than its lines.
   QFont fitted = parentWidget()->font();
   const double height = QFontMetricsF(fitted).height();
@@ -202,7 +203,7 @@ void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
   if (value == nullptr || !HasRatio(line)) return;
   const double start = bars_;
   const double bar = std::min(width() - start - Ems(this, 0.9), Ems(this, kMostBarEms) * 1.0);
-  if (form_ == Form::Long || bar < Ems(this, kBarEms) || start < x) return;
+  if (length_ == Length::Long || bar < Ems(this, kBarEms) || start < x) return;
   const auto ratio = ParseNumber(value->text, false);
   const double share = std::clamp(ratio ? double(*ratio) / session_.st().iufa : 0.0, 0.0, 1.0);
   const QFontMetricsF metrics(font());
@@ -233,7 +234,11 @@ void ResultPane::keyPressEvent(QKeyEvent* event) {
 }
 
 void ResultPane::Copy() const {
-  QApplication::clipboard()->setText(Lines().join(QLatin1Char('\n')));
+  QStringList lines = Lines();
+  if (const std::string why = session_.NotCalculated(); !why.empty()) {
+    lines.prepend(QString::fromStdString(why));
+  }
+  QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
 }
 
 }  // namespace korvane

@@ -9,6 +9,7 @@
 
 #include "../design/designs.h"
 #include "checks/results.h"
+#include "sections/profile_table.h"
 
 namespace korvane {
 namespace {

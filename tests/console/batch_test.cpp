@@ -57,7 +57,21 @@ Strings Fields(const std::string& line) {
   return fields;
 }
 
-enum Column { kFile, kSection, kWeight, kMaxIR, kGoverning, kText, kDeflection, kStatus, kError };
+enum Column {
+  kFile,
+  kSection,
+  kWeight,
+  kMaxIR,
+  kGoverning,
+  kText,
+  kDeflection,
+  kStatus,
+  kError,
+  kStanding,
+  kSls,
+  kNotes,
+  kOptimised
+};
 
 Strings LineOf(const std::string& path, bool optimise = false) {
   const Strings lines = Lines(Table({path}, 1, optimise));
@@ -110,7 +124,7 @@ TEST(Batch, ALineHoldsTheResultsOfTheDesign) {
   Design design = StartedDesign(SourceLibrary());
   RunProject(design, path);
   const Strings line = LineOf(path);
-  ASSERT_EQ(line.size(), 9U);
+  ASSERT_EQ(line.size(), 12U);
   EXPECT_EQ(line[kFile], path);
   EXPECT_EQ(line[kSection], SectionTitle(design.st, design.lib->catalogues));
   EXPECT_EQ(std::stof(line[kWeight]), design.rec.S.Single());
@@ -149,6 +163,30 @@ TEST(Batch, AFailingCheckFails) {
   const Strings line = LineOf(folder / "a.kvn");
   EXPECT_EQ(line[kStatus], "fail");
   EXPECT_GT(std::stod(line[kMaxIR]), 1.0);
+}
+
+TEST(Batch, ALineHoldsTheVerdict) {
+  const TempFolder folder;
+  PutProject(folder / "a.kvn", [](ProjectState& st) { st.q1 = 1000.0; });
+  PutProject(folder / "b.kvn", [](ProjectState& st) {
+    st.ProfileType = 22;
+    st.q2 = 1.0;
+    st.q2_yz = 0;
+  });
+  PutProject(folder / "c.kvn", [](ProjectState& st) { st.gammam1 = 0.0; });
+  const Strings fails = LineOf(folder / "a.kvn");
+  EXPECT_EQ(fails[kStanding], "fails");
+  EXPECT_EQ(fails[kSls], "fails");
+  EXPECT_EQ(fails[kNotes].find("ratio-exceeded"), 0U);
+  const Strings unread = LineOf(folder / "b.kvn");
+  EXPECT_EQ(unread[kStanding], "not checked");
+  EXPECT_EQ(unread[kStatus], "not checked");
+  EXPECT_EQ(unread[kSls], "passes");
+  EXPECT_NE(unread[kNotes].find("force-unread"), std::string::npos);
+  const Strings stopped = LineOf(folder / "c.kvn");
+  EXPECT_EQ(stopped[kStanding], "stopped");
+  EXPECT_EQ(stopped[kSls], "none");
+  EXPECT_EQ(stopped[kNotes], "stopped");
 }
 
 TEST(Batch, EndForcesHaveNoDeflection) {
@@ -203,7 +241,7 @@ TEST(Batch, NamesWithCommasQuotesAndForeignBytesStayOneFieldByteForByte) {
   const std::string name = folder / "a, \"b\" k\xF8.kvn";
   PutProject(name);
   const Strings line = LineOf(name);
-  ASSERT_EQ(line.size(), 9U);
+  ASSERT_EQ(line.size(), 12U);
   EXPECT_EQ(line[kFile], name);
   EXPECT_EQ(line[kStatus], "pass");
 }
@@ -211,8 +249,8 @@ TEST(Batch, NamesWithCommasQuotesAndForeignBytesStayOneFieldByteForByte) {
 TEST(Batch, TheHeaderNamesTheFields) {
   EXPECT_EQ(BatchHeader(false),
             "file,section,weight_kg_m,max_ir,governing,governing_text,deflection_ratio,status,"
-            "error\n");
-  EXPECT_EQ(Fields(BatchHeader(true)).size(), 12U);
+            "error,standing,sls,notes\n");
+  EXPECT_EQ(Fields(BatchHeader(true)).size(), 15U);
 }
 
 TEST(Batch, OptimiseAddsTheLightestSizeOfTheSeries) {
@@ -225,11 +263,11 @@ TEST(Batch, OptimiseAddsTheLightestSizeOfTheSeries) {
   SearchRow(design, 1, results);
   ASSERT_TRUE(results.Passes[1]);
   const Strings line = LineOf(folder / "a.kvn", true);
-  ASSERT_EQ(line.size(), 12U);
-  EXPECT_NE(line[kSection], line[9]);
-  EXPECT_EQ(line[9], SectionTitle(design.st, design.lib->catalogues));
-  EXPECT_EQ(std::stof(line[10]), design.rec.S.Single());
-  EXPECT_EQ(std::stof(line[11]), results.BestIR[1].Single());
+  ASSERT_EQ(line.size(), 15U);
+  EXPECT_NE(line[kSection], line[kOptimised]);
+  EXPECT_EQ(line[kOptimised], SectionTitle(design.st, design.lib->catalogues));
+  EXPECT_EQ(std::stof(line[kOptimised + 1]), design.rec.S.Single());
+  EXPECT_EQ(std::stof(line[kOptimised + 2]), results.BestIR[1].Single());
 }
 
 TEST(Batch, OptimiseAddsNothingWhereNoSizePassesOrNoSeriesIs) {
@@ -238,8 +276,8 @@ TEST(Batch, OptimiseAddsNothingWhereNoSizePassesOrNoSeriesIs) {
   PutProject(folder / "welded.kvn", [](ProjectState& st) { st.ProfileType = 21; });
   for (const char* name : {"none.kvn", "welded.kvn"}) {
     const Strings line = LineOf(folder / name, true);
-    ASSERT_EQ(line.size(), 12U);
-    EXPECT_EQ(line[9] + line[10] + line[11], "");
+    ASSERT_EQ(line.size(), 15U);
+    EXPECT_EQ(line[kOptimised] + line[kOptimised + 1] + line[kOptimised + 2], "");
     EXPECT_NE(line[kSection], "");
   }
 }
@@ -315,6 +353,8 @@ TEST(BatchRun, ExitStatusTellsTheWorstThatCameUp) {
                                          {{3, 1, 0, 0}, 1},
                                          {{3, 1, 1, 0}, 3},
                                          {{3, 1, 1, 1}, 2},
+                                         {{3, 0, 0, 0, 1}, 1},
+                                         {{3, 0, 1, 0, 1}, 3},
                                          {{0, 0, 0, 1}, 2}})
     EXPECT_EQ(c.counts.ExitStatus(), c.status);
 }
@@ -333,7 +373,8 @@ TEST(BatchRun, ABrokenFileDoesNotStopTheRest) {
   EXPECT_EQ(Fields(lines[1])[kStatus], "pass");
   EXPECT_EQ(Fields(lines[2])[kStatus], "error");
   EXPECT_EQ(Fields(lines[3])[kStatus], "fail");
-  EXPECT_EQ(run.errors, "3 projects: 1 pass, 1 fail, 0 arithmetic failures, 1 unreadable\n");
+  EXPECT_EQ(run.errors,
+            "3 projects: 1 pass, 1 fail, 0 not checked, 0 arithmetic failures, 1 unreadable\n");
 }
 
 TEST(BatchRun, WritesTheTableToAFile) {

@@ -72,11 +72,11 @@ f015.kvn
   N 0  A 6899.5  Iy 9.7851E7  Wply 761460  S 54.1611  Mdy 162.676  My_max 59.4  My_min 0
   Vz_abs 39.6  DeflZ_max 9.03341  IRsection 0.365144  IRvz 0.0951451  C1 1.132  C2 0.459
   Mcr 111.643  chiLT_min 0.507146  Mdb 82.5003  IRlateral 0.719998  MaxIR 0.719998
-# fd = 235/1.1 = 213.64. M = 10.8*16/8. The radius in the shear area is 18 mm, the last rolled
-# section's.
+# fd = 235/1.1 = 213.64. M = 10.8*16/8. No radius in the shear area: 3744.4 - 2*80*12.5 + 9*12.5
+# = 1856.9 mm2, Vd = 229.0 kN.
 f016.kvn
   N 0  A 3744.4  Iy 2.6911E7  Wply 291490  S 29.3935  Mdy 62.2729  My_max 21.6  My_min 0
-  Vz_abs 21.6  DeflZ_max 5.3085  IRsection 0.346861  IRvz 0.0841161  C1 1.132  C2 0.459
+  Vz_abs 21.6  DeflZ_max 5.3085  IRsection 0.346861  IRvz 0.0943085  C1 1.132  C2 0.459
   Mcr 56.4002  chiLT_min 0.62287  Mdb 38.7879  IRlateral 0.556875  MaxIR 0.556875
 # fd = 355/1.1 = 322.73. A = 2*250*16 + 10*468. N = 240, M = 18*64/8. Outstand 120/16 = 7.5 is
 # class 2 (8.1), web 46.8.

@@ -18,6 +18,7 @@
 #include "front/desktop/help_book.h"
 #include "places.h"
 #include "tests/support/arithmetic.h"
+#include "tests/support/source_library.h"
 
 namespace korvane {
 namespace {
@@ -236,7 +237,22 @@ TEST(HelpBookTest, EveryCommandPrintsWhatItsPageShows) {
     }
   }
   EXPECT_GE(commands, 10);
-  EXPECT_GE(shown, 1);
+  EXPECT_GE(shown, 4);
+}
+
+TEST(HelpBookTest, EveryOptionOfACommandIsTold) {
+  const QString page = Page(QStringLiteral("console.html"));
+  int options = 0;
+  for (const auto& command : All(page, "<h2><a name=\"([a-z]+)\"></a>[a-z]+</h2>")) {
+    const QString name = command.captured(1);
+    const Printout help = Cli({name, QStringLiteral("--help")}, QDir::tempPath());
+    for (const auto& option : All(help.out, "--([a-z]+)")) {
+      ++options;
+      EXPECT_TRUE(page.contains(option.captured()))
+          << name.toStdString() << ": " << option.captured().toStdString();
+    }
+  }
+  EXPECT_GE(options, 25);
 }
 
 /// A script is followed by what it prints.
@@ -290,7 +306,7 @@ Design Loaded(const std::shared_ptr<const Library>& library, const QString& file
 }
 
 TEST(HelpBookTest, TableOfFamiliesTellsWhatRuns) {
-  const auto library = ReadLibrary((kSource + QStringLiteral("/data")).toStdString());
+  const auto& library = SourceLibrary();
   const QString html = Page(QStringLiteral("validity.html"));
   int rows = 0;
   for (const auto& row :

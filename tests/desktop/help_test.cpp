@@ -316,12 +316,14 @@ protected:
     const QUrl url = PageView().source();
     return url.fileName() + (url.hasFragment() ? QLatin1Char('#') + url.fragment() : QString());
   }
-  void Menu(const char* command) { desktop_->window().ActionOf(command)->trigger(); }
+  void Menu(const char* command) {
+    desktop_->window().ActionOf(*FindControl(*TheForms().main, command))->trigger();
+  }
 
   QTemporaryDir own_;
   DesktopPlatform platform_;
   std::shared_ptr<const Library> library_;
-  Session session_;
+  NamedSession session_;
   std::unique_ptr<Desktop> desktop_;
   std::unique_ptr<HelpDesk> desk_;
 };
@@ -347,7 +349,7 @@ TEST_F(HelpDeskTest, F1OpensThePageOfTheWindowInFront) {
   EXPECT_EQ(Place(), QStringLiteral("main-window.html#form-korvane"));
   desk_->viewer()->close();
   Menu("mnup04");
-  FormWindow* form = desktop_->WindowOf("p04");
+  FormWindow* form = desktop_->WindowOf(*FindForm("p04"));
   const auto inFront = [form] {
     form->activateWindow();
     return QApplication::activeWindow() == form;

@@ -157,8 +157,8 @@ TEST_F(DesktopTest, SaveAndOpenBringBackTheMember) {
   Menu("mnuopen");
   EXPECT_EQ(Field("il").text(), "6.500");
   EXPECT_EQ(Field("iproj").text(), "Warehouse");
-  EXPECT_TRUE(Main().ActionOf("mnurecentfile(1)")->isVisible());
-  EXPECT_TRUE(Main().ActionOf("mnurecentfile(1)")->text().endsWith("a.kvn"));
+  EXPECT_TRUE(ActionOf("mnurecentfile(1)")->isVisible());
+  EXPECT_TRUE(ActionOf("mnurecentfile(1)")->text().endsWith("a.kvn"));
 }
 
 TEST_F(DesktopTest, SavingTakesTheFieldInUse) {
@@ -184,7 +184,7 @@ TEST_F(DesktopTest, NewKeepsTheFieldTexts) {
 TEST_F(DesktopTest, EveryCommandHasItsCaptionAndRuns) {
   for (const Control& c : FindForm("korvane")->controls) {
     if (c.kind != Kind::Menu || c.caption == "-" || c.name == "mnuexit") continue;
-    QAction* action = Main().ActionOf(c.name);
+    QAction* action = ActionOf(c.name);
     ASSERT_NE(action, nullptr) << c.name;
     if (!c.text) {
       EXPECT_EQ(action->text().toStdString(), c.caption);

@@ -85,7 +85,7 @@ protected:
       }
     });
     answer.start(20);
-    desktop_->window().ActionOf(command)->trigger();
+    desktop_->window().ActionOf(*FindControl(*TheForms().main, command))->trigger();
     QCoreApplication::processEvents();
     return asked;
   }
@@ -96,7 +96,7 @@ protected:
   QTemporaryDir folder_;
   DesktopPlatform platform_;
   std::shared_ptr<const Library> library_;
-  Session session_;
+  NamedSession session_;
   std::unique_ptr<Desktop> desktop_;
 };
 
@@ -146,7 +146,8 @@ TEST_F(PrintTest, FailingPrinterIsTold) {
   answer.start(20);
   ASSERT_TRUE(Print("mnuprint1", Path("gone/page.pdf"), 1, true));
   EXPECT_TRUE(QTest::qWaitFor([&] { return !platform_.HasMessages(); }, 3000));
-  EXPECT_EQ(told, "The printer does not take the page");
+  EXPECT_EQ(told, "The page could not be written to\n" + Path("gone/page.pdf") +
+                      "\nThe folder doesn't exist.");
 }
 
 TEST_F(PrintTest, CancelSaysNothingAndWritesNothing) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "front/session.h"
+#include "front/named_session.h"
 #include "tests/support/source_library.h"
 
 namespace korvane::testing {
@@ -57,7 +57,7 @@ struct Running {
   }
   ProjectState& st() { return session.st(); }
   RememberingPlatform platform;
-  Session session;
+  NamedSession session;
 };
 
 /// The choices by which the form shows and enables every field that it has.

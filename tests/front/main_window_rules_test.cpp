@@ -305,13 +305,13 @@ TEST(InputVariants, RelativePositionsAndTheCantileverHaveTheirOwnLimits) {
   std::vector<Variant> table{
       {"vipping", "ik", "1", nullptr, 1.0},
       {"vipping", "ik", "2", nullptr, 2.0},
-      {"vipping", "ik", "0.99", " 1.0 <= k <= 2.0 ", 0.99},
-      {"vipping", "ik", "2.01", " 1.0 <= k <= 2.0 ", 2.01},
+      {"vipping", "ik", "0.99999994", " 1.0 <= k <= 2.0 ", 0.99999994},
+      {"vipping", "ik", "2.0000002", " 1.0 <= k <= 2.0 ", 2.0000002},
       {"chpoints", "icp(1)", "0", nullptr, 0.0},
       {"chpoints", "icp(3)", "1", nullptr, 5.0},
       {"chpoints", "icp(2)", "0.5", nullptr, 2.5},
-      {"chpoints", "icp(2)", "1.01", " 0 <= x <= 1 ", 5.05},
-      {"chpoints", "icp(2)", "-0.01", " 0 <= x <= 1 ", -0.05},
+      {"chpoints", "icp(2)", "1.0000001", " 0 <= x <= 1 ", 5.0000005},
+      {"chpoints", "icp(2)", "-1e-44", " 0 <= x <= 1 ", -5e-44},
   };
   for (const auto& [control, message] :
        std::vector<std::pair<const char*, const char*>>{{"ipmx(1)", " 0 < x <= 1 "},
@@ -324,8 +324,8 @@ TEST(InputVariants, RelativePositionsAndTheCantileverHaveTheirOwnLimits) {
                                                         {"iqt3x2", " 0 < x1 <= 1 "}}) {
     table.push_back({"loading", control, "0", nullptr, 0.0});
     table.push_back({"loading", control, "1", nullptr, 5.0});
-    table.push_back({"loading", control, "1.01", message, 0.0});
-    table.push_back({"loading", control, "-0.01", message, 0.0});
+    table.push_back({"loading", control, "1.0000001", message, 0.0});
+    table.push_back({"loading", control, "-1e-44", message, 0.0});
   }
   for (const Variant& c : table) {
     Running r;

@@ -10,6 +10,7 @@
 #include "core/files.h"
 #include "front/console/run_design.h"
 #include "places.h"
+#include "presentation/checker_rows.h"
 #include "sections/profile_table.h"
 #include "sections/shown_values.h"
 #include "tests/support/source_library.h"
@@ -81,6 +82,25 @@ TEST_P(ReportPdf, HoldsTheSectionAndTheChecks) {
     EXPECT_NE(control.find(Squeezed(line->numbers + line->value + line->limit)), std::string::npos)
         << line->numbers;
   }
+}
+
+TEST_P(ReportPdf, HoldsTheCheckersRowsOnAThirdPage) {
+  Design d = StartedDesign(ReadLibrary(std::string(KORVANE_SOURCE_DIR) + "/data"));
+  ASSERT_EQ(RunProject(d, project_).file, FileResult::Ok);
+  const std::string all = TextOf("all");
+  const std::string info = OutputOf("pdfinfo " + (folder_ / "all").string() + ".pdf");
+  EXPECT_NE(info.find("Pages:           3"), std::string::npos) << info;
+  int rows = 0;
+  for (const CheckerBlocks& blocks : {CheckerInputs(d), CheckerResults(d)}) {
+    for (const CheckerBlock& block : blocks) {
+      for (const CheckerRow& row : block.rows) {
+        EXPECT_NE(all.find(Squeezed(row.symbol + row.value + row.unit)), std::string::npos)
+            << block.heading << ": " << row.symbol << row.value;
+        ++rows;
+      }
+    }
+  }
+  EXPECT_GT(rows, 60);
 }
 
 TEST_P(ReportPdf, CarriesItsTitleAndTheProject) {

@@ -146,8 +146,10 @@ TEST(ShownValues, ClassOfEachKindOfSection) {
   rec.class_ = 1;
   rec.classN = 2;
   rec.classMy = 3;
-  rec.classTop = 4;
-  rec.classBottom = 5;
+  rec.classTop = 6;
+  rec.classBottom = 7;
+  rec.classTopshown = 4;
+  rec.classBottomshown = 5;
   const std::pair<std::set<int>, const char*> texts[] = {
       {{26}, "1 (N)"},
       {{10, 11, 31, 41}, "1"},

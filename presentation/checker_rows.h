@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The rows of the checker's sheet: every input and every step of the checks unrounded, so that
+// each ratio of the control report can be followed with a pocket calculator.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/calculation.h"
+
+namespace korvane {
+
+/// One quantity. value is a number, or words where there is no number; from tells where it comes
+/// from: a clause of the standard, "typed", "catalogue", a formula.
+struct CheckerRow {
+  std::string symbol, value, unit, from;
+};
+
+struct CheckerBlock {
+  std::string heading;
+  std::vector<CheckerRow> rows;
+};
+using CheckerBlocks = std::vector<CheckerBlock>;
+
+/// A result with seven significant digits, with an exponent where it is very large or small.
+std::string CheckerDigits(double value);
+
+/// Member, material, factors, loads and the section as they were entered.
+CheckerBlocks CheckerInputs(const Design& d);
+/// Section values, capacities, the numbers behind each line of the checks, deflections and
+/// frequencies of the last calculation.
+CheckerBlocks CheckerResults(const Design& d);
+
+namespace checker {
+
+/// A row of a table of quantities; when null, or tells whether the design has the quantity.
+struct Item {
+  const char* symbol;
+  double (*value)(const Design&);
+  const char* unit;
+  const char* from;
+  bool (*when)(const Design&) = nullptr;
+};
+
+/// Unit of a section value by its name: "Iw" mm6, "Wely" mm3, "tw" mm.
+std::string SectionUnit(std::string_view name);
+
+template <class Items>
+void AddItems(CheckerBlock& block, const Items& items, const Design& d) {
+  for (const Item& item : items) {
+    if (item.when != nullptr && !item.when(d)) continue;
+    block.rows.push_back({item.symbol, CheckerDigits(item.value(d)), item.unit, item.from});
+  }
+}
+
+}  // namespace checker
+
+}  // namespace korvane
