@@ -96,7 +96,6 @@ private:
   void Value(std::string_view v);
   void Value(const char* v) { Value(std::string_view(v)); }
   void Value(const std::string& v) { Value(std::string_view(v)); }
-  void Value(const char* v) { Value(std::string_view(v)); }
   template <std::same_as<bool> Bool>
   void Value(Bool v) {
     text_ += v ? "true" : "false";

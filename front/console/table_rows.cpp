@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <istream>
 #include <ostream>
 #include <set>
@@ -237,14 +238,22 @@ std::optional<std::string> RowDesigner::SetInputs(std::size_t number) {
 }
 
 void RowDesigner::DesignRow(std::size_t number, TablePiece& piece) {
-  const auto refused = SetInputs(number);
-  if (!refused) {
-    DesignMember(started_, input_, work_, Lines::None);
-    verdict_ = VerdictOf(work_);
+  const std::size_t begun = piece.lines.size();
+  std::optional<std::string> refused;
+  try {
+    refused = SetInputs(number);
+    if (!refused) {
+      DesignMember(started_, input_, work_, Lines::None);
+      verdict_ = VerdictOf(work_);
+    }
+    AppendRow(refused ? &*refused : nullptr, piece.lines);
+  } catch (const std::exception& other) {
+    // Whatever a row comes upon is its own.
+    piece.lines.resize(begun);
+    refused = "row " + std::to_string(number) + ": " + other.what();
+    AppendRow(&*refused, piece.lines);
   }
-  const std::string* reason = refused ? &*refused : nullptr;
-  Count(reason, piece.counts);
-  AppendRow(reason, piece.lines);
+  Count(refused ? &*refused : nullptr, piece.counts);
 }
 
 void RowDesigner::Count(const std::string* refused, TableCounts& counts) const {
