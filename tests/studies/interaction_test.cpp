@@ -13,11 +13,12 @@
 namespace korvane {
 namespace {
 
-/// HEA 200 of S355 in plastic class: Nd = A*fd, Myd = Wply*fd, Mzd = Wplz*fd.
+/// HEA 200 of S235, whose flange is compact: Nd = A*fd, Myd = Wply*fd, Mzd = Wplz*fd.
 TEST(Interaction, CornersAreTheCapacities) {
   const Design started = StartedDesign(SourceLibrary());
   Design d = started;
-  const ProjectState member = NewMember(SourceLibrary());
+  ProjectState member = NewMember(SourceLibrary());
+  member.MaterialIndex = 0;
   DesignMember(started, member, d);
   const double fd = d.st.fyk / d.st.gammam1;
   const auto my = InteractionEnvelope(started, member, InteractionAxes::NMy, {}, 4);
