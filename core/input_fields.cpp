@@ -392,6 +392,10 @@ double ReadInput(const S& st, const InputRef& input) {
   return IsRelative(st, input) ? value / st.L : value;
 }
 
+void PutInput(S& st, const InputRef& input, double value) {
+  Store(st, input, value);
+}
+
 std::string ReadText(const S& st, const InputRef& input) {
   const auto* member = std::get_if<std::string S::*>(&input.field->member);
   return member == nullptr ? std::string() : st.**member;

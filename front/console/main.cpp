@@ -17,6 +17,7 @@
 #include "front/console/paint.h"
 #include "front/console/run_design.h"
 #include "front/console/script.h"
+#include "front/console/study_commands.h"
 #include "front/console/terminal.h"
 #include "front/data_folder.h"
 #include "front/locale.h"
@@ -167,6 +168,7 @@ int main(int argc, char** argv) {
   addData(session);
   session->callback([&] { status = RunSession(file, decimal, data); });
   AddBatchCommands(app, status);
+  AddStudyCommands(app, status);
   AddPaintCommands(app, status);
   AddCompletionCommand(app);
 

@@ -119,21 +119,10 @@ void CheckLoads(Session& s) {
 
 void ClickSupport(Session& s, const Support& support) {
   ProjectState& st = s.st();
-  const double factor = LengthFactorOfCase(support.bucklingCase);
-  st.SupportType = support.code;
+  TakeSupport(support, st);
   if (IsSpring(support.code)) s.FocusField(*OnMain().ispring);
-  if (st.BucklingCaseY < 5) {
-    st.bly = factor;
-    st.BucklingCaseY = support.bucklingCase;
-    s.Fill(*OnMain().ibly);
-  }
-  if (st.BucklingCaseZ < 5) {
-    st.blz = factor;
-    st.BucklingCaseZ = support.bucklingCase;
-    s.Fill(*OnMain().iblz);
-  }
-  st.LateralBucklingCase = support.bucklingCase;
-  st.k_ltb = factor;
+  if (st.BucklingCaseY < 5) s.Fill(*OnMain().ibly);
+  if (st.BucklingCaseZ < 5) s.Fill(*OnMain().iblz);
   // The cantilever deliberately leaves the loads untidied.
   if (!IsCantilever(support.code)) CheckLoads(s);
   s.Calculate();
