@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QStandardPaths>
 #include <QWindow>
+#include <utility>
 
 #include "core/project_file.h"
 #include "front/desktop/form_binder.h"
@@ -57,6 +58,10 @@ void Desktop::Act(const std::function<void()>& action) {
   Refresh();
   PlaceFocus();
   --busy_;
+  // The main window was active again while the action still ran.
+  if (std::exchange(modalClosed_, false) && &session_.Top() == TheForms().main) {
+    Activated(*TheForms().main);
+  }
 }
 
 bool Desktop::Commit() {
@@ -125,7 +130,9 @@ void Desktop::Refresh() {
 
 void Desktop::SyncWindows() {
   for (auto& [form, window] : windows_) {
-    if (!session_.IsOpen(*form) && window->isVisible()) window->hide();
+    if (session_.IsOpen(*form) || !window->isVisible()) continue;
+    modalClosed_ = modalClosed_ || form->modal;
+    window->hide();
   }
   for (const Form* form : session_.OpenForms()) {
     FormWindow* window = WindowOf(*form);

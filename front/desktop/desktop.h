@@ -65,7 +65,8 @@ private:
   Session& session_;
   int busy_ = 0;
   bool ended_ = false;
-  bool popup_ = false;  ///< the window in front was a dialog or message box
+  bool popup_ = false;        ///< the window in front was a dialog or message box
+  bool modalClosed_ = false;  ///< by the action that runs
   const Form* front_ = nullptr;
   std::vector<FormBinder*> binders_;
   std::map<const Form*, FormWindow*> windows_;
