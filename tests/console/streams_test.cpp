@@ -36,6 +36,7 @@ TEST(Drawing, EndForcesGiveNeitherLoadsNorDeflections) {
   const TempFolder folder;
   const std::string ends = folder / "ends.kvn";
   ProjectState st;
+  ASSERT_EQ(OpenProject(kColumn, st), FileResult::Ok);
   st.AnalysisMode = 0;
   ASSERT_EQ(SaveProject(ends, st).why, "");
   for (const char* what : {"loads-z", "loads-y", "dz", "dy"}) {
