@@ -191,11 +191,15 @@ void BucklingIgnored(const Family& family, const Finished& d, NoteList& notes) {
       if (differs(with, rec.class_)) return;
     }
   }
-  if (!(d.forces.N > 0) || family.routines.effective == nullptr) return;
+  if (family.routines.effective == nullptr) return;
   rec = d.rec;
   family.routines.effective(counted, rec);
-  if (rec.Aeff < d.rec.Aeff * 0.999) {
-    notes.Add({NoteCode::BucklingIgnored, {0, 0, d.rec.Aeff, rec.Aeff}, which});
+  if (d.forces.N > 0 && rec.Aeff < d.rec.Aeff * 0.999) {
+    notes.Add({NoteCode::BucklingIgnored, {0, 0, d.rec.Aeff, rec.Aeff}, which, "Aeff"});
+  } else if (d.checks.ClassGoverning == 4 && d.beam.MyAbsMax != 0 &&
+             rec.Weffy < d.rec.Weffy * 0.999) {
+    // Some families' class stays 4, and the option keeps the modulus whole.
+    notes.Add({NoteCode::BucklingIgnored, {0, 0, d.rec.Weffy, rec.Weffy}, which, "Weffy"});
   }
 }
 

@@ -133,6 +133,23 @@ TEST(Cautions, WebBucklingLeftOutDecidesTheEffectiveArea) {
   EXPECT_FALSE(Find(VerdictAfterTwo(d), NoteCode::BucklingIgnored));
 }
 
+/// A welded web of 800/5 = 160 is of class 4 with and without the option, which keeps the modulus
+/// whole.
+TEST(Cautions, WebBucklingLeftOutDecidesTheModulus) {
+  Design d = StartedDesign(21);
+  d.st.p21_h = 840;
+  d.st.p21_tw = 5;
+  d.st.NP = 0;
+  d.st.IgnoreWebBuckling = 1;
+  const Verdict v = VerdictAfterTwo(d);
+  EXPECT_TRUE(Has(Text(d, v, NoteCode::BucklingIgnored), "not taken into account: Weffy = "));
+  const Note* note = Find(v, NoteCode::BucklingIgnored);
+  ASSERT_TRUE(note);
+  EXPECT_LT(note->v[3], d.rec.Weffy);
+  d.st.p21_tw = 20;
+  EXPECT_FALSE(Find(VerdictAfterTwo(d), NoteCode::BucklingIgnored));
+}
+
 // ky = 1 - mu*N/(Xy*Ncrd*gammam1) with mu of at most 0.9, which a column under end moments of
 // opposite bending has: HEA 200, 12 m, Nyd about 420 kN.
 TEST(Cautions, AMomentFactorBelowZero) {
