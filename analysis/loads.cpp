@@ -179,13 +179,12 @@ std::optional<LoadMessage> CheckTrapezoids(const ProjectState& st) {
     const double q1 = st.*s.q1;
     const double q2 = st.*s.q2;
     if ((q1 > 0 && q2 < 0) || (q1 < 0 && q2 > 0)) {
-      return LoadMessage{" Trapezoidal load: One positive and one negative value ",
-                         "iqt" + std::to_string(t) + "2"};
+      return LoadMessage{" Trapezoidal load: One positive and one negative value ", s.q2};
     }
   }
   for (int t = 1; t <= 3; ++t) {
     const Trapezoid& s = TrapezoidOf(t);
-    if (st.*s.x1 > st.*s.x2) return LoadMessage{" x1 < x2 ", "iqt" + std::to_string(t) + "x2"};
+    if (st.*s.x1 > st.*s.x2) return LoadMessage{" x1 < x2 ", s.x2};
   }
   return std::nullopt;
 }

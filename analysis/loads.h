@@ -70,8 +70,8 @@ void StripForPlateTypes(ProjectState& st);
 
 /// What NormaliseLoads has to say when it fails.
 struct LoadMessage {
-  std::string text;   ///< literal message
-  std::string focus;  ///< control of the load form that gets the focus
+  std::string text;              ///< literal message
+  float32 ProjectState::*field;  ///< at fault: it gets the focus
 };
 
 /// Tidies the load record, the characteristic points and the stiffener distance against length

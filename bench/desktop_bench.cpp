@@ -14,6 +14,7 @@
 #include "front/desktop/main_window.h"
 #include "front/desktop/panes.h"
 #include "front/desktop/theme.h"
+#include "front/named_session.h"
 
 namespace korvane {
 namespace {
@@ -48,7 +49,8 @@ bool ReturnToPicture() {
   const QTemporaryDir own;
   const auto library = ReadLibrary(KORVANE_DATA_FOLDER);
   Platform platform;
-  Session session(library, platform, false, Folders{library->folder, own.path().toStdString()});
+  NamedSession session(library, platform, false,
+                       Folders{library->folder, own.path().toStdString()});
   session.Start();
   session.st().q1 = 10;
   session.st().q2 = 4;
@@ -59,7 +61,7 @@ bool ReturnToPicture() {
   window.resize(1920, 1080);
   window.show();
   QCoreApplication::processEvents();
-  desktop.Activated("korvane");
+  desktop.Activated(*TheForms().main);
   auto* length = window.findChild<QLineEdit*>(QStringLiteral("il"));
   PaintCount paints;
   qApp->installEventFilter(&paints);

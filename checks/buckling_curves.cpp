@@ -56,6 +56,21 @@ double LengthFactorOfCase(int bucklingCase) {
   }
 }
 
+void TakeSupport(const Support& support, ProjectState& st) {
+  const double factor = LengthFactorOfCase(support.bucklingCase);
+  st.SupportType = support.code;
+  if (st.BucklingCaseY < 5) {
+    st.bly = factor;
+    st.BucklingCaseY = support.bucklingCase;
+  }
+  if (st.BucklingCaseZ < 5) {
+    st.blz = factor;
+    st.BucklingCaseZ = support.bucklingCase;
+  }
+  st.LateralBucklingCase = support.bucklingCase;
+  st.k_ltb = factor;
+}
+
 std::optional<CurvePair> CurvesOf(CurveRule rule, const SectionRecord& rec,
                                   const ProjectState& st) {
   using Pair = CurvePair;

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "core/project_state.h"
+#include "core/supports.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
@@ -24,6 +25,10 @@ const char* AngleCurveLetter(int curve);
 /// Buckling length factor of end condition case 1 to 5 (0: no buckling); case 6 is typed in and
 /// has none, which reads as -1.
 double LengthFactorOfCase(int bucklingCase);
+
+/// Puts a support in force with its case and length factor, about an axis that is not typed nor
+/// without buckling, and against lateral buckling.
+void TakeSupport(const Support& support, ProjectState& st);
 
 /// Indices of the curves about y and z.
 struct CurvePair {

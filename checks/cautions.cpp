@@ -67,8 +67,8 @@ bool Compressed(const Finished& d) {
   return d.forces.N > 0 || d.beam.MyAbsMax != 0 || d.beam.MzAbsMax != 0;
 }
 
-void BoxOutstands(const Finished& d, NoteList& notes) {
-  if (d.st.ProfileType != 23 || !Compressed(d)) return;
+void BoxOutstands(const Family& family, const Finished& d, NoteList& notes) {
+  if (family.outline != OutlineKind::Box || !Compressed(d)) return;
   const double ratio = d.st.p23_a / d.rec.tf;
   if (ratio > 14 * d.st.epsilon) {
     notes.Add({NoteCode::BoxOutstands, {d.st.p23_a, ratio, 14 * d.st.epsilon}});
@@ -76,8 +76,8 @@ void BoxOutstands(const Finished& d, NoteList& notes) {
 }
 
 /// The plate between the walls and the bottom of a trapezoid, each where it is compressed.
-void TrapezoidFlats(const Finished& d, NoteList& notes) {
-  if (d.st.ProfileType != 55) return;
+void TrapezoidFlats(const Family& family, const Finished& d, NoteList& notes) {
+  if (family.outline != OutlineKind::PlateTrapez) return;
   const double eps = d.st.epsilon;
   const double wall = d.rec.tw / std::cos(std::atan(d.st.p55_a / d.st.p55_h));
   const auto look = [&](const char* flat, bool acts, double width, double t, int used) {
@@ -222,8 +222,8 @@ bool LateralMomentActs(const Family& family, const Finished& d) {
 void AddSectionCautions(const Family& family, const Finished& d, double IR, NoteList& notes) {
   ClassByTensionSide(family, d, IR, notes);
   StripOfFlat(family, d, IR, notes);
-  BoxOutstands(d, notes);
-  TrapezoidFlats(d, notes);
+  BoxOutstands(family, d, notes);
+  TrapezoidFlats(family, d, notes);
   TrippingWithPlate(family, d, IR, notes);
 }
 

@@ -18,11 +18,12 @@ void BucklingControl(const Family& family, const ProjectState& st, const BeamRes
                      const LtbResults& ltb, SectionForces& f, SectionRecord& rec,
                      BucklingResults& b, CheckResults& out);
 
-/// The same with curves and klt other than those in force, for what they would give.
+/// Curves and klt other than those in force.
 struct BucklingChoice {
   int curveY, curveZ;
   bool ownKlt;  ///< klt is worked out for a singly symmetric section too
 };
+/// BucklingControl with that choice, for what it would give.
 void BucklingControlWith(const BucklingChoice& choice, const Family& family, const ProjectState& st,
                          const BeamResults& beam, const LtbResults& ltb, SectionForces& f,
                          SectionRecord& rec, BucklingResults& b, CheckResults& out);

@@ -16,17 +16,20 @@ namespace korvane {
 void LateralTorsionalStep(const Family& family, ProjectState& st, SectionForces& f,
                           SectionRecord& rec, BeamResults& beam, LtbResults& ltb);
 
-/// C1 and C3 of a segment by the ratio r of its end moments (-1 to 1) and the length factor k.
+/// C1 and C3 of a segment.
 struct SegmentFactors {
   double C1, C3;
 };
+/// By the ratio r of its end moments (-1 to 1) and the length factor k (ENV 1993-1-1, Annex F,
+/// Table F.1.1).
 SegmentFactors FactorsOfSegment(double r, double k);
 
-/// Stress (MPa), slenderness and reduction of a plate carried stiffener that is compressed, over the length in
-/// mm; reads the record's h, tw, tf, tf2, Afc, Afw and Iz. Throws ArithmeticFault.
+/// Critical stress (MPa), slenderness and reduction of a compressed stiffener that a plate carries.
 struct PlateReduced {
   double sigma, lamLT, chiLT;
 };
+/// Over the length Lmm in mm; reads fyk and E, and the record's h, tw, tf, tf2, Afc, Afw and Iz.
+/// Throws ArithmeticFault.
 PlateReduced PlateReduction(LateralMethod method, const ProjectState& st, const SectionRecord& rec,
                             double Lmm);
 

@@ -34,7 +34,10 @@ using View = std::vector<ViewLine>;
 /// Fixed string ahead of a value.
 inline constexpr const char* kIRPrefix = "IR = ";
 
+/// The short views: a heading, and a line for each check that was made.
+/// Section, shear in z and y, lateral buckling.
 View SectionControlShort(const ProjectState& st, const CheckResults& checks);
+/// Buckling about y and z, and the slenderness where it is checked.
 View BucklingShort(const ProjectState& st, const CheckResults& checks, const BucklingResults& b);
 
 /// The long views. breaks(text) tells whether formula, numbers, value and limit together exceed

@@ -22,6 +22,7 @@ void ClearSectionResults(CheckResults& out);
 struct PrincipalMoments {
   double Mu, Mv;
 };
+/// My and Mz in kNm, turned by the angle from y to u.
 PrincipalMoments ToPrincipal(double My, double Mz, double alfadeg);
 
 }  // namespace korvane

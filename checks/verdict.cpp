@@ -10,6 +10,7 @@
 #include "checks/column_buckling.h"
 #include "checks/results.h"
 #include "checks/section_exists.h"
+#include "core/supports.h"
 
 namespace korvane {
 
@@ -187,7 +188,7 @@ void Voids(const Family& family, const Finished& d, NoteList& notes) {
   if (const WrongInput w = ImpossiblePart(d.st, d.rec); w.Set()) {
     notes.Add({NoteCode::SectionImpossible, {w.value}, w.words});
   }
-  if (d.st.AnalysisMode == 1 && (d.st.SupportType < 0 || d.st.SupportType > 5)) {
+  if (d.st.AnalysisMode == 1 && FindSupport(d.st.SupportType) == nullptr) {
     notes.Add({NoteCode::UnknownSupport, {double(d.st.SupportType)}});
   }
   if (!(d.st.L > 0)) notes.Add({NoteCode::LengthNotPositive, {d.st.L}});

@@ -4,9 +4,9 @@ file(GLOB KORVANE_DATA_FILES ${CMAKE_SOURCE_DIR}/data/*.dat)
 install(FILES ${KORVANE_DATA_FILES} DESTINATION ${CMAKE_INSTALL_DATADIR}/korvane)
 file(GLOB KORVANE_EXAMPLES ${CMAKE_SOURCE_DIR}/examples/*.kvn)
 install(FILES ${KORVANE_EXAMPLES} DESTINATION ${CMAKE_INSTALL_DATADIR}/korvane/examples)
-install(FILES packaging/korvane-cli.bash-completion
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME korvane-cli)
 install(FILES packaging/copyright docs/VERIFICATION.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES packaging/lintian-overrides
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME korvane)
 
 # Debian wants manual pages and the changelog compressed.
 find_program(GZIP gzip REQUIRED)

@@ -143,32 +143,38 @@ void StartDesign(Design& d) {
 
 namespace {
 
-void RunCalculation(Design& d) {
-  Analyse(d);
-  ComputeSection(d);
-  RunChecks(d);
-  Deflect(d);
-  if (d.st.ModalAnalysis == 1) {
-    RunStep("ModalAnalysis", [&] { ModalAnalysisRun(d.st, d.rec.S, d.rec.Iy, d.modal); });
-  }
-  ComposeResults(d);
-  RefreshState(d.st);
-}
-
-}  // namespace
-
-void Calculate(Design& d) {
+/// The steps of a calculation; compose writes the result lines where they are wanted.
+template <class Compose>
+void RunCalculation(Design& d, Compose&& compose) {
   d.st.OptimiseOpen = 0;
   d.st.ResultView = 3;
   const bool removes = BeginHistory(d);
   try {
-    RunCalculation(d);
+    Analyse(d);
+    ComputeSection(d);
+    RunChecks(d);
+    Deflect(d);
+    if (d.st.ModalAnalysis == 1) {
+      RunStep("ModalAnalysis", [&] { ModalAnalysisRun(d.st, d.rec.S, d.rec.Iy, d.modal); });
+    }
+    compose();
+    RefreshState(d.st);
   } catch (const CalculationFault& fault) {
     d.history.stoppedIn = fault.Step();
     throw;
   }
   RememberOrigins(d);
   if (removes) d.history.afterRemoval = std::make_shared<const ProjectState>(d.st);
+}
+
+}  // namespace
+
+void Calculate(Design& d) {
+  RunCalculation(d, [&] { ComposeResults(d); });
+}
+
+void CalculateNumbers(Design& d) {
+  RunCalculation(d, [] {});
 }
 
 void ComposeResults(Design& d) {

@@ -75,6 +75,10 @@ void StartDesign(Design& design);
 /// where a step fails; results stay as far as the calculation had got.
 void Calculate(Design& design);
 
+/// Calculate without its result lines, which stay as they were: for whoever composes them later or
+/// wants numbers alone. Throws CalculationFault.
+void CalculateNumbers(Design& design);
+
 /// The verdict on the last calculation; changes nothing. Whoever shows a result asks for it.
 Verdict VerdictOf(const Design& design);
 

@@ -25,6 +25,7 @@ enum class NoDigits { ReadAsZero, EndTheReading };
 /// a value that its type can't hold.
 class FieldReader {
 public:
+  /// The bytes must outlive the reader.
   explicit FieldReader(std::string_view bytes, NoDigits noDigits = NoDigits::ReadAsZero);
 
   template <class... Fields>
@@ -58,8 +59,11 @@ public:
   void operator()(const Fields&... fields) {
     (Write(fields), ...);
   }
+  /// A text as it is.
   void Text(std::string_view field);
+  /// A text between double quotes.
   void Quoted(std::string_view field);
+  /// An empty line, which belongs to no field.
   void Spare();
 
   const std::string& Bytes() const { return bytes_; }

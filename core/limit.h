@@ -3,6 +3,7 @@
 #pragma once
 
 #include <limits>
+#include <string>
 
 #include "core/project_state.h"
 
@@ -45,5 +46,12 @@ constexpr bool Accepts(const Limit& limit, double v) {
   return (limit.lowIncluded ? v >= limit.low : v > limit.low) &&
          (limit.highIncluded ? v <= limit.high : v < limit.high);
 }
+
+/// The accepted values in words: "0.3 to 2", "at least 0.05", "more than 0", "any"; of a limit in
+/// force.
+std::string RangeWords(const Limit& limit);
+
+/// Whether there are values that are refused.
+bool HasLimit(const Limit& limit);
 
 }  // namespace korvane

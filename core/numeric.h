@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <numbers>
 #include <stdexcept>
 #include <string>
 
@@ -132,7 +133,7 @@ private:
 /// The circle constant as the single precision value that some formulas are fixed with.
 inline constexpr double kPiSingle = 3.1415927410125732;
 /// The circle constant in double precision, used elsewhere.
-inline constexpr double kPi = 3.14159265358979323846;
+inline constexpr double kPi = std::numbers::pi;
 
 /// Watches the floating-point flags of one step: Check() throws ArithmeticFault when a
 /// division by zero, an invalid operation or an overflow came up since the construction, also

@@ -2,84 +2,102 @@
 #include "front/form_table.h"
 
 #include <algorithm>
-#include <cmath>
-#include <map>
+#include <stdexcept>
 
 #include "front/forms/forms.h"
 #include "front/session.h"
 
 namespace korvane {
 
-const std::vector<Form>& AllForms() {
-  static const std::vector<Form> forms = [] {
-    std::vector<Form> all;
-    AddMainForm(all);
-    AddLoadForms(all);
-    AddBucklingForms(all);
-    AddSetupForms(all);
-    AddOptimiserForm(all);
-    AddDatabaseForm(all);
-    AddFamilyForms(all);
-    return all;
+Form& Forms::Add(std::string name, std::function<std::string(const Session&)> title) {
+  Form& form = all.emplace_back();
+  form.name = std::move(name);
+  form.title = std::move(title);
+  return form;
+}
+
+const Forms& TheForms() {
+  // Controls and forms stay where they are when the deques move.
+  static const Forms forms = [] {
+    Forms f{};
+    AddMainForm(f);
+    AddLoadForms(f);
+    AddBucklingForms(f);
+    AddSetupForms(f);
+    AddOptimiserForm(f);
+    AddDatabaseForm(f);
+    AddFamilyForms(f);
+    for (Form& form : f.all) {
+      int place = 0;
+      for (Control& c : form.controls) {
+        c.form = &form;
+        c.place = place++;
+      }
+    }
+    return f;
   }();
   return forms;
 }
 
-const Form* FindForm(const std::string& name) {
-  static const std::map<std::string, const Form*> index = [] {
-    std::map<std::string, const Form*> m;
-    for (const Form& form : AllForms()) m[form.name] = &form;
-    return m;
-  }();
-  const auto it = index.find(name);
-  return it == index.end() ? nullptr : it->second;
+const Form& FamilyForm(int code) {
+  for (const Form& form : AllForms()) {
+    if (form.family == code && code != 0) return form;
+  }
+  throw std::logic_error("no form of family " + std::to_string(code));
 }
 
-const Control* FindControl(const Form& form, const std::string& name) {
+const Form* FindForm(std::string_view name) {
+  const auto& all = AllForms();
+  const auto it =
+      std::find_if(all.begin(), all.end(), [&](const Form& form) { return form.name == name; });
+  return it == all.end() ? nullptr : &*it;
+}
+
+const Control* FindControl(const Form& form, std::string_view name) {
   const auto it = std::find_if(form.controls.begin(), form.controls.end(),
                                [&](const Control& c) { return c.name == name; });
   return it == form.controls.end() ? nullptr : &*it;
 }
 
-void StoreNumber(float32& field, double v) {
-  field = v;
-}
-void StoreNumber(number& field, double v) {
-  field = v;
-}
-void StoreNumber(int16& field, double v) {
-  if (!(v > -32769 && v < 32768)) throw ArithmeticFault("16-bit integer overflow");
-  field = static_cast<int>(std::nearbyint(v));
+const Control* FieldOf(const Form& form, const InputRef& input) {
+  const auto it = std::find_if(form.controls.begin(), form.controls.end(), [&](const Control& c) {
+    return c.field.input.field == input.field && c.field.input.element == input.element;
+  });
+  return it == form.controls.end() ? nullptr : &*it;
 }
 
-Limit Accept(std::function<bool(const ProjectState&, double)> accepts, std::string message) {
-  return {std::move(accepts),
-          [message = std::move(message)](const ProjectState&) { return message; }};
+std::string AddressOf(const Control& control) {
+  return control.form->name + "." + control.name;
 }
 
-Limit AtLeast(double low, std::string message) {
-  return Accept([low](const ProjectState&, double v) { return v >= low; }, std::move(message));
+FieldRule Bind(InputMember member, int element) {
+  FieldRule rule;
+  rule.input = InputOf(member, element);
+  return rule;
 }
 
-Limit Above(double low, std::string message) {
-  return Accept([low](const ProjectState&, double v) { return v > low; }, std::move(message));
+FieldRule Calculated(InputMember member, int element) {
+  FieldRule rule = Bind(member, element);
+  rule.then = [](Session& s) { s.Calculate(); };
+  return rule;
 }
 
-Limit Between(double low, double high, std::string message) {
-  return Accept([low, high](const ProjectState&, double v) { return v >= low && v <= high; },
-                std::move(message));
-}
-
-Control Input(std::string name, std::string caption, FieldRule rule, std::string unit,
-              std::string tip) {
+Control Input(std::string name, std::string caption, FieldRule rule, std::string tip) {
   Control c;
   c.name = std::move(name);
   c.kind = Kind::Input;
   c.caption = std::move(caption);
   c.field = std::move(rule);
-  c.unit = std::move(unit);
+  if (c.field.IsNumber()) c.unit = c.field.input.field->unit;
   c.tip = std::move(tip);
   return c;
+}
+
+std::string TipOf(const Control& c, const ProjectState& st) {
+  if (!c.field.Limited()) return c.tip;
+  std::string range = RangeWords(LimitOf(st, c.field.input));
+  if (!c.unit.empty()) range += " " + c.unit;
+  return c.tip.empty() ? range : c.tip + ", " + range;
 }
 
 namespace {
@@ -114,8 +132,9 @@ Control Button(std::string name, std::string caption, std::function<void(Session
   return Clickable(Kind::Button, std::move(name), std::move(caption), std::move(click));
 }
 
-Control Picture(std::string name, std::string tip, std::function<void(Session&)> click) {
+Control Picture(std::string name, Sign sign, std::string tip, std::function<void(Session&)> click) {
   Control c = Clickable(Kind::Picture, std::move(name), {}, std::move(click));
+  c.sign = sign;
   c.tip = std::move(tip);
   return c;
 }
@@ -137,6 +156,14 @@ Control FrameOf(std::string name, std::string caption,
   return c;
 }
 
+Control Surface(std::string name, Painting painting,
+                std::function<std::string(const Session&)> text) {
+  Control c = Clickable(Kind::Surface, std::move(name), {}, {});
+  c.painting = painting;
+  c.text = std::move(text);
+  return c;
+}
+
 Control ValueOption(std::string name, std::string caption, int16 ProjectState::*member, int value) {
   return Option(
       std::move(name), std::move(caption),
@@ -155,6 +182,10 @@ Control FlagCheck(std::string name, std::string caption, int16 ProjectState::*me
         s.st().*member = s.st().*member == 1 ? 0 : 1;
         s.Calculate();
       });
+}
+
+Control CloseButton(std::string name, std::string caption, const Form& form) {
+  return Button(std::move(name), std::move(caption), [&form](Session& s) { s.Close(form); });
 }
 
 }  // namespace korvane

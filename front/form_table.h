@@ -1,53 +1,73 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Forms as tables: every control by its own name, with the rule that belongs to it.
+// Forms as tables: every control with the rule that belongs to it. Code refers to controls and
+// forms by the handles of front/forms/handles.h; names are for scripts.
 #pragma once
 
+#include <deque>
 #include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "core/project_state.h"
+#include "core/input_fields.h"
 
 namespace korvane {
 
 class Session;
+struct Form;
 
 /// What a control is.
 enum class Kind { Input, Option, Check, List, Picture, Button, Label, Surface, Frame, Menu };
 
-/// A limit with its literal message: what is accepted, and how that is told.
-struct Limit {
-  std::function<bool(const ProjectState&, double)> accepts;
-  std::function<std::string(const ProjectState&)> message;
-};
-
-/// What becomes of a refused value.
-enum class Refusal { Stays, BecomesZero };
-
 /// The rule of a text field with a number: the typed value is stored at once, shown again in its
-/// format, then tested; after acceptance `then` runs.
+/// format, then tested against the input's limit; after acceptance `then` runs.
 struct FieldRule {
-  std::function<double(const ProjectState&)> read;
-  std::function<void(ProjectState&, double)> store;
-  const char* format = "#0.0";
-  Limit limit;  ///< no test when empty
-  Refusal refusal = Refusal::Stays;
+  InputRef input;                ///< none of a free text
+  const char* format = nullptr;  ///< where the form shows it otherwise than the input's own
+  /// Where a refused value is shown otherwise.
+  const char* refusedFormat = nullptr;
+  std::optional<Limit> limit;  ///< where another holds than the input's own
   std::function<void(Session&)> then;
   std::function<void(Session&)> afterRefusal;
-  /// Of a field of free text: takes the text when the field is left.
-  std::function<void(ProjectState&, const std::string&)> keep;
+
+  bool IsNumber() const { return input.field != nullptr && !IsText(*input.field); }
+  const char* Format() const { return format != nullptr ? format : input.field->format; }
+  /// Whether there are values that are refused.
+  bool Limited() const { return IsNumber() && HasLimit(input.field->limit); }
+};
+
+/// The picture on a button.
+struct Sign {
+  enum What { None, Support, EndCondition, LoadLevel, Stiffener, Twist, Turn } what = None;
+  int code = 0;
+  /// Of a picture that shows the code in force.
+  int16 ProjectState::*follows = nullptr;
+};
+
+/// What is painted on a surface.
+enum class Painting { None, Figure, ShortResults, LongResults, Modes };
+
+/// Where a family's form shows a value.
+enum class Block { None, Dimensions, Properties, Capacities };
+
+/// A value as it is shown, in parts. Without a text there is nothing to be seen.
+struct ShownText {
+  std::string text, unit;
 };
 
 /// A control of a form. Members that a kind does not use stay empty; a text that follows the
 /// state is a function, anything else a literal caption.
 struct Control {
-  std::string name;  ///< "il", "ipm(3)"
+  std::string name;  ///< "il", "ipm(3)", for scripts
   Kind kind = Kind::Label;
   std::string caption;
   std::function<std::string(const Session&)> text;
   FieldRule field;
   std::function<bool(const Session&)> checked;
   std::function<std::vector<std::string>(const Session&)> items;
+  /// Tells lists of different items apart; without it they are always the same.
+  std::function<int(const Session&)> itemsVersion;
   std::function<int(const Session&)> selected;
   std::function<void(Session&)> click;
   std::function<void(Session&, int)> select;
@@ -56,74 +76,72 @@ struct Control {
   std::function<bool(const Session&)> visible;
   std::string unit;
   std::string tip;
+  std::string letter;  ///< of a dimension, as the figure writes it
   std::string parent;  ///< menu entry above this one
+  Sign sign;
+  Painting painting = Painting::None;
+  Block block = Block::None;
+  int value = -1;  ///< of a label that shows one of the form's values: which
+
+  const Form* form = nullptr;  ///< on which it stands
+  int place = 0;               ///< in the order of its form
 };
+/// Controls stay where they are when others are added.
+using Controls = std::deque<Control>;
 
 /// A form: its controls in the order of the Return key, and what its events do.
 struct Form {
   std::string name;
   std::function<std::string(const Session&)> title;
-  std::vector<Control> controls;
+  Controls controls;
+  std::function<void(Session&)> onShow;  ///< the command that shows it
   std::function<void(Session&)> onFocus;
   std::function<bool(Session&)> onClose;  ///< false: the form stays open
+  /// All values of the form that are worked out together, for the labels that name them.
+  std::function<std::vector<ShownText>(const Session&)> values;
+  bool modal = false;  ///< nothing else can be used until it is closed
+  bool input = false;  ///< shows inputs of the project: closed when another is opened
+  int family = 0;      ///< code of the family whose form it is
 };
 
-/// All forms of the program, made once.
-const std::vector<Form>& AllForms();
-const Form* FindForm(const std::string& name);
-const Control* FindControl(const Form& form, const std::string& name);
+/// The form or control of a name, or nullptr; for scripts.
+const Form* FindForm(std::string_view name);
+const Control* FindControl(const Form& form, std::string_view name);
+/// The field of a form that holds an input, or nullptr.
+const Control* FieldOf(const Form& form, const InputRef& input);
+/// "korvane.il"
+std::string AddressOf(const Control& control);
 
 // --- Building blocks of the tables --------------------------------------------------------------
 
-/// Reads and stores a field of the state, whatever its type. An int16 takes the rounded value.
-template <class T>
-FieldRule Bind(T ProjectState::*member, const char* format) {
-  FieldRule rule;
-  rule.read = [member](const ProjectState& st) { return double(st.*member); };
-  rule.store = [member](ProjectState& st, double v) { StoreNumber(st.*member, v); };
-  rule.format = format;
-  return rule;
-}
+/// The rule of an input of the record, without a follow-up.
+FieldRule Bind(InputMember member, int element = 0);
+/// The same that calculates after acceptance: the usual follow-up.
+FieldRule Calculated(InputMember member, int element = 0);
 
-/// The same for an element of an array field.
-template <class A>
-FieldRule Bind(A ProjectState::*member, int index, const char* format) {
-  FieldRule rule;
-  rule.read = [member, index](const ProjectState& st) { return double((st.*member)[index]); };
-  rule.store = [member, index](ProjectState& st, double v) { StoreNumber((st.*member)[index], v); };
-  rule.format = format;
-  return rule;
-}
-
-void StoreNumber(float32& field, double v);
-void StoreNumber(number& field, double v);
-void StoreNumber(int16& field, double v);
-
-/// low <= v.
-Limit AtLeast(double low, std::string message);
-/// low < v.
-Limit Above(double low, std::string message);
-/// low <= v <= high.
-Limit Between(double low, double high, std::string message);
-/// By the state.
-Limit Accept(std::function<bool(const ProjectState&, double)> accepts, std::string message);
-
-Control Input(std::string name, std::string caption, FieldRule rule, std::string unit = {},
-              std::string tip = {});
+/// The field of an input: its unit is the input's own, its tip tells the accepted values behind
+/// the words.
+Control Input(std::string name, std::string caption, FieldRule rule, std::string tip = {});
+/// What a tip says of a field: its words and the accepted values as they stand.
+std::string TipOf(const Control& control, const ProjectState& st);
 Control Option(std::string name, std::string caption, std::function<bool(const Session&)> checked,
                std::function<void(Session&)> click);
 Control Check(std::string name, std::string caption, std::function<bool(const Session&)> checked,
               std::function<void(Session&)> click);
 Control Button(std::string name, std::string caption, std::function<void(Session&)> click);
-Control Picture(std::string name, std::string tip, std::function<void(Session&)> click);
+Control Picture(std::string name, Sign sign, std::string tip, std::function<void(Session&)> click);
 Control Label(std::string name, std::string caption);
 Control TextLabel(std::string name, std::function<std::string(const Session&)> text);
 Control FrameOf(std::string name, std::string caption,
                 std::function<bool(const Session&)> enabled = {});
+Control Surface(std::string name, Painting painting,
+                std::function<std::string(const Session&)> text);
 
 /// An option that sets an int16 field to a value and calculates.
 Control ValueOption(std::string name, std::string caption, int16 ProjectState::*member, int value);
 /// A check box on an int16 flag that calculates.
 Control FlagCheck(std::string name, std::string caption, int16 ProjectState::*member);
+/// A button that closes its form.
+Control CloseButton(std::string name, std::string caption, const Form& form);
 
 }  // namespace korvane

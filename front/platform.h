@@ -14,6 +14,7 @@ struct Design;
 /// A print dialog's answer.
 struct PrintJob {
   int copies = 1;
+  std::string notice{};  ///< stands at the head of each page; empty where the results hold
 };
 
 /// Local date and time of the page frame.
@@ -50,7 +51,7 @@ public:
   virtual void Beep() {}
   virtual std::optional<PrintJob> AskPrint() { return std::nullopt; }
   /// Prints report 0 (section property and capacity) or 1 (section and stability control).
-  virtual void Print(const Design&, int, int) {}
+  virtual void Print(const Design&, int, const PrintJob&) {}
   virtual void OpenHelp(const std::string&) {}
   virtual DateTime Now() { return {}; }
   /// Raised while a search blocks the input, and its progress.

@@ -1,36 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The life of the program: start, forms, calculation, and the other controls than fields.
 #include "front/session.h"
 
 #include <algorithm>
 
 #include "core/text.h"
-#include "front/forms/forms.h"
-#include "sections/profile_table.h"
 
 namespace korvane {
-
-namespace {
-constexpr const char* kMismatch = "Input string mismatch ";
-}
 
 Session::Session(std::shared_ptr<const Library> library, Platform& platform, bool decimalComma,
                  Folders folders)
     : design_(std::move(library)),
       platform_(platform),
       decimalComma_(decimalComma),
-      folders_(std::move(folders)) {
+      folders_(std::move(folders)),
+      files_(*this),
+      open_{TheForms().main} {
   if (folders_.program.empty()) folders_.program = design_.lib->folder;
   if (folders_.own.empty()) folders_.own = folders_.program;
 }
 
 void Session::Start() {
-  title_ = "KORVANE-NS3472: ";
+  files_.SetTitle(ProjectFiles::TitleOf(""));
   StartDesign(design_);
   ReadOwnDefaults();
   ResetDatabase(database_);
   database_.DbFile = "korvane.db";
-  ReadDatabase(DatabasePath(database_.DbFile), database_);
-  open_ = {"korvane"};
+  ReadDatabase(folders_.own + "/" + database_.DbFile, database_);
   FillMainWindow();
 }
 
@@ -44,305 +40,196 @@ void Session::ReadOwnDefaults() {
   }
 }
 
-std::string Session::DatabasePath(const std::string& file) const {
-  if (file.find('/') != std::string::npos) return file;
-  return folders_.own + "/" + file;
+// --- Forms --------------------------------------------------------------------------------------
+
+bool Session::IsOpen(const Form& form) const {
+  return std::find(open_.begin(), open_.end(), &form) != open_.end();
 }
 
-// --- Finding ------------------------------------------------------------------------------------
-
-Session::Place Session::Find(const std::string& address) const {
-  std::string form = open_.empty() ? "korvane" : open_.back();
-  std::string name = address;
-  if (const auto dot = address.find('.'); dot != std::string::npos) {
-    form = address.substr(0, dot);
-    name = address.substr(dot + 1);
-  }
-  const Form* f = FindForm(form);
-  if (f == nullptr) throw UnknownControl("no form " + form);
-  const Control* c = FindControl(*f, name);
-  if (c == nullptr) throw UnknownControl("no control " + name + " on " + form);
-  return {f, c, form + "." + name};
-}
-
-bool Session::IsOpen(const std::string& form) const {
-  return std::find(open_.begin(), open_.end(), form) != open_.end();
-}
-
-// --- Fields -------------------------------------------------------------------------------------
-
-std::string Session::Shown(double value, const char* format) const {
-  std::string text = Format(value, format);
-  if (decimalComma_) std::replace(text.begin(), text.end(), '.', ',');
-  return text;
-}
-
-std::string Session::OnScreen(std::string text) const {
-  return decimalComma_ ? WithDecimalComma(std::move(text)) : text;
-}
-
-void Session::Refill(const std::string& form, const std::string& control) {
-  const Form* f = FindForm(form);
-  const Control* c = f == nullptr ? nullptr : FindControl(*f, control);
-  if (c == nullptr || c->kind != Kind::Input) return;
-  FieldState& field = fields_[form + "." + control];
-  field.text = c->text ? c->text(*this) : Shown(c->field.read(st()), c->field.format);
-  field.green = false;
-}
-
-void Session::Fill(const std::string& form) {
-  const Form* f = FindForm(form);
-  if (f == nullptr) return;
-  for (const Control& c : f->controls) Refill(form, c.name);
-}
-
-void Session::FillMainWindow() {
-  Fill("korvane");
-}
-
-void Session::FocusField(const std::string& control) {
-  const Place place = Find(control);
-  if (place.control->kind != Kind::Input) return;
-  focus_ = place.key;
-  ++focusings_;
-  fields_[place.key].green = true;
-}
-
-void Session::Type(const std::string& control, const std::string& text) {
-  const Place place = Find(control);
-  if (place.control->kind != Kind::Input) {
-    throw UnknownControl(place.control->name + " is no input field");
-  }
-  fields_[place.key].text = text;
-}
-
-void Session::Mismatch(const Place& place) {
-  platform_.Message(kMismatch);
-  focus_ = place.key;
-  fields_[place.key].green = true;
-}
-
-bool Session::Accept(const Place& place, const FieldRule& rule) {
-  FieldState& field = fields_[place.key];
-  if (!rule.store) {  // free text; project and identification are read on saving only
-    if (rule.keep) rule.keep(st(), field.text);
-    return true;
-  }
-  const auto typed = ParseNumber(field.text, decimalComma_);
-  if (!typed) {
-    Mismatch(place);
-    return false;
-  }
-  const double value = float32(*typed);
-  rule.store(st(), value);
-  const bool ok = !rule.limit.accepts || rule.limit.accepts(st(), value);
-  if (!ok && rule.refusal == Refusal::BecomesZero) rule.store(st(), 0);
-  field.text = Shown(rule.read(st()), rule.format);
-  if (!ok) {
-    platform_.Message(rule.limit.message(st()));
-    focus_ = place.key;
-    if (rule.afterRefusal) rule.afterRefusal(*this);
-    return false;
-  }
-  if (rule.then) rule.then(*this);
-  return true;
-}
-
-bool Session::Leave(const std::string& control) {
-  return LeaveBy(control, Find(control).control->field);
-}
-
-bool Session::LeaveBy(const std::string& control, const FieldRule& rule) {
-  const Place place = Find(control);
-  if (place.control->kind != Kind::Input) return true;
-  try {
-    if (!Accept(place, rule)) {
-      fields_[place.key].green = true;
-      return false;
-    }
-  } catch (const ArithmeticFault&) {
-    Mismatch(place);
-    return false;
-  }
-  FieldState& field = fields_[place.key];
-  if (focus_ == place.key) {
-    // The follow-up may have sent the focus elsewhere; it stands there then.
-    focus_.clear();
-  }
-  field.green = false;
-  return true;
-}
-
-bool Session::Enter(const std::string& control, const std::string& text) {
-  FocusField(control);
-  Type(control, text);
-  return Leave(control);
-}
-
-void Session::Return(const std::string& control) {
-  const Place place = Find(control);
-  if (place.control->returnKey && Enabled(place.key)) place.control->returnKey(*this);
-  if (place.control->kind != Kind::Input) return;
-  if (!Leave(place.key) || !focus_.empty()) return;
-  const std::vector<Control>& all = place.form->controls;
-  const auto count = all.size();
-  const auto at = static_cast<std::size_t>(place.control - all.data());
-  for (std::size_t k = 1; k < count; ++k) {
-    const Control& next = all[(at + k) % count];
-    const std::string key = place.form->name + "." + next.name;
-    if (next.kind == Kind::Input && Enabled(key) && Visible(key)) {
-      FocusField(key);
-      return;
-    }
-  }
-}
-
-const std::string& Session::FieldText(const std::string& form, const std::string& control) const {
-  static const std::string none;
-  const auto it = fields_.find(form + "." + control);
-  return it == fields_.end() ? none : it->second.text;
-}
-
-// --- Other controls -----------------------------------------------------------------------------
-
-void Session::Click(const std::string& control) {
-  const Place place = Find(control);
-  if (!Enabled(place.key) || !Visible(place.key)) return;
-  if (place.control->click) place.control->click(*this);
-}
-
-void Session::Select(const std::string& control, int index) {
-  const Place place = Find(control);
-  if (!place.control->select) throw UnknownControl(place.control->name + " is no list");
-  if (!Enabled(place.key)) return;
-  const auto items = Items(place.key);
-  if (index < 0 || index >= static_cast<int>(items.size())) {
-    throw UnknownControl(place.control->name + " has no entry " + std::to_string(index));
-  }
-  place.control->select(*this, index);
-}
-
-void Session::Menu(const std::string& command) {
-  const Form* main = FindForm("korvane");
-  const Control* c = FindControl(*main, command);
-  if (c == nullptr || c->kind != Kind::Menu) throw UnknownControl("no command " + command);
-  // Opening a menu comes before its entries.
-  for (const Control* above = c; !above->parent.empty();) {
-    above = FindControl(*main, above->parent);
-    if (above == nullptr) break;
-    if (above->name == "mnustiff") st().ManualBucklingCurves = 0;
-  }
-  if (c->name == "mnustiff") st().ManualBucklingCurves = 0;
-  if (c->click && Visible("korvane." + command)) c->click(*this);
-}
-
-void Session::Show(const std::string& form) {
-  if (FindForm(form) == nullptr) throw UnknownControl("no form " + form);
-  std::erase(open_, form);
-  open_.push_back(form);
-  Fill(form);
+void Session::Show(const Form& form) {
+  std::erase(open_, &form);
+  open_.push_back(&form);
+  if (form.onShow) form.onShow(*this);
   Focus(form);
 }
 
-void Session::Focus(const std::string& form) {
-  const Form* f = FindForm(form);
-  if (f == nullptr) throw UnknownControl("no form " + form);
-  if (!IsOpen(form)) throw UnknownControl("form " + form + " is not open");
-  std::erase(open_, form);
-  open_.push_back(form);
-  if (f->onFocus) f->onFocus(*this);
+void Session::Focus(const Form& form) {
+  if (!IsOpen(form)) throw UnknownControl("form " + form.name + " is not open");
+  std::erase(open_, &form);
+  open_.push_back(&form);
+  if (form.onFocus) form.onFocus(*this);
 }
 
-void Session::Unload(const std::string& form) {
-  std::erase(open_, form);
-  if (focus_.rfind(form + ".", 0) == 0) focus_.clear();
+void Session::Unload(const Form& form) {
+  std::erase(open_, &form);
+  fields_.Release(form);
 }
 
-bool Session::Close(const std::string& form) {
-  const Form* f = FindForm(form);
-  if (f == nullptr) throw UnknownControl("no form " + form);
-  if (form == "korvane") {
+bool Session::Close(const Form& form) {
+  if (&form == TheForms().main) {
     End();
     return true;
   }
   if (!IsOpen(form)) return true;
-  if (f->onClose && !f->onClose(*this)) return false;
+  const Control* field = FocusedField();
+  if (field != nullptr && field->form == &form && !Leave(*field)) return false;
+  if (form.onClose && !form.onClose(*this)) return false;
   Unload(form);
   return true;
 }
 
-void Session::Calculate() {
-  ++calculations_;
-  try {
-    korvane::Calculate(design_);
-  } catch (...) {
-    RunCalculation();
-    throw;
-  }
-  // The material step chose the stress by the thickness of the section in force. A field in use
-  // keeps its colour.
-  const bool green = Green("korvane.ifyk");
-  Refill("korvane", "ifyk");
-  fields_["korvane.ifyk"].green = green;
-  RunCalculation();
+std::string Session::Title(const Form& form) const {
+  return form.title ? form.title(*this) : std::string();
 }
 
-void Session::RunCalculation() {
+// --- Calculation --------------------------------------------------------------------------------
+
+void Session::Calculate() {
+  ++calculations_;
+  calculated_.reset();
+  try {
+    korvane::Calculate(design_);
+  } catch (const CalculationFault& fault) {
+    failedStep_ = fault.Step();
+    TellMessages();
+    throw;
+  }
+  calculated_ = design_.st;
+  TellMessages();
+}
+
+void Session::ComposeResults() {
+  korvane::ComposeResults(design_);
+  calculated_ = design_.st;
+}
+
+void Session::TellMessages() {
   for (const std::string& message : design_.messages) platform_.Message(message);
   design_.messages.clear();
 }
 
-// --- What is seen -------------------------------------------------------------------------------
+namespace {
 
-std::string Session::Title(const std::string& form) const {
-  const Form* f = FindForm(form);
-  if (f == nullptr) throw UnknownControl("no form " + form);
-  return f->title ? f->title(*this) : std::string();
+/// Fields that results don't follow, or that name things alone.
+constexpr const char* kAside[] = {
+    "CurrentFileName", "CurrentDir",       "iproj",        "iident",      "FamilyName",
+    "DeflectionLimit", "pmx_relative",     "qtx_relative", "cp_relative", "OptimiseOpen",
+    "ResultView",      "FigureNotToScale", "DatabaseMode"};
+
+template <class T>
+bool Same(const T& a, const T& b) {
+  if constexpr (requires {
+                  a.begin();
+                  b.end();
+                } &&
+                !std::is_same_v<T, std::string>) {
+    return std::equal(a.begin(), a.end(), b.begin());
+  } else {
+    return a == b;
+  }
 }
 
-std::string Session::Text(const std::string& control) const {
-  const Place place = Find(control);
-  const Control& c = *place.control;
-  if (c.kind == Kind::Input) return FieldText(place.form->name, c.name);
+std::vector<InputMember> MembersOfResults() {
+  std::vector<InputMember> members;
+  for (const InputField& field : AllInputFields()) {
+    if (std::find(std::begin(kAside), std::end(kAside), std::string_view(field.name)) ==
+        std::end(kAside)) {
+      members.push_back(field.member);
+    }
+  }
+  return members;
+}
+
+/// Whether two states have the same results.
+bool SameResults(const ProjectState& a, const ProjectState& b) {
+  static const std::vector<InputMember> members = MembersOfResults();
+  return std::all_of(members.begin(), members.end(), [&](const InputMember& of) {
+    return std::visit([&](auto member) { return Same(a.*member, b.*member); }, of);
+  });
+}
+
+}  // namespace
+
+std::string Session::NotCalculated() const {
+  if (calculated_ && SameResults(*calculated_, design_.st)) return {};
+  if (const auto& refused = fields_.Refused()) {
+    const Control& field = *refused->field;
+    const std::string unit = field.unit.empty() ? "" : " " + field.unit;
+    return "not calculated: " + field.caption + " " + StateText(field) + unit + " is refused";
+  }
+  if (!calculated_ && !failedStep_.empty()) return "not calculated: failure in " + failedStep_;
+  return "not calculated with these inputs yet";
+}
+
+// --- Other controls than fields -----------------------------------------------------------------
+
+void Session::Click(const Control& control) {
+  if (!Enabled(control) || !Visible(control)) return;
+  if (control.click) control.click(*this);
+}
+
+void Session::Select(const Control& list, int index) {
+  if (!list.select) throw UnknownControl(list.name + " is no list");
+  if (!Enabled(list)) return;
+  if (index < 0 || index >= static_cast<int>(Items(list).size())) {
+    throw UnknownControl(list.name + " has no entry " + std::to_string(index));
+  }
+  list.select(*this, index);
+}
+
+void Session::Menu(const Control& command) {
+  if (command.kind != Kind::Menu) throw UnknownControl("no command " + command.name);
+  // Opening a menu comes before its entries.
+  const Control* above = &command;
+  while (above != nullptr) {
+    if (above == TheForms().onMain.mnustiff) st().ManualBucklingCurves = 0;
+    above = above->parent.empty() ? nullptr : FindControl(*TheForms().main, above->parent);
+  }
+  if (command.click && Visible(command)) command.click(*this);
+}
+
+std::string Session::Text(const Control& c) const {
+  if (c.kind == Kind::Input) {
+    const std::string* own = fields_.OwnText(c);
+    return own != nullptr ? *own : StateText(c);
+  }
   if (c.kind == Kind::List) {
-    const auto items = Items(place.key);
-    const int index = Selected(place.key);
+    const auto items = Items(c);
+    const int index = Selected(c);
     return index >= 0 && index < static_cast<int>(items.size())
                ? items[static_cast<std::size_t>(index)]
                : std::string();
   }
+  if (c.value >= 0) {
+    const ShownText shown = c.form->values(*this)[static_cast<std::size_t>(c.value)];
+    return shown.unit.empty() ? shown.text : shown.text + " " + shown.unit;
+  }
   return c.text ? c.text(*this) : c.caption;
 }
 
-bool Session::Enabled(const std::string& control) const {
-  const Place place = Find(control);
-  return !place.control->enabled || place.control->enabled(*this);
+std::string Session::Tip(const Control& control) const {
+  return TipOf(control, st());
 }
 
-bool Session::Visible(const std::string& control) const {
-  const Place place = Find(control);
-  return !place.control->visible || place.control->visible(*this);
+bool Session::Enabled(const Control& c) const {
+  return !c.enabled || c.enabled(*this);
 }
 
-bool Session::Checked(const std::string& control) const {
-  const Place place = Find(control);
-  return place.control->checked && place.control->checked(*this);
+bool Session::Visible(const Control& c) const {
+  if (c.value >= 0) return !c.form->values(*this)[static_cast<std::size_t>(c.value)].text.empty();
+  return !c.visible || c.visible(*this);
 }
 
-bool Session::Green(const std::string& control) const {
-  const Place place = Find(control);
-  const auto it = fields_.find(place.key);
-  return it != fields_.end() && it->second.green;
+bool Session::Checked(const Control& c) const {
+  return c.checked && c.checked(*this);
 }
 
-std::vector<std::string> Session::Items(const std::string& control) const {
-  const Place place = Find(control);
-  return place.control->items ? place.control->items(*this) : std::vector<std::string>();
+std::vector<std::string> Session::Items(const Control& list) const {
+  return list.items ? list.items(*this) : std::vector<std::string>();
 }
 
-int Session::Selected(const std::string& control) const {
-  const Place place = Find(control);
-  return place.control->selected ? place.control->selected(*this) : -1;
+int Session::Selected(const Control& list) const {
+  return list.selected ? list.selected(*this) : -1;
 }
 
 }  // namespace korvane

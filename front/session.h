@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program without a window: every form and control by its own name, with their rules.
+// The program without a window: what a person does, what a person sees, and what the tables of
+// the forms need to carry it out.
 #pragma once
 
-#include <map>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "checks/results.h"
 #include "core/calculation.h"
-#include "front/form_table.h"
+#include "front/fields.h"
+#include "front/forms/handles.h"
+#include "front/optimiser_rows.h"
 #include "front/platform.h"
-#include "optimiser/optimize.h"
+#include "front/project_files.h"
 #include "sections/databasebas.h"
 
 namespace korvane {
@@ -30,7 +33,9 @@ struct Folders {
   std::string own;      ///< what the program writes; the program folder when empty
 };
 
-/// One running program. A text field that meets an arithmetic failure says "Input string
+/// One running program. A window shows the state, and only typing changes it: the text of a field
+/// is made from the state when asked for, but for the field being typed in and for the main
+/// window's fields after New. A text field that meets an arithmetic failure says "Input string
 /// mismatch "; from any other control the failure leaves the call as CalculationFault, and the
 /// owner ends the program with a report.
 class Session {
@@ -42,134 +47,122 @@ public:
   /// The start sequence. No calculation runs: the first comes with the focus of the main window.
   void Start();
 
-  // --- What a person does ---
-  /// A form gains the focus: korvane calculates, others fill themselves or set the mode.
-  void Focus(const std::string& form);
+  // --- What a person does
+  // -------------------------------------------------------------------------
+  /// A form gains the focus: the main window calculates, others may set the mode.
+  void Focus(const Form& form);
   /// The field gets the focus: green, whole text selected.
-  void FocusField(const std::string& control);
+  void FocusField(const Control& field);
   /// Typing, without leaving the field.
-  void Type(const std::string& control, const std::string& text);
-  /// Leaving a field: parse, store, show again, test. False when the focus goes back to it.
-  bool Leave(const std::string& control);
+  void Type(const Control& field, const std::string& text);
+  /// Leaving a field: parse, store, show again, test; nothing of it where no key was typed. False
+  /// when the focus goes back to it.
+  bool Leave(const Control& field);
   /// FocusField, Type and Leave.
-  bool Enter(const std::string& control, const std::string& text);
-  /// Leaving a field by another rule than its own, as the Return key of a picture does.
-  bool LeaveBy(const std::string& control, const FieldRule& rule);
+  bool Enter(const Control& field, const std::string& text);
+  /// Taking what stands in a field by another rule than its own, as the Return key of a picture
+  /// does, typed or not.
+  bool LeaveBy(const Control& field, const FieldRule& rule);
   /// The Return key in a field: leaves it and focuses the next field of the form. On a picture
   /// that knows the key, what that says.
-  void Return(const std::string& control);
-  void Click(const std::string& control);
-  void Select(const std::string& control, int index);
-  void Menu(const std::string& command);
-  /// Closes a form; a form may refuse. False when it stays open. Closing korvane ends the program.
-  bool Close(const std::string& form);
+  void Return(const Control& control);
+  /// Puts the last accepted value back where one was refused. False where none was.
+  bool TakeBack();
+  void Click(const Control& control);
+  void Select(const Control& list, int index);
+  void Menu(const Control& command);
+  /// Closes a form; a typed field is left first, and a form may refuse. False when it stays open.
+  /// Closing the main window ends the program.
+  bool Close(const Form& form);
 
-  // --- What a person sees ---
-  std::string Title(const std::string& form) const;
-  std::string Text(const std::string& control) const;
-  bool Enabled(const std::string& control) const;
-  bool Visible(const std::string& control) const;
-  bool Checked(const std::string& control) const;
-  bool Green(const std::string& control) const;
-  std::vector<std::string> Items(const std::string& control) const;
-  int Selected(const std::string& control) const;
-  const std::vector<std::string>& OpenForms() const { return open_; }
-  bool IsOpen(const std::string& form) const;
-  const std::string& FocusedField() const { return focus_; }
+  // --- What a person sees
+  // ---------------------------------------------------------------------------
+  std::string Title(const Form& form) const;
+  std::string Text(const Control& control) const;
+  std::string Tip(const Control& control) const;
+  bool Enabled(const Control& control) const;
+  bool Visible(const Control& control) const;
+  bool Checked(const Control& control) const;
+  /// In use and to be seen.
+  bool Green(const Control& field) const;
+  /// The field's text is not what the calculation uses, or its value was refused.
+  bool Marked(const Control& field) const;
+  /// The value of the field in use was refused, and can be taken back.
+  bool IsRefused(const Control& field) const {
+    return fields_.Refused() && fields_.Refused()->field == &field;
+  }
+  /// What the state holds of a field, as it would be shown.
+  std::string StateText(const Control& field) const;
+  std::vector<std::string> Items(const Control& list) const;
+  int Selected(const Control& list) const;
+  const std::vector<const Form*>& OpenForms() const { return open_; }
+  bool IsOpen(const Form& form) const;
+  /// The form on top.
+  const Form& Top() const { return *open_.back(); }
+  const Control* FocusedField() const { return fields_.InUse(); }
   /// Counts how often a field was given the focus, so that an owner sees whether one was.
   int Focusings() const { return focusings_; }
   bool Ended() const { return ended_; }
   /// Counts the calculations, so that an owner sees whether one ran.
   int Calculations() const { return calculations_; }
-
-  // --- For the tables of the forms and the drawings ---
-  Design& design() { return design_; }
-  const Design& design() const { return design_; }
-  ProjectState& st() { return design_.st; }
-  const ProjectState& st() const { return design_.st; }
-  Platform& platform() { return platform_; }
-  Database& database() { return database_; }
-  const Database& database() const { return database_; }
-  OptimiserResults& optimiser() { return optimiser_; }
-  const OptimiserResults& optimiser() const { return optimiser_; }
-  const Folders& folders() const { return folders_; }
-  std::string DatabasePath(const std::string& file) const;
-
-  /// One calculation; its messages go to message boxes.
-  void Calculate();
-  /// Shows a form on top.
-  void Show(const std::string& form);
-  void Unload(const std::string& form);
-  /// Writes the text of a field from the state, white.
-  void Refill(const std::string& form, const std::string& control);
-  /// Writes all fields of a form from the state.
-  void Fill(const std::string& form);
-  void FillMainWindow();
+  /// Why the results are not those of the state in force, as a sentence; empty when they are.
+  std::string NotCalculated() const;
   /// A number as it is shown, with the platform's decimal mark.
   std::string Shown(double value, const char* format) const;
   /// A text of the engine, its numbers with the platform's decimal mark.
   std::string OnScreen(std::string text) const;
-  void SetTitle(std::string title) { title_ = std::move(title); }
-  const std::string& MainTitle() const { return title_; }
-  /// The commands on files.
-  void NewCommand();
-  void OpenCommand();
-  void OpenRecent(int entry);
-  void SaveCommand();
-  void SaveAsCommand();
-  std::string RecentFile(int entry) const;
-  /// Opens a path as the dialog would have given it.
-  void OpenPath(const std::string& path);
-  void SavePathAs(const std::string& path);
-  void End() { ended_ = true; }
   bool DecimalComma() const { return decimalComma_; }
+  const Design& design() const { return design_; }
+  const ProjectState& st() const { return design_.st; }
+  const Database& database() const { return database_; }
+  const OptimiserRows& rows() const { return rows_; }
+  const ProjectFiles& files() const { return files_; }
 
-  /// Text of the fields that are no numbers (iproj, iident, p41's name).
-  const std::string& FieldText(const std::string& form, const std::string& control) const;
-
-  /// State of the optimiser form.
-  struct OptimiserRowState {
-    bool searched = false;
-    OptimiserRowView view;
-  };
-  std::array<OptimiserRowState, kOptimiserRows + 1>& rows() { return rows_; }
-  const std::array<OptimiserRowState, kOptimiserRows + 1>& rows() const { return rows_; }
+  // --- For the tables of the forms
+  // ------------------------------------------------------------------
+  Design& design() { return design_; }
+  ProjectState& st() { return design_.st; }
+  Platform& platform() { return platform_; }
+  Database& database() { return database_; }
+  OptimiserRows& rows() { return rows_; }
+  ProjectFiles& files() { return files_; }
+  const Folders& folders() const { return folders_; }
+  /// One calculation; its messages go to message boxes.
+  void Calculate();
+  /// Composes the result lines of a silent calculation: they are those of the state now.
+  void ComposeResults();
+  /// Shows a form on top.
+  void Show(const Form& form);
+  void Unload(const Form& form);
+  /// A field of the main window is written anew from the state.
+  void Fill(const Control& field) { fields_.Fill(field); }
+  void FillMainWindow();
+  void End() { ended_ = true; }
   int databaseSelection = -1;  ///< selected entry of the database list
+  int databaseVersion = 0;     ///< counts the changes of the list
 
 private:
-  struct Place {
-    const Form* form;
-    const Control* control;
-    std::string key;  ///< "form.control"
-  };
-  struct FieldState {
-    std::string text;
-    bool green = false;
-  };
-
-  Place Find(const std::string& address) const;
+  friend class ProjectFiles;
   /// Defaults that the program has written itself stand above those of its folder.
   void ReadOwnDefaults();
-  void RunCalculation();
-  bool Accept(const Place& place, const FieldRule& rule);
-  void Mismatch(const Place& place);
-  void Push(const std::string& name);
-  void Promote(const std::string& name);
-  void PromoteEntry(int entry);
-  void AfterOpen();
-  bool ReadInto(const std::string& path);
+  void TellMessages();
+  bool Accept(const Control& field, const FieldRule& rule);
+  void Mismatch(const Control& field);
+  /// New's exception: the fields of the main window keep their texts.
+  void KeepTexts();
 
   Design design_;
   Platform& platform_;
   bool decimalComma_;
   Folders folders_;
   Database database_;
-  OptimiserResults optimiser_;
-  std::array<OptimiserRowState, kOptimiserRows + 1> rows_;
-  std::vector<std::string> open_;
-  std::map<std::string, FieldState> fields_;
-  std::string focus_;
-  std::string title_;
+  OptimiserRows rows_;
+  ProjectFiles files_;
+  Fields fields_;
+  std::vector<const Form*> open_;
+  /// The state that the results are of; none before the first calculation and after a failed one.
+  std::optional<ProjectState> calculated_;
+  std::string failedStep_;
   int calculations_ = 0;
   int focusings_ = 0;
   bool ended_ = false;

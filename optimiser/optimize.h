@@ -14,6 +14,10 @@ namespace korvane {
 /// Values of ResultView, the criterion of a search.
 enum Criterion { kCriterionUls = 0, kCriterionSls = 1, kCriterionUlsSls = 2, kCriterionNone = 3 };
 
+/// What each criterion is called, by its value.
+inline constexpr const char* kCriterionCaptions[] = {"ULS (Buckling/Section Control)",
+                                                     "SLS (Deflection - z-dir)", "ULS/SLS"};
+
 /// One series: a family that has one (Family::search), with what its row of the table tells.
 struct OptimiserRow {
   int row = 0;  ///< 1 to 11

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/aprint.h"
 
-#include "core/text.h"
 #include "presentation/checker_sheet.h"
 #include "presentation/figures.h"
 #include "presentation/page.h"
-#include "sections/p23bas.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
@@ -33,9 +31,7 @@ void DrawSectionReport(DrawingTarget& t, double line, const Design& d) {
   line = DrawSectionValues(t, line + 2.5, d) + 1;
   PutText(t, kC8, line, ModulusLine(d));
   if (IsHsq(d.st.ProfileType)) {
-    PutText(t, kC1, line + 1,
-            "Mdy takes into account flange loading of " + Format(FlangeLoad(d.st) / 60, "0.0") +
-                " kN/m flange (incl loadf)");
+    PutText(t, kC1, line + 1, FlangeLoadLine(d));
   }
   const std::string classFour = ClassFourLine(d);
   if (!classFour.empty()) PutText(t, kC1, line, classFour);
@@ -47,9 +43,11 @@ void DrawSectionReport(DrawingTarget& t, double line, const Design& d) {
 
 }  // namespace
 
-void DrawReport(DrawingTarget& page, Report report, const Design& design, const ReportTime& time) {
+void DrawReport(DrawingTarget& page, Report report, const Design& design, const ReportTime& time,
+                const std::string& notice) {
   const ScopedFrame grid(page, Box{0, 0, kPageWidth, kPageHeight},
                          Box{0, 0, kPageColumns, kPageLines});
+  if (!notice.empty()) DrawNotice(page, notice);
   const double line = DrawPageFrame(page, design, time);
   if (report == Report::SectionProperty) {
     DrawSectionReport(page, line, design);

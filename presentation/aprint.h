@@ -21,8 +21,10 @@ struct ReportTime {
 };
 
 /// Draws a report on a page of kPageWidth by kPageHeight units, from the state of the last
-/// calculation; nothing is calculated for a print.
-void DrawReport(DrawingTarget& page, Report report, const Design& design, const ReportTime& time);
+/// calculation; nothing is calculated for a print. A notice stands at the head of the page: why
+/// the results are not those of the state.
+void DrawReport(DrawingTarget& page, Report report, const Design& design, const ReportTime& time,
+                const std::string& notice = {});
 
 /// The report's name, for titles and files.
 const char* ReportTitle(Report report);

@@ -433,7 +433,7 @@ CheckerBlock Deflection(D d) {
 }  // namespace
 
 CheckerBlocks CheckerResults(const Design& d) {
-  return {SectionValues(d), SectionCapacitiesOf(d), Forces(d),   SectionLine(d),   ShearLines(d),
+  return {SectionValues(d), SectionCapacitiesOf(d), Forces(d),   SectionLine(d), ShearLines(d),
           LateralLine(d),   LeastLateral(d),        Buckling(d), Deflection(d)};
 }
 

@@ -49,7 +49,7 @@ std::vector<AxialLoad> LoadsOf(const ProjectState& st, bool variable) {
 }
 
 std::vector<LabelRun> Runs(const AxialLoad& load) {
-  std::vector<LabelRun> runs = {{Format(load.value, "#0.0")}, {" kN", Role::Quiet}};
+  std::vector<LabelRun> runs = {{DiagramNumber(load.value)}, {" kN", Role::Quiet}};
   if (*load.tag) runs.push_back({std::string("  ") + load.tag, Role::Quiet});
   return runs;
 }
@@ -111,7 +111,7 @@ void DrawAxialForce(DrawingTarget& target, const DiagramOrigin& origin, double N
     target.Polygon(corners, Paint::Both);
     const Point at{sheet.X(0.5), (top + base) / 2};
     sheet.Pen(Role::Ink, 0.1);
-    sheet.Labels().Place({{{Format(N, "#0.0")}}, at, Side::Centre, 0, false});
+    sheet.Labels().Place({{{DiagramNumber(N)}}, at, Side::Centre, 0, false});
   }
   sheet.Axis(axis);
   if (N != 0) {

@@ -2,11 +2,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/text.h"
 #include "presentation/diagram_sheet.h"
 #include "presentation/load_items.h"
 #include "presentation/position_row.h"
 #include "presentation/symbols.h"
+#include "presentation/text_metrics.h"
 
 namespace korvane {
 namespace {
@@ -16,8 +16,8 @@ constexpr double kBandMost = 5;    // greatest height of one band
 constexpr double kBandLeast = 1;
 constexpr double kArrowLeast = 2.2;  // point load above the bands
 constexpr double kArrowMore = 4;     // what the greatest point load has above that
-constexpr double kMomentLeast = 1.5;
-constexpr double kMomentMore = 0.9;
+constexpr double kMomentMore = 0.9;  // what the greatest moment's radius has above the least
+constexpr double kMomentGap = 0.5;   // between two moments' arrows
 constexpr double kSupport = 2.8;
 constexpr double kHeadShare = 0.7;  // greatest part of an arrow that is its head
 constexpr double kRise = 1.2;       // from the arrows to a row of values that had to move apart
@@ -39,41 +39,63 @@ struct Layout {
   double Bands(int layers) const { return layers * layer; }
 };
 
-double MomentRoom(const LoadItems& items) {
-  return items.greatestM > 0 ? kMomentLeast + kMomentMore + 0.6 : 0;
+// Radius of the least moment: its arrow head is as long as the others.
+double LeastRadius(const DiagramStyle& style) {
+  return std::max(1.5, LeastHead(style) / kMomentHead);
 }
 
-// Number and greatest size of the point loads of one side.
+double MomentRoom(const LoadItems& items, const DiagramStyle& style) {
+  return items.greatestM > 0 ? LeastRadius(style) + kMomentMore + 0.6 : 0;
+}
+
+// Length of the least point load's arrow, which its head must not fill.
+double LeastArrow(const DiagramStyle& style) {
+  return std::max(kArrowLeast, LeastHead(style) / kHeadShare);
+}
+
+// Number and greatest size of the point loads of one side, and the rows that their values need.
 struct PointSide {
-  int count = 0;
+  int count = 0, rows = 1;
   double greatest = 0;
 };
 
-PointSide PointsOf(const LoadItems& items, bool upward) {
+std::vector<LabelRun> Runs(double value, const char* tag) {
+  std::vector<LabelRun> runs = {{DiagramNumber(value)}};
+  if (*tag) runs.push_back({std::string(" ") + tag, Role::Quiet});
+  return runs;
+}
+
+PointSide PointsOf(const LoadItems& items, bool upward, const DiagramStyle& style) {
   PointSide side;
+  double width = 0;
   for (const PointLoad& load : items.points) {
     if (load.moment || (load.value < 0) != upward) continue;
     ++side.count;
     side.greatest = std::max(side.greatest, std::fabs(load.value));
+    for (const LabelRun& run : Runs(load.value, load.tag)) {
+      width += ArialWidth(run.text, false) * style.text / style.pen;
+    }
+    width += 0.3 * style.text / style.pen;
   }
+  side.rows = std::clamp(static_cast<int>(std::ceil(width / kPictureWidth)), 1, 4);
   return side;
 }
 
 double SideRoom(const LoadItems& items, const Layout& layout, bool upward,
                 const DiagramStyle& style) {
   double room = layout.Bands(upward ? items.layersBelow : items.layersAbove);
-  const PointSide points = PointsOf(items, upward);
+  const PointSide points = PointsOf(items, upward, style);
   if (points.count > 0) {
-    room += kArrowLeast + kArrowMore * points.greatest / items.greatestP + LineOf(style) +
-            (points.count > 1 ? kRise : 0);
+    room += LeastArrow(style) + kArrowMore * points.greatest / items.greatestP +
+            points.rows * LineOf(style) + (points.count > 1 ? kRise : 0);
   }
-  return std::max(room, MomentRoom(items) + (upward ? 0 : LineOf(style)));
+  return std::max(room, MomentRoom(items, style) + (upward ? 0 : LineOf(style)));
 }
 
 Layout LayoutOf(const LoadItems& items, const DiagramStyle& style) {
   Layout layout;
   const int layers = std::max({1, items.layersAbove, items.layersBelow});
-  layout.band = std::min(kBandMost, kBandTotal / layers);
+  layout.band = std::max(std::min(kBandMost, kBandTotal / layers), LeastHead(style) / kHeadShare);
   layout.layer = layout.band + LineOf(style) + 0.3;
   layout.above = std::max(0.6, SideRoom(items, layout, false, style));
   layout.below = std::max(kSupport + 0.6, SideRoom(items, layout, true, style));
@@ -85,14 +107,9 @@ struct Picture {
   DiagramSheet& sheet;
   const LoadItems& items;
   const Layout& layout;
+  const DiagramStyle& style;
   double axis;
 };
-
-std::vector<LabelRun> Runs(double value, const char* tag) {
-  std::vector<LabelRun> runs = {{Format(value, "#0.0")}};
-  if (*tag) runs.push_back({std::string(" ") + tag, Role::Quiet});
-  return runs;
-}
 
 // Height of an ordinate in its band; what is not 0 can be seen.
 double BandHeight(const Picture& p, double q) {
@@ -120,7 +137,8 @@ void DrawBandArrows(const Picture& p, const DistributedLoad& load, double base, 
     const double h = h1 + f * (h2 - h1);
     if (h < 0.7) continue;
     const double x = x1 + f * (x2 - x1);
-    DrawArrow(t, {x, base + sign * h}, {x, base}, std::min(p.sheet.Sign(0.9), kHeadShare * h));
+    DrawArrow(t, {x, base + sign * h}, {x, base},
+              std::min(std::max(p.sheet.Sign(0.9), LeastHead(p.style)), kHeadShare * h));
   }
 }
 
@@ -129,7 +147,7 @@ void LabelBand(const Picture& p, const DistributedLoad& load, double base, doubl
   p.sheet.Pen(Role::Ink, 0.1);
   const auto place = [&](double x, double q, const char* tag, double slide = 0) {
     const Point anchor{p.sheet.X(x), base + sign * BandHeight(p, q)};
-    p.sheet.Labels().Place({Runs(q, tag), anchor, side, 0.15, false, slide});
+    p.sheet.Labels().Place({Runs(q, tag), anchor, side, 0.15, true, slide});
   };
   // One value for the whole stretch stands anywhere along it.
   const double slide = 0.3 * (p.sheet.X(load.x2) - p.sheet.X(load.x1));
@@ -165,7 +183,7 @@ double ArrowTail(const Picture& p, const PointLoad& load) {
   const bool upward = load.value < 0;
   const double bands = p.layout.Bands(upward ? p.items.layersBelow : p.items.layersAbove);
   const double length =
-      bands + kArrowLeast + kArrowMore * std::fabs(load.value) / p.items.greatestP;
+      bands + LeastArrow(p.style) + kArrowMore * std::fabs(load.value) / p.items.greatestP;
   return p.axis + (upward ? length : -length);
 }
 
@@ -174,20 +192,49 @@ void DrawPointLoad(const Picture& p, const PointLoad& load) {
   const double x = p.sheet.X(load.x);
   const double tail = ArrowTail(p, load);
   p.sheet.Pen(Role::Accent, 0.32);
-  const double head = std::min(p.sheet.Sign(1.7), kHeadShare * std::fabs(p.axis - tail));
+  const double head = std::min(std::max(p.sheet.Sign(1.7), LeastHead(p.style)),
+                               kHeadShare * std::fabs(p.axis - tail));
   DrawArrow(t, {x, tail}, {x, p.axis}, head);
   p.sheet.Labels().Avoid({x, tail}, {x, p.axis});
 }
 
-void DrawMoment(const Picture& p, const PointLoad& load) {
+// A moment with the place of its arrow: those of one position stand side by side.
+struct PlacedMoment {
+  const PointLoad* load;
+  double radius, centre;
+};
+
+std::vector<PlacedMoment> PlaceMoments(const Picture& p) {
+  std::vector<PlacedMoment> moments;
+  for (const PointLoad& load : p.items.points) {
+    if (!load.moment) continue;
+    const double share = std::fabs(load.value) / p.items.greatestM;
+    moments.push_back({&load, LeastRadius(p.style) + kMomentMore * share, 0});
+  }
+  std::stable_sort(
+      moments.begin(), moments.end(),
+      [](const PlacedMoment& a, const PlacedMoment& b) { return a.load->x < b.load->x; });
+  const DrawingTarget& t = p.sheet.Target();
+  std::vector<double> wanted, widths;
+  for (const PlacedMoment& m : moments) {
+    wanted.push_back(p.sheet.X(m.load->x));
+    widths.push_back(t.Across(2 * m.radius));
+  }
+  const std::vector<double> centres = SpreadInRow(wanted, widths, t.Across(kMomentGap),
+                                                  p.sheet.Bounds().left, p.sheet.Bounds().right);
+  for (std::size_t i = 0; i < moments.size(); ++i) moments[i].centre = centres[i];
+  return moments;
+}
+
+void DrawMoment(const Picture& p, const PlacedMoment& moment) {
   DrawingTarget& t = p.sheet.Target();
-  const Point c{p.sheet.X(load.x), p.axis};
-  const double radius = kMomentLeast + kMomentMore * std::fabs(load.value) / p.items.greatestM;
+  const Point c{moment.centre, p.axis};
+  const double radius = moment.radius;
   p.sheet.Pen(Role::Accent, 0.28);
-  DrawMomentArrow(t, c, radius, load.value > 0);
+  DrawMomentArrow(t, c, radius, moment.load->value > 0);
   t.FillColor = Role::Accent;
   t.FillOpacity = 1;
-  t.Circle(c, 0.35, Paint::Filled);
+  t.Circle({p.sheet.X(moment.load->x), p.axis}, 0.35, Paint::Filled);
   const Point low = Beside(t, c, -radius, -radius);
   const Point high = Beside(t, c, radius, radius);
   p.sheet.Labels().Avoid(low, {high.x, low.y});
@@ -195,11 +242,13 @@ void DrawMoment(const Picture& p, const PointLoad& load) {
   p.sheet.Labels().Avoid({high.x, low.y}, high);
 }
 
-void LabelMoment(const Picture& p, const PointLoad& load) {
-  const double radius = kMomentLeast + kMomentMore * std::fabs(load.value) / p.items.greatestM;
+void LabelMoment(const Picture& p, const PlacedMoment& moment) {
   p.sheet.Pen(Role::Ink, 0.1);
-  p.sheet.Labels().Place(
-      {Runs(load.value, load.tag), {p.sheet.X(load.x), p.axis - radius}, Side::Above, 0.3, true});
+  p.sheet.Labels().Place({Runs(moment.load->value, moment.load->tag),
+                          {moment.centre, p.axis - moment.radius},
+                          Side::Above,
+                          p.sheet.Gap(),
+                          true});
 }
 
 // The values of one side's point loads: each at the tail of its arrow; where they would stand
@@ -215,26 +264,31 @@ void LabelPointLoads(const Picture& p, bool upward) {
                    [](const PointLoad* a, const PointLoad* b) { return a->x < b->x; });
   const double gap = t.Across(0.25 * labels.LineHeight());
   std::vector<double> wanted, widths;
-  double total = 0;
   double end = p.axis;
   for (const PointLoad* load : loads) {
     wanted.push_back(p.sheet.X(load->x));
     widths.push_back(labels.WidthOf(Runs(load->value, load->tag)));
-    total += widths.back() + gap;
     const double tail = ArrowTail(p, *load);
     end = upward ? std::max(end, tail) : std::min(end, tail);
   }
-  const double size = t.FontSize;
-  const double fit = std::min(1., p.sheet.Bounds().Width() / std::max(total, 1e-9));
-  t.FontSize = size * fit;
-  for (double& width : widths) width *= fit;
-  const std::vector<double> centres =
-      SpreadInRow(wanted, widths, gap * fit, p.sheet.Bounds().left, p.sheet.Bounds().right);
+  const std::size_t rows = static_cast<std::size_t>(PointsOf(p.items, upward, p.style).rows);
+  std::vector<double> centres(loads.size());
+  for (std::size_t row = 0; row < rows; ++row) {
+    std::vector<double> own, ownWidths;
+    for (std::size_t i = row; i < loads.size(); i += rows) {
+      own.push_back(wanted[i]);
+      ownWidths.push_back(widths[i]);
+    }
+    const std::vector<double> spread =
+        SpreadInRow(own, ownWidths, gap, p.sheet.Bounds().left, p.sheet.Bounds().right);
+    for (std::size_t i = row, k = 0; i < loads.size(); i += rows, ++k) centres[i] = spread[k];
+  }
   const double height = labels.LineHeight();
   for (std::size_t i = 0; i < loads.size(); ++i) {
     const double tail = ArrowTail(p, *loads[i]);
-    const bool moved = std::fabs(centres[i] - wanted[i]) > 0.1 * widths[i];
-    const double edge = moved ? end + (upward ? kRise : -kRise) : tail + (upward ? 0.2 : -0.2);
+    const bool moved = rows > 1 || std::fabs(centres[i] - wanted[i]) > 0.1 * widths[i];
+    const double rise = kRise + static_cast<double>(i % rows) * LineOf(p.style);
+    const double edge = moved ? end + (upward ? rise : -rise) : tail + (upward ? 0.2 : -0.2);
     if (moved) {
       p.sheet.Pen(Role::Quiet, 0.08);
       t.Line({wanted[i], tail}, {wanted[i], end});
@@ -244,7 +298,6 @@ void LabelPointLoads(const Picture& p, bool upward) {
     labels.Fix(Runs(loads[i]->value, loads[i]->tag),
                {centres[i] - widths[i] / 2, upward ? edge : edge - height});
   }
-  t.FontSize = size;
 }
 
 void DrawMember(const Picture& p, const ProjectState& st) {
@@ -272,21 +325,17 @@ void DrawLoads(DrawingTarget& target, const DiagramOrigin& origin, const Project
   const Layout layout = LayoutOf(items, style);
   DiagramSheet sheet(target, origin, style, LoadsHeight(st, plane, variable, style));
   sheet.Title(TitleOf(plane, variable), origin.y);
-  const Picture p{sheet, items, layout, origin.y + LineOf(style) + layout.above};
+  const Picture p{sheet, items, layout, style, origin.y + LineOf(style) + layout.above};
   for (const DistributedLoad& load : items.distributed) DrawBand(p, load);
   DrawMember(p, st);
+  const std::vector<PlacedMoment> moments = PlaceMoments(p);
+  for (const PlacedMoment& moment : moments) DrawMoment(p, moment);
   for (const PointLoad& load : items.points) {
-    if (load.moment) {
-      DrawMoment(p, load);
-    } else {
-      DrawPointLoad(p, load);
-    }
+    if (!load.moment) DrawPointLoad(p, load);
   }
   DrawPositionRow(sheet, items.Positions(), st.L, p.axis + layout.below, style.text);
   for (const bool upward : {false, true}) LabelPointLoads(p, upward);
-  for (const PointLoad& load : items.points) {
-    if (load.moment) LabelMoment(p, load);
-  }
+  for (const PlacedMoment& moment : moments) LabelMoment(p, moment);
   for (const DistributedLoad& load : items.distributed) {
     const double sign = load.Upward() ? 1 : -1;
     LabelBand(p, load, BandBase(p, load, sign), sign);

@@ -56,7 +56,7 @@ void DrawExtreme(DiagramSheet& sheet, const Curve& curve, double value, double a
   t.Circle(p, 0.42, Paint::Filled);
   sheet.Pen(Role::Ink, kThin);
   sheet.Labels().Place(
-      {{{Format(value, "#0.0")}}, p, ordinate >= 0 ? Side::Above : Side::Below, 0.55, true});
+      {{{DiagramNumber(value)}}, p, ordinate >= 0 ? Side::Above : Side::Below, sheet.Gap(), true});
 }
 
 // A small plus on the side of the positive values, at the left of the axis.
@@ -101,7 +101,8 @@ DiagramSheet::DiagramSheet(DrawingTarget& target, const DiagramOrigin& origin,
       before_(target),
       bounds_(Box::At(origin.x, origin.y, kPictureWidth, height)),
       labels_(target, bounds_),
-      pen_(style.pen) {
+      pen_(style.pen),
+      gap_(LabelGap(style)) {
   if (origin.destination == Destination::Picture) target_.Clear();
   target_.FontName = "Arial";
   target_.FontBold = target_.FontUnderline = false;
@@ -137,6 +138,10 @@ void DiagramSheet::Pen(Role colour, double width) {
   target_.SetLineUnits(width * pen_);
 }
 
+std::string DiagramNumber(double value) {
+  return Format(value, std::fabs(value) < 1E12 ? "#0.0" : "0.000E+0");
+}
+
 double Ordinate(double value, double greatest, double scale) {
   return greatest == 0 ? 0 : value * scale / greatest;
 }
@@ -147,7 +152,9 @@ CurveRoom RoomOf(double max, double min, double scale, const DiagramStyle& style
   const double b = Ordinate(min, greatest, scale);
   const double up = std::max({0., a, b});
   const double down = std::max({0., -a, -b});
-  const auto room = [&](double side) { return side > 0 ? side + 0.6 + LineOf(style) : kLeastRoom; };
+  const auto room = [&](double side) {
+    return side > 0 ? side + LabelGap(style) + LineOf(style) : kLeastRoom;
+  };
   return {room(up), room(down)};
 }
 

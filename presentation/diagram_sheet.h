@@ -28,10 +28,12 @@ public:
   Box Title(const std::string& text, double y);
   /// The member's line with a tick at each end.
   void Axis(double y);
+  /// Colour and width of the lines that follow; the width is multiplied by the style's pen.
   void Pen(Role colour, double width);
   /// Size of an arrow head or another sign, grid units across the member: where the picture is
   /// flattened, signs keep the size that they have along the member.
   double Sign(double size) const { return size * pen_; }
+  double Gap() const { return gap_; }
 
 private:
   DrawingTarget& target_;
@@ -39,12 +41,27 @@ private:
   Box bounds_;
   LabelPlacer labels_;
   double pen_;
+  double gap_;
 };
 
 /// Height of a line of text with its air, grid units.
 inline double LineOf(const DiagramStyle& style) {
   return 1.25 * style.text;
 }
+
+/// Length of an arrow head that is read at arm's length, grid units across the member: 1.5 mm on
+/// paper, where no letters are under 6 pt.
+inline double LeastHead(const DiagramStyle& style) {
+  return 1.7 / 2.4 * style.text;
+}
+
+/// The least distance of a value from the line that it belongs to, grid units.
+inline double LabelGap(const DiagramStyle& style) {
+  return 0.2 * style.text;
+}
+
+/// A value of a diagram ("#0.0"), short where it is longer than any picture.
+std::string DiagramNumber(double value);
 
 /// One curve over the member.
 struct Curve {
@@ -62,6 +79,7 @@ struct Curve {
 struct CurveRoom {
   double above = 0, below = 0;
 };
+/// For a curve between max and min whose greatest ordinate is scale grid units.
 CurveRoom RoomOf(double max, double min, double scale, const DiagramStyle& style);
 
 /// Ordinate of a value in grid units, upwards; 0 where the greatest is 0.

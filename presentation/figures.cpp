@@ -138,13 +138,30 @@ Point BeyondEnd(const Window& w, Point a, Point b) {
   return {b.x + f * (b.x - a.x), b.y + f * (b.y - a.y)};
 }
 
+/// Two dimensions below the section that touch, one of them too short for its heads: the second
+/// stands a line lower, so that neither's arrows and letter meet the other's.
+struct Crowd {
+  const SectionDimension* first = nullptr;
+  const SectionDimension* second = nullptr;
+};
+Crowd CrowdBelow(const Window& w) {
+  Crowd crowd;
+  for (const SectionDimension& d : w.shape.dimensions) {
+    if (d.side == DimensionSide::Below) (crowd.first ? crowd.second : crowd.first) = &d;
+  }
+  const bool tight =
+      crowd.second != nullptr && (Outside(w, *crowd.first) || Outside(w, *crowd.second));
+  return tight ? crowd : Crowd{};
+}
+
 DimensionLine LineOf(const Window& w, const SectionDimension& d) {
+  const Crowd crowd = CrowdBelow(w);
   const double offset = kOffset * w.size;
   const double near = kNear * w.size;
   DimensionLine line{d.a, d.b, {}, Side::Below};
   switch (d.side) {
     case DimensionSide::Below:
-      line.a.y = line.b.y = -offset;
+      line.a.y = line.b.y = -offset * (&d == crowd.second ? 1.8 : 1);
       break;
     case DimensionSide::Above:
       line.a.y = line.b.y = w.shape.H + offset;
@@ -163,11 +180,21 @@ DimensionLine LineOf(const Window& w, const SectionDimension& d) {
       break;
   }
   const double f = d.side == DimensionSide::Above ? kLetterAbove : 0.5;
+  const double middle = (line.a.y + line.b.y) / 2;
+  if (d.side == DimensionSide::Right && Outside(w, d) &&
+      std::fabs(middle - w.shape.yAxis) < kText * w.size) {
+    // The axis takes the place beside the middle: the letter stands at the outer arrow.
+    const double outer = middle < w.shape.H / 2 ? std::min(line.a.y, line.b.y) - kText * w.size
+                                                : std::max(line.a.y, line.b.y) + kText * w.size;
+    line.letter = {line.a.x, outer};
+    return line;
+  }
   line.letter = {line.a.x + f * (line.b.x - line.a.x), line.a.y + f * (line.b.y - line.a.y)};
   const bool flat = d.side == DimensionSide::Below || d.side == DimensionSide::Above;
   if (Outside(w, d) && (flat || d.side == DimensionSide::Inside)) {
-    line.letter = BeyondEnd(w, line.a, line.b);
-    if (flat) line.side = Side::Right;
+    const bool left = &d == crowd.first;
+    line.letter = left ? BeyondEnd(w, line.b, line.a) : BeyondEnd(w, line.a, line.b);
+    if (flat) line.side = left ? Side::Left : Side::Right;
   }
   return line;
 }

@@ -61,6 +61,7 @@ struct DiagramInfo {
 
 /// All diagrams, in the order of DiagramKind.
 std::span<const DiagramInfo> AllDiagrams();
+/// The names of one.
 const DiagramInfo& InfoOf(DiagramKind kind);
 
 /// What diagrams read. N is the axial force in kN, compression positive.
@@ -93,6 +94,7 @@ std::string ValueUnderPointer(DiagramKind kind, double relative, const DiagramDa
 /// The member with supports, stiffeners, lateral restraint points and chosen points.
 void DrawBeamSketch(DrawingTarget& target, const DiagramOrigin& origin, const ProjectState& st,
                     const DiagramStyle& style);
+/// Its height in grid units, as those below.
 double BeamSketchHeight(const ProjectState& st, const DiagramStyle& style);
 
 /// Axial loads of the permanent or of both variable groups, unfactored; a variable load of 0 has

@@ -31,7 +31,7 @@ const std::vector<Move>& Moves() {
   return moves;
 }
 
-constexpr double kCrossing = 1.2;     // cost of standing on a line
+constexpr double kCrossing = 3;       // cost of standing on a line
 constexpr double kOutside = 50;       // leaving the bounds, per line height
 constexpr double kOverlapping = 1e3;  // standing on another label
 constexpr double kTooMuch = 1e9;

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/supports.h"
+#include "presentation/symbols.h"
 
 namespace korvane {
 
@@ -81,6 +82,9 @@ void DrawModeShapes(DrawingTarget& target, const Box& place, int supportType, do
     target.LineDash = Dash::Dashed;
     target.Line({place.left + margin, axis}, {place.left + margin + width, axis});
     target.LineDash = Dash::Solid;
+    target.ForeColor = Role::Quiet;
+    DrawSupports(target, supportType, {place.left + margin, axis},
+                 {place.left + margin + width, axis}, 0, 0.7 * letters);
     target.ForeColor = Role::Accent;
     target.LineWidth = 2;
     std::array<Point, kSteps + 1> curve;

@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "presentation/figures.h"
 #include "sections/names.h"
+#include "sections/p23bas.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
@@ -29,10 +30,37 @@ void PutRight(DrawingTarget& t, double column, double line, std::string_view tex
 
 void PutValue(DrawingTarget& t, double column, double line, std::string_view name,
               std::string_view value, std::string_view unit) {
+  constexpr double left = 11.2;
+  constexpr double right = 20.8;
   PutText(t, column, line, name);
   PutText(t, column + 9.8, line, "=");
-  PutRight(t, column + 20.8, line, value);
+  const std::string number = ShortNumbers(value);
+  const double room = std::min(1.0, (right - left) / t.TextWidth(number));
+  const double size = t.FontSize;
+  t.FontSize = size * room;
+  PutRight(t, column + right, line, number);
+  t.FontSize = size;
   PutText(t, column + 21.6, line, unit);
+}
+
+std::string ShortNumbers(std::string_view text) {
+  constexpr std::size_t most = 12;
+  constexpr std::string_view digits = "0123456789";
+  std::string out;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t first = std::min(text.find_first_of(digits, at), text.size());
+    out += text.substr(at, first - at);
+    std::size_t end = std::min(text.find_first_not_of(digits, first), text.size());
+    const bool decimals = first > 0 && text[first - 1] == '.';
+    const bool isLong = end - first > most && !decimals;
+    if (isLong && end < text.size() && text[end] == '.') {
+      end = std::min(text.find_first_not_of(digits, end + 1), text.size());
+    }
+    const std::string_view number = text.substr(first, end - first);
+    out += isLong ? Format(LeadingNumber(number), "0.000E+0") : std::string(number);
+    at = end;
+  }
+  return out;
 }
 
 namespace {
@@ -67,18 +95,65 @@ void PutFitted(DrawingTarget& t, double column, double line, const std::string& 
 
 namespace {
 
+bool InsideCharacter(const std::string& text, std::size_t at) {
+  return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
+}
+
+}  // namespace
+
+std::size_t LineBreak(const DrawingTarget& t, const std::string& text, double width) {
+  std::size_t fits = 0, blank = 0;
+  for (std::size_t end = 1; end <= text.size(); ++end) {
+    if (InsideCharacter(text, end)) continue;
+    const char last = text[end - 1];
+    const std::string head = text.substr(0, last == ' ' ? end - 1 : end);
+    if (t.TextWidth(head) > width) break;
+    fits = end;
+    if (last == ' ' || last == '/' || last == '\\') blank = end;
+  }
+  return blank > text.size() / 4 || blank > fits / 2 ? blank : std::max<std::size_t>(fits, 1);
+}
+
+void PutWrapped(DrawingTarget& t, double column, double line, const std::string& text,
+                double width) {
+  if (t.TextWidth(text) <= width) return PutText(t, column, line, text);
+  const double size = t.FontSize;
+  std::size_t end = 0;
+  for (const double letters : {7.0, 6.5, kLeastSize}) {
+    t.FontSize = letters;
+    end = LineBreak(t, text, width);
+    if (t.TextWidth(text.substr(end)) <= width) break;
+  }
+  const double step = 1.02 * t.TextHeight();
+  PutText(t, column, line - 0.35 * step, text.substr(0, end));
+  const std::string rest = text.substr(end);
+  PutText(t, column, line + 0.65 * step,
+          t.TextWidth(rest) <= width ? rest : Shortened(t, rest, width));
+  t.FontSize = size;
+}
+
+namespace {
+
 std::string Two(int v) {
   return (v < 10 ? "0" : "") + std::to_string(v);
 }
 
 /// The end of a path matters more than its beginning.
 std::string FileOf(const DrawingTarget& t, const std::string& path, double width) {
-  if (t.TextWidth(path) <= width) return path;
+  if (t.TextWidth(path) <= 2 * width) return path;
   const auto slash = path.find_last_of("/\\");
-  return slash == std::string::npos ? path : path.substr(slash + 1);
+  return slash == std::string::npos ? path : "..." + path.substr(slash);
 }
 
 }  // namespace
+
+void DrawNotice(DrawingTarget& t, const std::string& notice) {
+  t.ForeColor = Role::Fail;
+  t.FontSize = kFrameSize;
+  t.FontBold = true;
+  PutFitted(t, kMargin, 1.8, notice, kRightEdge - kMargin);
+  t.FontBold = false;
+}
 
 double DrawPageFrame(DrawingTarget& t, const Design& d, const ReportTime& time) {
   constexpr double top = 4;
@@ -100,14 +175,14 @@ double DrawPageFrame(DrawingTarget& t, const Design& d, const ReportTime& time) 
 
   const auto field = [&](double column, double line, const char* label, const std::string& value) {
     PutText(t, first + 1, line, label);
-    PutFitted(t, column, line, value, second - column - 1);
+    PutWrapped(t, column, line, value, second - column - 1);
   };
   field(first + 15, top + 0.8, "Project: ", d.st.iproj);
   field(first + 15, top + 2.6, "Identification: ", d.st.iident);
   field(first + 15, top + 4.4, "Page:", "1/1");
   const auto right = [&](double line, const char* label, const std::string& value) {
     PutText(t, second + 1, line, label);
-    PutFitted(t, second + 8, line, value, kRightEdge - second - 9);
+    PutWrapped(t, second + 8, line, value, kRightEdge - second - 9);
   };
   right(top + 0.8,
         "Date: ", Two(time.day) + "." + Two(time.month) + "." + std::to_string(time.year));
@@ -231,6 +306,18 @@ std::string ProfileLine(const Design& d) {
   const FamilyWords& words = family->words;
   return word + NameDimensions(st, d.lib->catalogues) + words.pageEnd +
          (words.pageOption == nullptr ? std::string() : words.pageOption(st));
+}
+
+std::string FlangeLoadLine(const Design& d) {
+  std::string line = "Mdy takes into account flange loading of " +
+                     Format(FlangeLoad(d.st) / 60, "0.0") + " kN/m flange (incl loadf)";
+  ProjectState considered = d.st;
+  considered.HsqKind = 0;
+  // What the calculation switches off when it finds the flange overloaded.
+  if (d.st.HsqKind != 0 && FlangeLoad(considered) > FlangeStrength(d.st, d.rec)) {
+    line += " - removed: overloaded";
+  }
+  return line;
 }
 
 std::string ModulusLine(const Design& d) {

@@ -35,9 +35,22 @@ void PutRight(DrawingTarget& t, double column, double line, std::string_view tex
 /// Text in a field: a long one takes smaller letters, and only then loses its end, which "..."
 /// stands for.
 void PutFitted(DrawingTarget& t, double column, double line, const std::string& text, double width);
+/// Text in a field of two lines: a long one wraps, at blanks where it can, in letters not under
+/// kLeastSize; only then it loses its end, which "..." stands for.
+void PutWrapped(DrawingTarget& t, double column, double line, const std::string& text,
+                double width);
+/// Where the first of several lines of a text ends: behind the last blank or slash that fits the
+/// width, else behind the last character that does.
+std::size_t LineBreak(const DrawingTarget& t, const std::string& text, double width);
+/// A text with each number of more than 12 digits before its point printed short
+/// ("3.999E+13"), so that no number leaves its field.
+std::string ShortNumbers(std::string_view text);
 /// name "=" value unit, the value right aligned; the width of the block is 26 columns.
 void PutValue(DrawingTarget& t, double column, double line, std::string_view name,
               std::string_view value, std::string_view unit);
+
+/// A notice above the frame, in the colour of what fails.
+void DrawNotice(DrawingTarget& t, const std::string& notice);
 
 /// The frame with title, project and date blocks. Returns the line below it.
 double DrawPageFrame(DrawingTarget& t, const Design& d, const ReportTime& time);
@@ -49,9 +62,11 @@ double DrawSectionValues(DrawingTarget& t, double line, const Design& d);
 
 /// "  HEA200", "  RHS 100x100x5 (Hotf.)".
 std::string ProfileLine(const Design& d);
-/// "Section class 1-2: Plastic section modulus " and the options of class 4, empty where a
-/// family has none.
+/// What the flange of an HSQ beam carries, and whether the program has left it out.
+std::string FlangeLoadLine(const Design& d);
+/// "Section class 1-2: Plastic section modulus ", empty where a family has no such option.
 std::string ModulusLine(const Design& d);
+/// The options of class 4 in force; empty with none, and where a family has none.
 std::string ClassFourLine(const Design& d);
 
 /// The whole control report below the frame.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/position_row.h"
 
+#include <algorithm>
+
 #include "core/text.h"
 
 namespace korvane {
@@ -8,8 +10,9 @@ namespace {
 
 constexpr double kSmaller = 0.85;  // size of the numbers against that of the labels
 constexpr std::size_t kInOneRow = 8;
-constexpr double kMark = 0.65;  // from the line to the first row, of the labels' size
-constexpr double kGap = 0.9;    // between two numbers, and the way of a thin line
+constexpr double kLeastLetters = 6;  // pt on paper, where the labels are not smaller
+constexpr double kMark = 0.65;       // from the line to the first row, of the labels' size
+constexpr double kGap = 0.9;         // between two numbers, and the way of a thin line
 
 double RowHeight(double text) {
   return 1.3 * kSmaller * text;
@@ -86,7 +89,11 @@ void DrawPositionRow(DiagramSheet& sheet, const std::vector<double>& positions, 
   if (positions.empty()) return;
   DrawingTarget& t = sheet.Target();
   const DrawingState before = t;
+  const double size = t.FontSize;
   t.SetTextUnits(text * kSmaller);
+  if (size > 0.99 * kLeastLetters) {
+    t.FontSize = std::max(t.FontSize, std::min(size, kLeastLetters));
+  }
   std::vector<Number> numbers;
   for (const double at : positions) {
     Number n;

@@ -20,6 +20,7 @@ struct SectionDimension {
   std::string letter;
   Point a, b;
   DimensionSide side = DimensionSide::Inside;
+  /// Between the points, mm.
   double Length() const;
 };
 

@@ -50,6 +50,7 @@ void AddWeb(SectionShape& s, const char* letter, double x, double t, double y);
 SectionShape RolledI(const Source& s);
 /// Tapered flanges with rounded tips: INP.
 SectionShape TaperedI(const Source& s);
+/// Two equal flanges and a web, welded.
 SectionShape WeldedI(const Source& s);
 /// UPE, PFC, CH.
 SectionShape ParallelChannel(const Source& s);
@@ -59,20 +60,35 @@ SectionShape TaperedChannel(const Source& s);
 SectionShape Hollow(const Source& s);
 /// Equal and unequal angles, with the principal axes.
 SectionShape Angle(const Source& s);
+/// Welded I with flanges of two sizes.
 SectionShape SingleI(const Source& s);
+/// T, flange at the top.
 SectionShape TSection(const Source& s);
+/// Box with equal flanges; the webs stand p23_a from their edges.
 SectionShape Box23(const Source& s);
+/// HSQ, the bottom plate wider on both sides.
 SectionShape Hsq24(const Source& s);
+/// HSQ, the bottom plate wider on one side.
 SectionShape Hsq25(const Source& s);
+/// Box with unequal flanges, the webs p27_a apart.
 SectionShape Box27(const Source& s);
+/// Flat bar, upright.
 SectionShape FlatBar(const Source& s);
+/// Two circles.
 SectionShape Tube(const Source& s);
+/// Plate with a flat below; so with the stiffeners that follow.
 SectionShape PlateFlat(const Source& s);
+/// With a rolled angle, its roundings drawn.
 SectionShape PlateAngle(const Source& s);
+/// With an angle of two plates.
 SectionShape PlateWeldedAngle(const Source& s);
+/// With a bulb flat.
 SectionShape PlateBulb(const Source& s);
+/// With a trapezoid of one wall thickness.
 SectionShape PlateTrapeze(const Source& s);
+/// With a T girder.
 SectionShape PlateGirder(const Source& s);
+/// No outline: a square of 100 mm with its axes.
 SectionShape General(const Source& s);
 
 }  // namespace korvane::shapes

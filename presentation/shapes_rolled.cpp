@@ -27,20 +27,43 @@ void AddWeb(SectionShape& s, const char* letter, double x, double t, double y) {
   Add(s, letter, {x, y}, {x + t, y}, DimensionSide::Inside);
 }
 
-static FlangedSizes DrawnFlanges(const Source& s, double r, double tipShare, double flanges) {
+/// A flange as it is drawn: the thickness of its tip in shares of tf, and where from the tip the
+/// catalogue measures tf, in shares of b.
+struct Flange {
+  double tip = 1, measured = 0;
+};
+constexpr Flange kTaperedI{kTipShare, 0.25};
+constexpr Flange kTaperedChannel{kTipShare, 0.5};
+
+static FlangedSizes DrawnFlanges(const Source& s, double r, const Flange& flange, double flanges) {
   const SectionRecord& rec = s.rec;
   const Walls wall(s, std::max<double>(rec.h, rec.b));
   FlangedSizes d{rec.h, rec.b, wall(rec.tw, rec.b / 4), wall(rec.tf, rec.h / 6), r, 0};
   const double room = std::min((d.b - d.tw) / flanges, d.h / 2 - d.tf);
   d.r = DrawnRadius(r, rec.tf, d.tf, room);
-  d.tip = tipShare * d.tf;
+  d.tip = flange.tip * d.tf;
   return d;
 }
 
-static SectionShape ISection(const Source& s, double r, double tipShare) {
-  const FlangedSizes d = DrawnFlanges(s, r, tipShare, 2);
+/// Thickest where the root's radius begins: tf is that of the place where it is measured.
+static FlangedSizes Tapered(FlangedSizes d, const Flange& flange, double flanges) {
+  const double root = (d.b - d.tw) / flanges - d.r;
+  const double measured = flange.measured * d.b;
+  if (measured > 0 && root > 0) d.tf = d.tip + (d.tf - d.tip) * root / measured;
+  return d;
+}
+
+/// tf at the tip of a parallel flange, else where it is measured.
+static void AddFlangeOf(SectionShape& shape, const FlangedSizes& d, const Flange& flange) {
+  if (flange.measured == 0) return AddFlange(shape, "tf", d.b, d.h - d.tf, d.h);
+  const double x = d.b * (1 - flange.measured);
+  Add(shape, "tf", {x, d.h - d.tf}, {x, d.h}, DimensionSide::Inside);
+}
+
+static SectionShape ISection(const Source& s, double r, const Flange& flange) {
+  const FlangedSizes d = DrawnFlanges(s, r, flange, 2);
   SectionShape shape;
-  shape.polygons = {IOutline(d, s.steps)};
+  shape.polygons = {IOutline(Tapered(d, flange, 2), s.steps)};
   shape.H = d.h;
   shape.W = d.b;
   shape.yAxis = d.h / 2;
@@ -48,24 +71,24 @@ static SectionShape ISection(const Source& s, double r, double tipShare) {
   Add(shape, "b", {0, 0}, {d.b, 0}, DimensionSide::Below);
   AddHeight(shape, "h", 0, d.h);
   AddWeb(shape, "tw", (d.b - d.tw) / 2, d.tw, 0.28 * d.h);
-  AddFlange(shape, "tf", d.b, d.h - d.tf, d.h);
+  AddFlangeOf(shape, d, flange);
   return shape;
 }
 
 SectionShape RolledI(const Source& s) {
-  return ISection(s, s.rec.r, 1);
+  return ISection(s, s.rec.r, {});
 }
 SectionShape TaperedI(const Source& s) {
-  return ISection(s, s.rec.r, kTipShare);
+  return ISection(s, s.rec.r, kTaperedI);
 }
 SectionShape WeldedI(const Source& s) {
-  return ISection(s, 0, 1);
+  return ISection(s, 0, {});
 }
 
-static SectionShape Channel(const Source& s, double r, double tipShare) {
-  const FlangedSizes d = DrawnFlanges(s, r, tipShare, 1);
+static SectionShape Channel(const Source& s, double r, const Flange& flange) {
+  const FlangedSizes d = DrawnFlanges(s, r, flange, 1);
   SectionShape shape;
-  shape.polygons = {ChannelOutline(d, s.steps)};
+  shape.polygons = {ChannelOutline(Tapered(d, flange, 1), s.steps)};
   shape.H = d.h;
   shape.W = d.b;
   shape.yAxis = d.h / 2;
@@ -73,15 +96,15 @@ static SectionShape Channel(const Source& s, double r, double tipShare) {
   Add(shape, "b", {0, 0}, {d.b, 0}, DimensionSide::Below);
   AddHeight(shape, "h", 0, d.h);
   AddWeb(shape, "tw", 0, d.tw, 0.28 * d.h);
-  AddFlange(shape, "tf", d.b, d.h - d.tf, d.h);
+  AddFlangeOf(shape, d, flange);
   return shape;
 }
 
 SectionShape ParallelChannel(const Source& s) {
-  return Channel(s, s.rec.r, 1);
+  return Channel(s, s.rec.r, {});
 }
 SectionShape TaperedChannel(const Source& s) {
-  return Channel(s, s.rec.r1, kTipShare);
+  return Channel(s, s.rec.r1, kTaperedChannel);
 }
 
 SectionShape Hollow(const Source& s) {

@@ -102,7 +102,8 @@ static SectionShape HatShape(const Source& s, const Hat& hat, double c) {
     Add(shape, hat.topLetter, {hat.left, shape.H}, {right, shape.H}, DimensionSide::Above);
   }
   Add(shape, hat.bottomLetter, {0, 0}, {shape.W, 0}, DimensionSide::Below);
-  AddHeight(shape, "h", rec.tf2, shape.H);
+  // From the top of the bottom plate, as it is drawn.
+  AddHeight(shape, "h", tf2, shape.H);
   AddWeb(shape, "a", 0, hat.left, tf2 + 0.2 * shape.H);
   AddWeb(shape, "tw", right - tw, tw, 0.4 * shape.H);
   AddFlange(shape, "tf1", right - rim, top, shape.H);

@@ -114,7 +114,7 @@ void DrawMomentArrow(DrawingTarget& target, Point centre, double radius, bool cl
   const double sweep = clockwise ? -250 : 250;
   target.Arc(centre, radius, start, sweep);
   // The head follows the curve: it points along the chord of its own length.
-  const double head = std::min(1.3, radius * 0.55);
+  const double head = kMomentHead * radius;
   const double turn = head / radius * 180 / kPi * (clockwise ? -1 : 1);
   const auto at = [&](double degrees) {
     const double a = degrees * kPi / 180;

@@ -17,14 +17,15 @@ void DrawArrowHead(DrawingTarget& target, Point tip, double dx, double dy, doubl
 /// A line from tail to tip with a head.
 void DrawArrow(DrawingTarget& target, Point tail, Point tip, double head);
 
-/// Part of a circle around a point with an arrow head at its end; clockwise for a positive
-/// moment.
+/// Part of a circle around a point with an arrow head at its end, kMomentHead of its radius long;
+/// clockwise for a positive moment.
+inline constexpr double kMomentHead = 0.7;
 void DrawMomentArrow(DrawingTarget& target, Point centre, double radius, bool clockwise);
 
+inline constexpr double kOutsideHeads = 3.2;  ///< length in heads below which they stand outside
+inline constexpr double kOutsideTail = 2.2;   ///< length of an outside arrow in heads
 /// A dimension line between two points. Shorter than kOutsideHeads heads it has them outside,
 /// pointing inwards.
-inline constexpr double kOutsideHeads = 3.2;
-inline constexpr double kOutsideTail = 2.2;  ///< length of an outside arrow in heads
 void DrawDimension(DrawingTarget& target, Point a, Point b, double head);
 
 /// The supports of a member whose axis runs between two points of one height and which is

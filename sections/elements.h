@@ -12,7 +12,7 @@ namespace korvane {
 double PlateSlenderness(double ratio, double eps, double k);
 
 /// Effective width factor rho of a plate element: (lam - 0.22)/lam^2 for lam above 0.673, else
-/// 1; 1 as well when the buckling of the element is not taken into account.
+/// 1; 1 as well when the buckling of the element is not taken into account (12.2).
 double EffectiveWidth(double ratio, double eps, double k, bool ignored);
 
 /// Buckling factor of an internal element in bending, psi the ratio of its edge stresses.
@@ -69,9 +69,11 @@ struct CompressedSide {
 /// Effective section in bending: distance of its axis from the compressed edge and its second
 /// moment about that axis.
 struct BentSection {
-  double e;
-  double I;
+  double e;  ///< mm
+  double I;  ///< mm4
 };
+/// Takes away the flange's part, then the web's strip (1 - rho)*hc that leaves 0.6*rho*hc beside
+/// the axis found without the flange's part; no further round (12.2).
 BentSection ReduceInBending(const CompressedSide& side, double eps);
 
 /// Shear area and buckling of one wall direction.

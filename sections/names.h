@@ -17,6 +17,7 @@ struct SizeList {
   Cat catalogue = Cat::HEA;
   int row = 0;  ///< the chosen row
 };
+/// The list of the family in force with its chosen row.
 SizeList SizesOf(const ProjectState& st);
 
 /// One entry of a size list, numbers in general form with their leading blank ("HEA 100",

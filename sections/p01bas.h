@@ -7,14 +7,22 @@
 
 namespace korvane {
 
-/// Dimension steps (mm, mm2, mm4, mm6, kg/m, m2/m).
+// Dimension steps: the chosen row of the catalogue to the record, in mm, mm2, mm3, mm4, mm6, kg/m
+// and m2/m. They throw ArithmeticFault for a row that the catalogue lacks.
+
+/// The row idxHEA of HEA.
 void LoadHEA(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+/// The row idxHEB of HEB.
 void LoadHEB(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+/// The row idxHEM of HEM.
 void LoadHEM(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+/// The row idxIPE of IPE.
 void LoadIPE(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+/// The row idxINP of INP, whose flanges are tapered.
 void LoadINP(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
 /// UB, UC or UBP by p101_sub; another value takes no dimension step.
 void LoadBritishU(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
+/// The row p102_idx of the joists.
 void LoadJ(const ProjectState& st, const Catalogues& cat, SectionRecord& rec);
 
 /// Columns 4 to 9 of the British tables: S, h, b, tw, tf, r, and from column `first` on A, g,

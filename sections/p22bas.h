@@ -34,6 +34,7 @@ void EffectiveModuli(const ProjectState& st, const RemovedFlange& top, const Rem
                      double webs, double H, double depth, bool fullStripInertia,
                      SectionRecord& rec);
 
+/// Aeff in mm2 and the effective moduli of both sides in mm3, for every class (12.2).
 void SingleEffectiveSection(const ProjectState& st, SectionRecord& rec);
 /// Moment of the class tests by side, kNm: signed, and 1 when there is none, so that the pattern
 /// of stresses stays that of bending.
@@ -66,6 +67,8 @@ void SideShear(const ProjectState& st, const SectionForces& f, const ShearedWeb&
 /// The sheared web of a section with its flanges inside the overall height H.
 ShearedWeb WebBetweenFlanges(double H, const SectionRecord& rec);
 
+/// Axial capacities in kN and moment capacities by side in kNm, reduced for shear (12.2.3,
+/// 12.2.4, 12.2.7), for the classes that the record holds; Mdy is the lesser side.
 void SingleCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
 /// Two passes, My = 10 and Ncl = 10; the shown values are those of the first.
 void SingleNominalCapacities(const ProjectState& st, const Family& family, SectionForces& f,

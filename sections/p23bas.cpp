@@ -205,7 +205,7 @@ void TwoWebCapacities(const ProjectState& st, const SectionForces& f, double qf,
   rec.Ncrd = ForceOf(st, rec.betaA * rec.A);
 
   double factor = 1;
-  const double Mf = 1.75 * st.fyk / st.gammam1 * rec.tf2 * rec.tf2 / 6;
+  const double Mf = FlangeStrength(st, rec);
   if (qf > 0.2 * Mf) {
     if (1 - qf / Mf < 0) {
       rec.flangeOverloaded = true;
@@ -234,6 +234,10 @@ double FlangeLoad(const ProjectState& st) {
   if (!IsHsq(st.ProfileType) || st.HsqKind != 0 || st.AnalysisMode != 1) return 0;
   const double q = FlangeLineLoad(st) * 60;
   return IsOneSidedHsq(st.ProfileType) ? q : q * st.p24_load / 100;
+}
+
+double FlangeStrength(const ProjectState& st, const SectionRecord& rec) {
+  return 1.75 * st.fyk / st.gammam1 * rec.tf2 * rec.tf2 / 6;
 }
 
 void HsqCapacities(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {

@@ -29,11 +29,15 @@ void TwoWebEffective(const ProjectState& st, const TwoWebFlange& top, const TwoW
 
 /// Aeff in mm2 and the effective moduli of both sides in mm3, for every class. 12.2.
 void HsqSymmetricEffective(const ProjectState& st, SectionRecord& rec);
+/// The same with one outstand of the bottom plate, the clear depth in psi and the whole strip's
+/// inertia: kept.
 void HsqOneSidedEffective(const ProjectState& st, SectionRecord& rec);
+/// The same with two outstands at each flange, those of the top by p27_a.
 void BoxUnequalEffective(const ProjectState& st, SectionRecord& rec);
 
 /// classTop and classBottom; read My only, Ncl plays no part. 12.1.
 void BoxUnequalClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
+/// The same with the overall height from the lower edge of the bottom plate.
 void HsqClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec);
 /// SingleCapacities (kN, kNm) with the flange loading of HSQ beams; sets flangeOverloaded when the
 /// load on one flange exceeds what it can carry.
@@ -45,5 +49,7 @@ void BoxUnequalCapacities(const ProjectState& st, const SectionForces& f, Sectio
 /// Load on one flange, kN per metre and flange length as the check counts it, 0 when flange
 /// loading does not apply.
 double FlangeLoad(const ProjectState& st);
+/// What one flange can carry, in the same measure.
+double FlangeStrength(const ProjectState& st, const SectionRecord& rec);
 
 }  // namespace korvane

@@ -56,9 +56,11 @@ public:
       : columns_(columns), values_(static_cast<std::size_t>(capacity) * columns, 0.0F) {}
   /// The file's number; throws ArithmeticFault outside the table.
   double operator()(int row, int col) const;
+  /// Writes one number; throws ArithmeticFault outside the table.
   void Set(int row, int col, float v);
   /// All numbers, row after row.
   std::span<float> Values() { return values_; }
+  /// Rows that there is room for.
   int Capacity() const { return columns_ ? static_cast<int>(values_.size()) / columns_ : 0; }
   int Columns() const { return columns_; }
 

@@ -40,6 +40,7 @@ struct RectList {
 struct SumResult {
   double A = 0, xbar = 0, ybar = 0, Iy = 0, Iz = 0, Ix = 0;
 };
+/// Areas, centroid (from the left and the lowest edge) and second moments about its axes.
 SumResult SectionSum(const RectList& list);
 
 /// Plastic axis above the lowest edge, found by a walk from 2 mm in steps of 0.1 mm to the first
@@ -50,11 +51,12 @@ double WalkPlasticAxis(const RectList& list, double A, double H);
 double PlasticModulus(const RectList& list, double y);
 
 /// Plastic axis (from the top) and modulus of a T with its flange b x tf at the top and a web
-/// hw x tw below, of area A; closed form.
+/// hw x tw below, of area A; closed form. Lengths in mm, the modulus in mm3.
 struct PlasticT {
   double y;
   double Wply;
 };
+/// The axis lies in the flange where that has half of the area, else in the web.
 PlasticT PlasticAxisOfT(double A, double b, double tf, double hw, double tw);
 
 }  // namespace korvane

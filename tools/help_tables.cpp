@@ -2,125 +2,27 @@
 #include "tools/help_tables.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
-#include <functional>
 #include <regex>
 #include <vector>
 
 #include "checks/notes.h"
+#include "front/named_session.h"
 #include "front/platform.h"
-#include "front/session.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
 
 namespace {
 
-// --- Accepted values ----------------------------------------------------------------------------
-
-/// Largest size of a value that is tried; a limit that accepts it has no end on that side.
-constexpr double kFar = 1e12;
-
-/// One side of the accepted values.
-struct End {
-  bool open = false;  ///< no end on this side
-  double value = 0;
-  bool included = true;
-  bool operator==(const End&) const = default;
-};
-
-std::string Plain(double value) {
-  char digits[32];
-  const auto end =
-      std::to_chars(digits, digits + sizeof digits, value, std::chars_format::general, 6);
-  return std::string(digits, end.ptr);
-}
-
-double Rounded(double value) {
-  if (std::abs(value) < 1e-9) return 0;
-  const std::string digits = Plain(value);
-  double rounded = 0;
-  std::from_chars(digits.data(), digits.data() + digits.size(), rounded);
-  return rounded;
-}
-
-using Accepts = std::function<bool(double)>;
-
-/// The end between an accepted value and a refused one.
-End EndBetween(const Accepts& accepts, double good, double bad) {
-  for (int step = 0; step < 200; ++step) {
-    const double middle = good + (bad - good) / 2;
-    (accepts(middle) ? good : bad) = middle;
-  }
-  const double value = Rounded(good);
-  // The state holds single precision: an end counts as accepted when its own digits do.
-  return {false, value, accepts(value)};
-}
-
-/// Accepted values of a new project's size, on a grid that is dense near zero.
-std::vector<double> Grid() {
-  std::vector<double> grid{0};
-  for (double size = 1e-3; size < 1e10; size *= 1.1) {
-    grid.push_back(size);
-    grid.push_back(-size);
-  }
-  std::sort(grid.begin(), grid.end());
-  return grid;
-}
-
-struct Range {
-  End low, high;
-  bool operator==(const Range&) const = default;
-};
-
-Range Probe(const Accepts& accepts) {
-  const std::vector<double> grid = Grid();
-  const auto first = std::find_if(grid.begin(), grid.end(), accepts);
-  const auto last = std::find_if(grid.rbegin(), grid.rend(), accepts);
-  Range range;
-  if (first == grid.end()) return range;
-  range.low.open = accepts(-kFar);
-  range.high.open = accepts(kFar);
-  if (!range.low.open) range.low = EndBetween(accepts, *first, -kFar);
-  if (!range.high.open) range.high = EndBetween(accepts, *last, kFar);
-  return range;
-}
-
-std::string Words(const Range& r) {
-  const std::string low = (r.low.included ? "at least " : "more than ") + Plain(r.low.value);
-  const std::string high = (r.high.included ? "at most " : "less than ") + Plain(r.high.value);
-  if (r.low.open && r.high.open) return "any";
-  if (r.high.open) return low;
-  if (r.low.open) return high;
-  if (r.low.included && r.high.included) {
-    return Plain(r.low.value) + " to " + Plain(r.high.value);
-  }
-  return low + ", " + high;
-}
-
-/// The new project with other inputs changed, to see what a limit follows.
+/// The new project with other inputs changed, to meet all messages of a limit that follows them.
 std::vector<ProjectState> Variants(const ProjectState& st) {
-  std::vector<ProjectState> variants(4, st);
-  ProjectState& sizes = variants[0];
-  sizes.L = st.L * 2;
-  sizes.p23_b = st.p23_b * 2;
-  sizes.p24_b = st.p24_b * 2;
-  sizes.p24_tw = st.p24_tw * 2;
-  sizes.p25_b2 = st.p25_b2 * 2;
-  sizes.p25_tw = st.p25_tw * 2;
-  sizes.p27_a = st.p27_a * 2;
-  sizes.p27_tw = st.p27_tw * 2;
-  variants[1].SupportType = 4;
-  ProjectState& relative = variants[2];
+  std::vector<ProjectState> variants(3, st);
+  variants[0].SupportType = 4;
+  ProjectState& relative = variants[1];
   relative.pmx_relative = relative.qtx_relative = relative.cp_relative = 1;
-  ProjectState& negative = variants[3];
+  ProjectState& negative = variants[2];
   negative.p23_a = negative.p24_a = -1;
   return variants;
-}
-
-Range RangeIn(const Limit& limit, const ProjectState& st) {
-  return Probe([&](double v) { return limit.accepts(st, v); });
 }
 
 // --- HTML ---------------------------------------------------------------------------------------
@@ -195,8 +97,8 @@ const char* KindWord(Kind kind) {
 
 /// All messages that the field may say, in the words of the program.
 std::string Messages(const Limit& limit, const ProjectState& st) {
-  std::vector<std::string> said{limit.message(st)};
-  for (const ProjectState& variant : Variants(st)) said.push_back(limit.message(variant));
+  std::vector<std::string> said{InForce(limit, st).message};
+  for (const ProjectState& variant : Variants(st)) said.push_back(InForce(limit, variant).message);
   std::string out;
   for (std::size_t i = 0; i < said.size(); ++i) {
     if (std::find(said.begin(), said.begin() + static_cast<std::ptrdiff_t>(i), said[i]) !=
@@ -213,15 +115,15 @@ std::string FieldTable(const Form& form, const Session& s, const ProjectState& n
   std::string rows;
   for (const Control& c : form.controls) {
     if (c.kind != Kind::Input) continue;
-    std::string accepted = c.field.read ? "any number" : "any text";
+    std::string accepted = c.field.IsNumber() ? "any number" : "any text";
     std::string message;
-    if (c.field.limit.accepts) {
-      const AcceptedRange range = RangeOf(c.field.limit, newProject);
-      accepted = range.text + (range.follows ? " *" : "");
-      message = Messages(c.field.limit, newProject);
+    if (c.field.Limited()) {
+      const Limit& limit = c.field.input.field->limit;
+      accepted = RangeWords(InForce(limit, newProject)) + (limit.follows != nullptr ? " *" : "");
+      message = Messages(limit, newProject);
     }
-    rows += Row({Code(c.name), Escaped(Caption(c.caption)), Escaped(c.unit),
-                 Escaped(s.Text(form.name + "." + c.name)), accepted, message});
+    rows += Row({Code(c.name), Escaped(Caption(c.caption)), Escaped(c.unit), Escaped(s.Text(c)),
+                 accepted, message});
   }
   if (rows.empty()) return {};
   return "<table>\n" +
@@ -230,15 +132,15 @@ std::string FieldTable(const Form& form, const Session& s, const ProjectState& n
 }
 
 /// What stands on the control, or what it holds.
-std::string Words(const Control& c, const std::string& key, const Session& s) {
+std::string Words(const Control& c, const Session& s) {
   std::string words = Escaped(Caption(c.caption));
   const auto add = [&words](const std::string& more) {
     words += (words.empty() ? "" : "; ") + more;
   };
   if (!c.tip.empty()) add(Escaped(Trimmed(c.tip)));
-  if (c.kind == Kind::Picture && c.text) add("a code, at first " + Code(s.Text(key)));
+  if (c.kind == Kind::Picture && c.text) add("a code, at first " + Code(s.Text(c)));
   if (c.kind != Kind::List) return words;
-  const std::vector<std::string> items = s.Items(key);
+  const std::vector<std::string> items = s.Items(c);
   if (items.empty()) {
     add("empty at first");
   } else {
@@ -256,7 +158,7 @@ std::string OtherControls(const Form& form, const Session& s) {
     const char* kind = KindWord(c.kind);
     if (kind == nullptr) continue;
     if (c.kind != Kind::Option) frame.clear();
-    rows += Row({Code(c.name), kind, frame + Words(c, form.name + "." + c.name, s)});
+    rows += Row({Code(c.name), kind, frame + Words(c, s)});
   }
   if (rows.empty()) return {};
   return "<table>\n" + Row({"Control", "Kind", "What stands on it or what it holds"}, "th") + rows +
@@ -290,13 +192,12 @@ std::string TitleOf(const Form& form, const Session& s) {
 /// One form with the values of a new project in its fields.
 std::string FormSection(const Form& form, const std::shared_ptr<const Library>& library) {
   Platform platform;
-  Session s(library, platform, false);
+  NamedSession s(library, platform, false);
   s.Start();
   const ProjectState newProject = s.st();
   s.Focus("korvane");
   if (const Family* family = FamilyOfForm(form.name)) s.st().ProfileType = family->code;
   if (form.name != "korvane") s.Show(form.name);
-  s.Fill(form.name);
   const std::string body = FieldTable(form, s, newProject) + OtherControls(form, s) +
                            (form.name == "korvane" ? Commands(form) : "");
   if (body.empty()) return {};
@@ -366,15 +267,6 @@ std::string NotesOf(Severity severity) {
 }
 
 }  // namespace
-
-AcceptedRange RangeOf(const Limit& limit, const ProjectState& newProject) {
-  const Range range = RangeIn(limit, newProject);
-  bool follows = false;
-  for (const ProjectState& variant : Variants(newProject)) {
-    follows = follows || !(RangeIn(limit, variant) == range);
-  }
-  return {Words(range), follows};
-}
 
 std::string InputsPage(std::shared_ptr<const Library> library) {
   std::string page = kHead;

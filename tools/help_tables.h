@@ -11,16 +11,6 @@
 
 namespace korvane {
 
-/// The values that a limit accepts, found by trying: a limit is a routine, and no second copy of
-/// it is kept for the reader.
-struct AcceptedRange {
-  std::string text;      ///< "0.3 to 2", "at least 0.05", "any"
-  bool follows = false;  ///< depends on other inputs; the text holds for a new project
-};
-
-/// What the limit accepts with the values of a new project.
-AcceptedRange RangeOf(const Limit& limit, const ProjectState& newProject);
-
 /// The whole page: every form with its fields (unit, value in a new project, accepted values,
 /// message), its other controls and the commands of the menus. UTF-8, the same on every machine.
 std::string InputsPage(std::shared_ptr<const Library> library);

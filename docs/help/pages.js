@@ -37,6 +37,7 @@ const pages = [
   ["reports.html", "Reports and diagrams", "Tools"],
   ["files.html", "Files", "Tools"],
   ["console.html", "The console program", "Tools"],
+  ["tables.html", "Tables of members and studies", "Tools"],
   ["fails.html", "It fails, what now?", "When in doubt"],
   ["notes.html", "Verdict and notes", "When in doubt"],
   ["messages.html", "Messages and what to do", "When in doubt"],

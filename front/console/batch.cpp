@@ -2,20 +2,18 @@
 #include "front/console/batch.h"
 
 #include <algorithm>
-#include <atomic>
 #include <charconv>
 #include <csignal>
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <ostream>
 #include <sstream>
 #include <system_error>
-#include <thread>
 #include <utility>
 
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
+#include "front/console/in_order.h"
 #include "front/console/run_design.h"
 #include "front/console/stop_signal.h"
 #include "front/console/terminal.h"
@@ -34,7 +32,6 @@ struct Chunk {
   std::size_t first = 0, last = 0;  ///< files first..last-1
   std::string lines, remarks;
   BatchCounts counts;
-  std::atomic<bool> done = false;
 };
 
 /// Designs the files of a chunk, up to the one that a signal leaves out.
@@ -42,20 +39,6 @@ void DesignChunk(const std::vector<std::string>& files, const Design& started, b
                  Design& work, Chunk& chunk) {
   for (std::size_t f = chunk.first; f < chunk.last && StopSignal::Received() == 0; ++f)
     AppendBatchLine(files[f], started, work, optimise, chunk.lines, chunk.remarks, chunk.counts);
-  chunk.done = true;
-  chunk.done.notify_one();
-}
-
-/// As many threads as wanted, or as the system gives; without any the work is done here.
-std::vector<std::jthread> StartThreads(int wanted, const std::function<void()>& work) {
-  std::vector<std::jthread> pool;
-  pool.reserve(static_cast<std::size_t>(wanted));
-  try {
-    for (int i = 0; i < wanted; ++i) pool.emplace_back(work);
-  } catch (const std::system_error&) {
-    if (pool.empty()) work();
-  }
-  return pool;
 }
 
 bool IsProjectName(const fs::path& path) {
@@ -87,21 +70,9 @@ std::vector<std::string> ProjectsBelow(const fs::path& folder) {
   return found;
 }
 
-int Threads(const BatchOptions& options, std::size_t files) {
-  const unsigned cores = std::max(1U, std::thread::hardware_concurrency());
-  const auto wanted = static_cast<std::size_t>(options.jobs > 0 ? options.jobs : int(cores));
-  return static_cast<int>(std::clamp<std::size_t>(wanted, 1, std::max<std::size_t>(files, 1)));
-}
-
-std::vector<Chunk> Chunks(std::size_t files, int threads) {
-  const std::size_t share = files / (static_cast<std::size_t>(threads) * 8);
-  const std::size_t size = std::clamp<std::size_t>(share, 1, kMostPerChunk);
-  std::vector<Chunk> chunks((files + size - 1) / size);
-  for (std::size_t i = 0; i < chunks.size(); ++i) {
-    chunks[i].first = i * size;
-    chunks[i].last = std::min(files, (i + 1) * size);
-  }
-  return chunks;
+/// Files of a chunk.
+std::size_t ChunkSize(std::size_t files, int threads) {
+  return std::clamp<std::size_t>(files / (static_cast<std::size_t>(threads) * 8), 1, kMostPerChunk);
 }
 
 std::string Totals(const BatchCounts& counts) {
@@ -167,32 +138,35 @@ BatchCounts DesignFiles(std::shared_ptr<const Library> library,
                         bool header, std::ostream& table, std::ostream& progress,
                         bool showProgress) {
   const Design started = StartedDesign(std::move(library));
-  const int threads = Threads(options, files.size());
-  std::vector<Chunk> chunks = Chunks(files.size(), threads);
-  std::atomic<std::size_t> next = 0;
-  const auto work = [&] {
-    Design design = started;
-    for (std::size_t i = next++; i < chunks.size(); i = next++)
-      DesignChunk(files, started, options.optimise, design, chunks[i]);
-  };
-  const std::vector<std::jthread> pool = StartThreads(threads, work);
-
+  const int threads = ThreadsFor(options.jobs, files.size());
+  const std::size_t size = ChunkSize(files.size(), threads);
   BatchCounts counts;
   ProgressBar bar(progress, showProgress, "projects");
   if (header) table << BatchHeader(options.optimise);
-  for (Chunk& chunk : chunks) {
-    chunk.done.wait(false);
-    table << chunk.lines;
-    if (!chunk.remarks.empty()) {
-      bar.Finish();
-      progress << chunk.remarks;
-    }
-    std::string().swap(chunk.lines);
-    counts.Add(chunk.counts);
-    // The lines end where the work did: what other threads did behind it is left out.
-    if (chunk.counts.All() < chunk.last - chunk.first) break;
-    bar.Update(chunk.last, files.size());
-  }
+  std::size_t next = 0;
+  WorkInOrder<Chunk>(
+      threads,
+      [&](Chunk& chunk) {
+        chunk = Chunk{next, std::min(files.size(), next + size), {}, {}, {}};
+        next = chunk.last;
+        return chunk.first < files.size();
+      },
+      [&] {
+        return [&, design = started](Chunk& chunk) mutable {
+          DesignChunk(files, started, options.optimise, design, chunk);
+        };
+      },
+      [&](const Chunk& chunk) {
+        table << chunk.lines;
+        if (!chunk.remarks.empty()) {
+          bar.Finish();
+          progress << chunk.remarks;
+        }
+        counts.Add(chunk.counts);
+        bar.Update(chunk.last, files.size());
+        // The lines end where the work did: what other threads did behind it is left out.
+        return chunk.counts.All() == chunk.last - chunk.first;
+      });
   bar.Finish();
   return counts;
 }

@@ -2,19 +2,16 @@
 // One project of a batch: its design and its line.
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
 #include <exception>
 #include <initializer_list>
-#include <limits>
 #include <string_view>
 
 #include "core/text.h"
 #include "front/console/batch.h"
 #include "front/console/run_design.h"
 #include "front/console/terminal.h"
-#include "optimiser/optimize.h"
 #include "sections/profile_table.h"
+#include "studies/result_columns.h"
 
 namespace korvane {
 namespace {
@@ -53,14 +50,6 @@ void AppendField(std::string_view field, std::string& lines) {
   lines += '"';
 }
 
-/// The shortest digits that read back to the same value.
-template <class Value>
-std::string Digits(Value v) {
-  std::array<char, 32> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), v).ptr;
-  return {text.data(), end};
-}
-
 /// A ratio with the lines that may show it. Which line a buckling ratio goes to differs with the
 /// family, so the printed value decides.
 struct Candidate {
@@ -96,19 +85,12 @@ const CheckLine* GoverningLine(const CheckResults& c) {
   return governing->ir > 0.0 ? LineOf(*governing) : nullptr;
 }
 
-/// x of the greatest deflection L/x of both planes; empty without deflection, and with end
-/// forces, which give none.
+/// x of the greatest deflection L/x of both planes.
 std::string DeflectionRatio(const Design& d) {
-  if (d.st.AnalysisMode != 1) return {};
-  double greatest = 0.0;
-  for (const double v : {d.deflections.DeflZ_max, d.deflections.DeflZ_min, d.deflections.DeflY_max,
-                         d.deflections.DeflY_min})
-    greatest = std::max(greatest, std::fabs(v));
-  if (greatest == 0.0) return {};
-  // Beyond single precision there is no deflection worth a ratio.
-  const double ratio = d.st.L * 1000.0 / greatest;
-  if (ratio > static_cast<double>(std::numeric_limits<float>::max())) return {};
-  return Digits(static_cast<float>(ratio));
+  const auto z = LengthOverDeflectionZ(d);
+  const auto y = LengthOverDeflectionY(d);
+  if (!z && !y) return {};
+  return Digits(std::min(z.value_or(*(y ? y : z)), y.value_or(*(z ? z : y))));
 }
 
 void FillResults(const Design& d, Line& line) {
@@ -128,11 +110,7 @@ void FillResults(const Design& d, Line& line) {
 void FillVerdict(const Verdict& v, Line& line) {
   line.standing = StandingWord(v.standing);
   line.sls = ServiceabilityWord(v.sls);
-  for (const Note& note : v.notes) {
-    if (note.Weight() == Severity::Information) continue;
-    if (!line.notes.empty()) line.notes += ' ';
-    line.notes += KindOf(note.code).word;
-  }
+  line.notes = NoteCodes(v);
   constexpr std::array status{"pass", "fail", "not checked", "fault"};
   line.status = status.at(static_cast<std::size_t>(v.standing));
 }
@@ -140,15 +118,11 @@ void FillVerdict(const Verdict& v, Line& line) {
 /// The lightest size of the project's own series by ULS; nothing for a family without a series
 /// and where no size passes.
 void FillOptimised(Design& d, Line& line) {
-  d.st.ManualBucklingCurves = 0;
-  d.st.ResultView = kCriterionUls;
-  OptimiserResults results;
-  if (!OptimiseCurrent(d, results)) return;
-  const int row = d.st.ProfileType;
-  if (!results.Passes[row]) return;
-  line.optimisedSection = TextCell(SectionTitle(d.st, d.lib->catalogues));
-  line.optimisedWeight = Digits(d.rec.S.Single());
-  line.optimisedIR = Digits(results.BestIR[row].Single());
+  const auto lightest = FindLightestSize(d);
+  if (!lightest) return;
+  line.optimisedSection = TextCell(lightest->section);
+  line.optimisedWeight = Digits(lightest->weight);
+  line.optimisedIR = Digits(lightest->IR);
 }
 
 void DesignOne(const std::string& path, Design& work, bool optimise, Line& line,

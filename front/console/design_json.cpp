@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/console/design_json.h"
 
-#include "core/project_fields.h"
+#include "core/input_fields.h"
 #include "front/console/json_writer.h"
 #include "sections/profile_table.h"
 #include "sections/section_fields.h"

@@ -38,14 +38,18 @@ void JsonWriter::Value(double v) {
 }
 
 void JsonWriter::Value(std::string_view v) {
+  AppendJsonText(v, text_);
+}
+
+void AppendJsonText(std::string_view v, std::string& line) {
   if (std::all_of(v.begin(), v.end(), IsPlain)) {
-    text_ += '"';
-    text_ += v;
-    text_ += '"';
+    line += '"';
+    line += v;
+    line += '"';
     return;
   }
   using nlohmann::json;
-  text_ += json(std::string(v)).dump(-1, ' ', false, json::error_handler_t::replace);
+  line += json(std::string(v)).dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
 }  // namespace korvane

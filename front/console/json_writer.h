@@ -2,6 +2,7 @@
 // Writes a JSON text as it goes, two blanks a level, a member or an element a line.
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -10,6 +11,9 @@
 #include "core/numeric.h"
 
 namespace korvane {
+
+/// A text as JSON at the end of a line; what is not UTF-8 comes out as the replacement character.
+void AppendJsonText(std::string_view text, std::string& line);
 
 /// Members in the order of the calls. Texts are UTF-8; what is not comes out as the replacement
 /// character. Numbers are the shortest that read back to the same value, with a decimal point or
@@ -92,6 +96,10 @@ private:
   void Value(std::string_view v);
   void Value(const char* v) { Value(std::string_view(v)); }
   void Value(const std::string& v) { Value(std::string_view(v)); }
+  template <std::same_as<bool> Bool>
+  void Value(Bool v) {
+    text_ += v ? "true" : "false";
+  }
   void Value(std::nullptr_t) { text_ += "null"; }
 
   std::string text_;

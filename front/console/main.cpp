@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iostream>
 
+#include "front/console/completion.h"
 #include "front/console/design_json.h"
 #include "front/console/design_text.h"
 #include "front/console/exit_status.h"
@@ -16,6 +17,7 @@
 #include "front/console/paint.h"
 #include "front/console/run_design.h"
 #include "front/console/script.h"
+#include "front/console/study_commands.h"
 #include "front/console/terminal.h"
 #include "front/data_folder.h"
 #include "front/locale.h"
@@ -166,7 +168,9 @@ int main(int argc, char** argv) {
   addData(session);
   session->callback([&] { status = RunSession(file, decimal, data); });
   AddBatchCommands(app, status);
+  AddStudyCommands(app, status);
   AddPaintCommands(app, status);
+  AddCompletionCommand(app);
 
   // A limit on the size of files is told as a full disk.
   std::signal(SIGXFSZ, SIG_IGN);

@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
+#include "core/input_fields.h"
 #include "front/console/batch.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
@@ -68,8 +69,9 @@ void AddOptimise(CLI::App& app, int& status) {
   command->add_option("--criterion", arguments->options.criterion, "uls, sls or uls-sls")
       ->check(CLI::IsMember({"uls", "sls", "uls-sls"}));
   command->add_option("--families", arguments->families, "series to search, of " + SeriesWords());
-  CLI::Option* limit =
-      command->add_option("--limit", arguments->limit, "deflection limit L/X, 100 to 1500");
+  CLI::Option* limit = command->add_option(
+      "--limit", arguments->limit,
+      "deflection limit L/X, " + RangeWords(InputOf(&ProjectState::DeflectionLimit).field->limit));
   command->add_flag("--json", arguments->options.json, "print one JSON object");
   command->add_option(
       "-o,--output", arguments->options.save,

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "front/form_table.h"
+#include "front/forms/handles.h"
 
 namespace korvane {
 
@@ -68,7 +68,7 @@ std::string NearestControl(const std::string& address, const std::string& formOn
 }
 
 std::string NearestCommand(const std::string& name) {
-  return Meant(name, ControlsOf(*FindForm("korvane"), true));
+  return Meant(name, ControlsOf(*TheForms().main, true));
 }
 
 }  // namespace korvane

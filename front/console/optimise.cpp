@@ -10,6 +10,7 @@
 #include <sstream>
 #include <utility>
 
+#include "core/input_fields.h"
 #include "core/text.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
@@ -22,21 +23,30 @@ namespace {
 struct CriterionWord {
   const char* word;
   Criterion criterion;
-  const char* caption;
 };
 
 constexpr std::array<CriterionWord, 3> kCriteria{{
-    {"uls", kCriterionUls, "ULS (Buckling/Section Control)"},
-    {"sls", kCriterionSls, "SLS (Deflection - z-dir)"},
-    {"uls-sls", kCriterionUlsSls, "ULS/SLS"},
+    {"uls", kCriterionUls},
+    {"sls", kCriterionSls},
+    {"uls-sls", kCriterionUlsSls},
 }};
 
-constexpr double kLeastLimit = 100.0;
-constexpr double kGreatestLimit = 1500.0;
-constexpr const char* kLimitRefused = "100 <= Deflection <=1500 ";
 constexpr const char* kNonePasses = "no section of this series passes";
 constexpr const char* kDeflectionUntested =
     "End forces give no deflection: the deflection limit isn't tested.";
+
+InputRef DeflectionLimit() {
+  return InputOf(&ProjectState::DeflectionLimit);
+}
+
+/// False for a value that the limit refuses or the field can't hold.
+bool TakeLimit(double limit, ProjectState& st) {
+  try {
+    return StoreInput(st, DeflectionLimit(), limit) == nullptr;
+  } catch (const ArithmeticFault&) {
+    return false;
+  }
+}
 
 std::string Upper(std::string text) {
   for (char& c : text)
@@ -46,7 +56,7 @@ std::string Upper(std::string text) {
 
 std::string Captions(const OptimiseOptions& options) {
   for (const CriterionWord& c : kCriteria)
-    if (options.criterion == c.word) return c.caption;
+    if (options.criterion == c.word) return kCriterionCaptions[c.criterion];
   return {};
 }
 
@@ -116,8 +126,9 @@ bool ArgumentsHold(const OptimiseOptions& options, std::ostream& errors) {
     errors << "unknown criterion " << options.criterion << ": uls, sls or uls-sls\n";
     return false;
   }
-  if (options.limit && !(*options.limit >= kLeastLimit && *options.limit <= kGreatestLimit)) {
-    errors << kLimitRefused << '\n';
+  ProjectState any;
+  if (options.limit && !TakeLimit(*options.limit, any)) {
+    errors << DeflectionLimit().field->limit.message << '\n';
     return false;
   }
   return true;
@@ -221,7 +232,7 @@ int RunOptimise(std::shared_ptr<const Library> library, const OptimiseOptions& o
     if (const int failed = Opened(options, design, errors)) return failed;
     design.st.ManualBucklingCurves = 0;
     design.st.ResultView = *CriterionOf(options.criterion);
-    if (options.limit) design.st.DeflectionLimit = static_cast<int>(std::nearbyint(*options.limit));
+    if (options.limit) TakeLimit(*options.limit, design.st);
     std::optional<ProjectState> best;
     const auto rows = SearchRows(
         design, options.rows.empty() ? AllRows() : options.rows, best, [&](int done, int all) {

@@ -18,7 +18,7 @@ struct OptimiseOptions {
   std::string file;
   std::string criterion = "uls";  ///< "uls", "sls" or "uls-sls"
   std::vector<int> rows;          ///< rows to search, in rising order; empty: all eleven
-  std::optional<double> limit;    ///< x of the deflection limit L/x, 100 to 1500
+  std::optional<double> limit;    ///< x of the deflection limit L/x
   bool json = false;
   std::string save;  ///< file for the project with the lightest passing section; may be empty
 };

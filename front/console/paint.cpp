@@ -16,6 +16,7 @@
 #include "front/console/terminal.h"
 #include "front/data_folder.h"
 #include "front/painter/paint_files.h"
+#include "front/painter/report_job.h"
 #include "presentation/aprint.h"
 #include "presentation/figures.h"
 #include "presentation/grafik.h"
@@ -95,9 +96,11 @@ std::string PagePath(const std::string& path, std::size_t number) {
   return (whole.parent_path() / name).string();
 }
 
-/// The design of the file, or the exit status that says why there is none.
-int Prepare(const Arguments& a, Design& design) {
-  const DesignRun run = RunProject(design, a.file);
+/// The design of the file, or the exit status that says why there is none. bytes gets the file as
+/// it was read.
+int Prepare(const Arguments& a, Design& design, std::string* bytes = nullptr) {
+  DesignRun run = RunProject(design, a.file);
+  if (bytes != nullptr) *bytes = std::move(run.bytes);
   if (run.file != FileResult::Ok) {
     std::cerr << FileMessage(run.file, NameOnErrors(a.file)) << "\n";
     return kBadInput;
@@ -189,20 +192,11 @@ const std::vector<Report>& ReportsOf(const std::string& kind) {
 
 int RunReport(const Arguments& a) {
   Design design = StartedDesign(ReadLibrary(FindDataFolder(a.data)));
-  if (const int status = Prepare(a, design)) return status;
-  PaintJob job;
-  job.width = kPageWidth;
-  job.height = kPageHeight;
-  const ReportTime time = Now();
-  for (const Report report : ReportsOf(a.kind)) {
-    job.title = ReportTitle(report);
-    job.pages.emplace_back(
-        [&design, report, time](DrawingTarget& page) { DrawReport(page, report, design, time); });
-  }
-  job.title += " - " + design.st.iproj + " - " + design.st.iident;
-  job.attachmentName =
+  std::string bytes;
+  if (const int status = Prepare(a, design, &bytes)) return status;
+  const std::string name =
       a.file == kStandardStream ? "project.kvn" : fs::path(a.file).filename().string();
-  job.attachment = ProjectText(design.st);
+  const PaintJob job = ReportJob(design, ReportsOf(a.kind), Now(), {name, std::move(bytes)});
   if (const int status = Finish(job, a, Format::Pdf)) return status;
   return StatusOf(VerdictOf(design));
 }
@@ -239,35 +233,50 @@ std::vector<DiagramKind> ForMode(std::vector<DiagramKind> kinds, bool loads) {
   return kinds;
 }
 
+/// Whether a word asks for what only loads have: end forces give no loads and no deflections.
+bool NeedsLoads(const Drawing& drawing) {
+  using K = DiagramKind;
+  constexpr std::array kinds{K::LoadPermZ, K::LoadPermY, K::DeflectionZ, K::DeflectionY};
+  return !drawing.diagrams.empty() &&
+         std::find(kinds.begin(), kinds.end(), drawing.diagrams.front()) != kinds.end();
+}
+
 int RunDraw(const Arguments& a) {
   const auto& all = Drawings();
   const auto drawing =
       std::find_if(all.begin(), all.end(), [&](const Drawing& d) { return a.what == d.word; });
   Design design = StartedDesign(ReadLibrary(FindDataFolder(a.data)));
   if (const int status = Prepare(a, design)) return status;
+  if (design.st.AnalysisMode != 1 && NeedsLoads(*drawing)) {
+    std::cerr << "no " << (a.what.front() == 'd' ? "deflections" : "loads")
+              << " to draw: the project gives end forces - " << NameOnErrors(a.file) << "\n";
+    return kBadInput;
+  }
   PaintJob job;
   job.title = "KORVANE - " + a.what + " - " + design.st.iproj;
   const DiagramStyle style;
   const DiagramData data{design.st, design.beam, design.deflections, design.forces.N};
+  constexpr double margin = 12;  // points on all sides
   if (drawing->diagrams.empty()) {
     job.width = 320;
     job.height = 320;
     job.pages.emplace_back([&](DrawingTarget& t) {
-      DrawSectionFigure(t, Box{0, 0, job.width, job.height}, Destination::Page, design.st,
-                        design.rec, FigureOptions{});
+      DrawSectionFigure(t, Box{margin, margin, job.width - margin, job.height - margin},
+                        Destination::Page, design.st, design.rec, FigureOptions{});
     });
     return Finish(job, a, Format::Svg);
   }
   constexpr double scale = 6;  // points per grid unit
   const auto kinds = ForMode(drawing->diagrams, design.st.AnalysisMode == 1);
-  job.width = kPictureWidth * scale;
+  job.width = kPictureWidth * scale + 2 * margin;
+  job.height = 2 * margin;
   for (const DiagramKind kind : kinds) job.height += DiagramHeight(kind, data, style) * scale;
-  job.height = std::max(job.height, 10.0);
   job.pages.emplace_back([&](DrawingTarget& t) {
-    double top = 0;
+    double top = margin;
     for (const DiagramKind kind : kinds) {
       const double height = DiagramHeight(kind, data, style) * scale;
-      DrawDiagramIn(t, kind, Box{0, top, job.width, top + height}, Destination::Page, data, style);
+      DrawDiagramIn(t, kind, Box{margin, top, job.width - margin, top + height}, Destination::Page,
+                    data, style);
       top += height;
     }
   });

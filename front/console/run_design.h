@@ -9,6 +9,7 @@
 
 #include "core/calculation.h"
 #include "core/project_file.h"
+#include "studies/member.h"
 
 namespace korvane {
 
@@ -17,18 +18,14 @@ inline constexpr const char* kNoVersion =
     "first line holds no version number; read as an old project";
 
 /// What came of a project.
-struct DesignRun {
+struct DesignRun : MemberRun {
   FileResult file = FileResult::Ok;
-  std::optional<std::string> fault;  ///< step of the arithmetic failure
-  std::string what;                  ///< its cause
   std::vector<std::string> remarks;  ///< what the engineer should know of the file
+  std::string bytes;                 ///< the file as it was read
 };
 
-/// The start sequence and the first calculation of the new project, whose failure is passed over.
-Design StartedDesign(std::shared_ptr<const Library> library);
-
-/// Opens the project (the standard input for "-") in a started design and calculates twice, as
-/// opening and the focus of the window do. The results depend on the file and the data alone.
+/// Opens the project (the standard input for "-") in a started design and designs it as
+/// OpenMember does. The results depend on the file and the data alone.
 DesignRun RunProject(Design& design, const std::string& path);
 
 /// The exit status of a verdict: 0 only where the member passes, 3 where the calculation stopped.

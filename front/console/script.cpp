@@ -9,7 +9,7 @@
 #include "front/console/design_json.h"
 #include "front/console/exit_status.h"
 #include "front/console/nearest.h"
-#include "front/session.h"
+#include "front/named_session.h"
 
 namespace korvane {
 
@@ -29,9 +29,11 @@ public:
   std::optional<PrintJob> AskPrint() override {
     return Next() ? std::optional<PrintJob>(PrintJob{}) : std::nullopt;
   }
-  void Print(const Design&, int kind, int) override {
+  void Print(const Design&, int kind, const PrintJob& job) override {
     out_ << "print: "
-         << (kind == 0 ? "Section Property and Capacity" : "Section and Stability Control") << "\n";
+         << (kind == 0 ? "Section Property and Capacity" : "Section and Stability Control");
+    if (!job.notice.empty()) out_ << " (" << job.notice << ")";
+    out_ << "\n";
   }
   void OpenHelp(const std::string& topic) override { out_ << "help: " << topic << "\n"; }
   void Answer(std::optional<std::string> path) { answers_.push_back(std::move(path)); }
@@ -163,11 +165,11 @@ private:
   }
   void Open(const std::string& path) {
     platform_.AnswerAtOnce(path);
-    session_.OpenCommand();
+    session_.files().Open();
   }
   void Save(const std::string& path) {
     platform_.AnswerAtOnce(path);
-    session_.SaveAsCommand();
+    session_.files().SaveAs();
   }
   void Answer(const std::string& path) {
     platform_.Answer(path == "cancel" ? std::nullopt : std::optional<std::string>(path));
@@ -216,7 +218,7 @@ private:
 
   std::ostream& out_;
   ScriptPlatform platform_;
-  Session session_;
+  NamedSession session_;
   Named named_ = Named::Nothing;
   std::string name_;
   int focusings_ = 0;

@@ -28,16 +28,13 @@ Desktop::Desktop(Session& session) : session_(session) {
 
 Desktop::~Desktop() {
   ++busy_;
-  for (auto& [name, window] : windows_) delete window;
+  for (auto& [form, window] : windows_) delete window;
 }
 
-FormWindow* Desktop::WindowOf(const std::string& form) {
-  if (form == "korvane") return nullptr;
-  if (const auto it = windows_.find(form); it != windows_.end()) return it->second;
-  const Form* table = FindForm(form);
-  if (table == nullptr) return nullptr;
-  auto* window = new FormWindow(*this, *table, main_.get());
-  windows_[form] = window;
+FormWindow* Desktop::WindowOf(const Form& form) {
+  if (&form == TheForms().main) return nullptr;
+  FormWindow*& window = windows_[&form];
+  if (window == nullptr) window = new FormWindow(*this, form, main_.get());
   return window;
 }
 
@@ -62,100 +59,83 @@ void Desktop::Act(const std::function<void()>& action) {
   --busy_;
 }
 
-bool Desktop::Leave(const std::string& key) {
-  return session_.Leave(key);
-}
-
 bool Desktop::Commit() {
-  const std::string key = session_.FocusedField();
-  if (key.empty() || !session_.Green(key)) return true;
+  const Control* field = session_.FocusedField();
+  if (field == nullptr) return true;
   bool accepted = true;
-  Act([&] {
-    accepted = Leave(key);
-    // The field keeps the focus on the screen; it is in use again with the next key.
-  });
+  // The field keeps the focus on the screen; it is in use again with the next key.
+  Act([&] { accepted = session_.Leave(*field); });
   return accepted;
 }
 
-void Desktop::Click(const std::string& key) {
+void Desktop::Click(const Control& control) {
   if (Busy() || !Commit()) return;
-  Act([&] { session_.Click(key); });
+  Act([&] { session_.Click(control); });
 }
 
-void Desktop::Select(const std::string& key, int index) {
+void Desktop::Select(const Control& list, int index) {
   if (Busy() || !Commit()) return;
-  Act([&] { session_.Select(key, index); });
+  Act([&] { session_.Select(list, index); });
 }
 
-void Desktop::Command(const std::string& menu) {
+void Desktop::Command(const Control& command) {
   // Nothing that stands in a field may keep the program from ending.
-  if (Busy() || (menu != "mnuexit" && !Commit())) return;
-  Act([&] { session_.Menu(menu); });
+  if (Busy() || (&command != TheForms().onMain.mnuexit && !Commit())) return;
+  Act([&] { session_.Menu(command); });
 }
 
-void Desktop::Activated(const std::string& form) {
+void Desktop::Activated(const Form& form) {
   if (Busy() || ended_) return;
   if (popup_) {
     popup_ = false;
     return;
   }
-  const std::string field = session_.FocusedField();
-  if (!field.empty() && field.rfind(form + ".", 0) != 0 && !Commit()) return;
-  const bool top = !session_.OpenForms().empty() && session_.OpenForms().back() == form;
-  if (!session_.IsOpen(form) || (top && form != "korvane")) return;
+  const Control* field = session_.FocusedField();
+  if (field != nullptr && field->form != &form && !Commit()) return;
+  const bool top = &session_.Top() == &form;
+  if (!session_.IsOpen(form) || (top && &form != TheForms().main)) return;
   Act([&] { session_.Focus(form); });
 }
 
-void Desktop::CloseForm(const std::string& form) {
+void Desktop::CloseForm(const Form& form) {
   Act([&] { session_.Close(form); });
 }
 
 void Desktop::OpenFile(const QString& path) {
-  Act([&] { session_.OpenPath(path.toStdString()); });
+  Act([&] { session_.files().OpenPath(path.toStdString()); });
 }
 
 void Desktop::Attach(FormBinder* binder) {
-  binders_[binder->form().name] = binder;
+  binders_.push_back(binder);
 }
 
 void Desktop::Detach(FormBinder* binder) {
-  std::erase_if(binders_, [&](const auto& entry) { return entry.second == binder; });
+  std::erase(binders_, binder);
 }
 
 void Desktop::Refresh() {
   ++busy_;
   SyncWindows();
-  CompareSection();
-  for (auto& [name, binder] : binders_) {
-    if (session_.IsOpen(name)) binder->Refresh();
+  for (FormBinder* binder : binders_) {
+    if (session_.IsOpen(binder->form())) binder->Refresh();
   }
   emit Refreshed();
   --busy_;
 }
 
-void Desktop::CompareSection() {
-  const std::string section = session_.Text("korvane.obeam");
-  // The main window's own search composes its results anew.
-  const bool aside = !session_.OpenForms().empty() && session_.OpenForms().back() != "korvane";
-  awaits_ = aside && session_.Calculations() == calculation_ && section != section_;
-  if (awaits_) return;
-  section_ = section;
-  calculation_ = session_.Calculations();
-}
-
 void Desktop::SyncWindows() {
-  for (auto& [name, window] : windows_) {
-    if (!session_.IsOpen(name) && window->isVisible()) window->hide();
+  for (auto& [form, window] : windows_) {
+    if (!session_.IsOpen(*form) && window->isVisible()) window->hide();
   }
-  for (const std::string& name : session_.OpenForms()) {
-    FormWindow* window = WindowOf(name);
+  for (const Form* form : session_.OpenForms()) {
+    FormWindow* window = WindowOf(*form);
     if (window == nullptr) continue;
-    window->setWindowTitle(QString::fromStdString(session_.Title(name)));
+    window->setWindowTitle(QString::fromStdString(session_.Title(*form)));
     if (!window->isVisible()) window->show();
   }
-  const std::string top = session_.OpenForms().empty() ? "" : session_.OpenForms().back();
-  if (top != front_ && !top.empty()) {
-    if (FormWindow* window = WindowOf(top)) {
+  const Form* top = &session_.Top();
+  if (top != front_) {
+    if (FormWindow* window = WindowOf(*top)) {
       window->raise();
       window->activateWindow();
     }
@@ -164,11 +144,11 @@ void Desktop::SyncWindows() {
 }
 
 void Desktop::PlaceFocus() {
-  const std::string key = session_.FocusedField();
-  if (key.empty()) return;
-  const auto dot = key.find('.');
-  const auto it = binders_.find(key.substr(0, dot));
-  if (it != binders_.end()) it->second->TakeFocus(key.substr(dot + 1));
+  const Control* field = session_.FocusedField();
+  if (field == nullptr) return;
+  for (FormBinder* binder : binders_) {
+    if (&binder->form() == field->form) binder->TakeFocus(*field);
+  }
 }
 
 void Desktop::Report(const std::string& step, const char* what) {

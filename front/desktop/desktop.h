@@ -26,8 +26,8 @@ public:
 
   Session& session() { return session_; }
   MainWindow& window() { return *main_; }
-  /// The window of a form, made on demand; null for korvane and unknown forms.
-  FormWindow* WindowOf(const std::string& form);
+  /// The window of a form beside the main window, made on demand; null for the main form.
+  FormWindow* WindowOf(const Form& form);
 
   /// Runs one action of the person on the session; then all windows show the session anew and
   /// the focus goes where the session wants it. An arithmetic failure ends the program with a
@@ -37,21 +37,18 @@ public:
   /// Leaves the field in which somebody has typed. False when its value is refused.
   bool Commit();
   /// A control is operated, after the field in use has been left.
-  void Click(const std::string& key);
-  void Select(const std::string& key, int index);
-  void Command(const std::string& menu);
+  void Click(const Control& control);
+  void Select(const Control& list, int index);
+  void Command(const Control& command);
   /// A window came to the front.
-  void Activated(const std::string& form);
-  void CloseForm(const std::string& form);
+  void Activated(const Form& form);
+  void CloseForm(const Form& form);
   void OpenFile(const QString& path);
 
   void Attach(FormBinder* binder);
   void Detach(FormBinder* binder);
   /// All windows show the session anew.
   void Refresh();
-  /// Whether a form has put another section in force and no calculation has followed yet: a
-  /// search of the optimiser, a family's command.
-  bool AwaitsCalculation() const { return awaits_; }
 
 signals:
   /// The session was shown anew.
@@ -61,9 +58,7 @@ signals:
   void Failed(const QString& report);
 
 private:
-  bool Leave(const std::string& key);
   void SyncWindows();
-  void CompareSection();
   void PlaceFocus();
   void Report(const std::string& step, const char* what);
 
@@ -71,12 +66,9 @@ private:
   int busy_ = 0;
   bool ended_ = false;
   bool popup_ = false;  ///< the window in front was a dialog or message box
-  std::string front_;
-  bool awaits_ = false;
-  std::string section_;   ///< that the last calculation was of
-  int calculation_ = -1;  ///< its number
-  std::map<std::string, FormBinder*> binders_;
-  std::map<std::string, FormWindow*> windows_;
+  const Form* front_ = nullptr;
+  std::vector<FormBinder*> binders_;
+  std::map<const Form*, FormWindow*> windows_;
   std::unique_ptr<MainWindow> main_;
 };
 

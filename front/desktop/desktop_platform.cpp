@@ -2,19 +2,24 @@
 #include "front/desktop/desktop_platform.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDateTime>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QSettings>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/files.h"
+#include "core/project_file.h"
 #include "front/painter/paint_files.h"
 #include "front/painter/painter_target.h"
+#include "front/painter/report_job.h"
 
 namespace korvane {
 
@@ -92,24 +97,66 @@ void DesktopPlatform::Beep() {
   QApplication::beep();
 }
 
+namespace {
+
+/// A tab of the print dialog for what this program prints.
+class SheetsTab : public QWidget {
+public:
+  explicit SheetsTab(bool withChecker) : box_(new QCheckBox(tr("with checker's sheet"), this)) {
+    setWindowTitle(tr("Sheets"));
+    box_->setObjectName(QStringLiteral("withchecker"));
+    box_->setChecked(withChecker);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(box_);
+    layout->addStretch();
+  }
+  bool WithChecker() const { return box_->isChecked(); }
+
+private:
+  QCheckBox* box_;
+};
+
+/// The project that the design is of: the file itself where the design comes from it as it stands
+/// on disk, else the text of the state.
+AttachedProject ProjectOf(const Design& design) {
+  const std::string& path = design.st.CurrentFileName;
+  const std::string own = ProjectText(design.st);
+  const std::string name = QFileInfo(QFile::decodeName(path.c_str())).fileName().toStdString();
+  Design read(design.lib);
+  StartDesign(read);
+  auto bytes = ReadWholeFile(path);
+  if (!bytes) return {"project.kvn", own};
+  try {
+    if (ReadProject(*bytes, read.st) != FileResult::Ok) return {name, own};
+    Calculate(read);
+    Calculate(read);
+  } catch (const ArithmeticFault&) {
+  }
+  return {name, ProjectText(read.st) == own ? std::move(*bytes) : own};
+}
+
+}  // namespace
+
 std::optional<PrintJob> DesktopPlatform::AskPrint() {
   printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer_->setPageSize(QPageSize(QPageSize::A4));
   QPrintDialog dialog(printer_.get(), Owner());
+  // The dialog takes the tab for its own.
+  auto* sheets = new SheetsTab(withChecker_);
+  dialog.setOptionTabs({sheets});
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  withChecker_ = sheets->WithChecker();
   return PrintJob{printer_->copyCount()};
 }
 
-void DesktopPlatform::PrintToFile(const Design& design, Report report, int copies) {
-  PaintJob job;
-  job.width = kPageWidth;
-  job.height = kPageHeight;
-  job.title = std::string(ReportTitle(report)) + " - " + design.st.iproj + " - " + design.st.iident;
+void DesktopPlatform::PrintToFile(const Design& design, const std::vector<Report>& sheets,
+                                  const PrintJob& print) {
   const DateTime now = Now();
-  const auto page = [&](DrawingTarget& target) {
-    DrawReport(target, report, design, {now.year, now.month, now.day, now.hour, now.minute});
-  };
-  job.pages.assign(static_cast<std::size_t>(std::max(1, copies)), page);
+  PaintJob job = ReportJob(design, sheets, {now.year, now.month, now.day, now.hour, now.minute},
+                           ProjectOf(design), print.notice);
+  const auto pages = job.pages;
+  for (int n = 1; n < print.copies; ++n)
+    job.pages.insert(job.pages.end(), pages.begin(), pages.end());
   const QString path = printer_->outputFileName();
   std::string bytes;
   std::string failed = PaintIntoMemory(job, bytes);
@@ -119,18 +166,19 @@ void DesktopPlatform::PrintToFile(const Design& design, Report report, int copie
   }
 }
 
-void DesktopPlatform::Print(const Design& design, int kind, int copies) {
+void DesktopPlatform::Print(const Design& design, int kind, const PrintJob& job) {
   if (printer_ == nullptr) return;
-  const Report report = kind == 0 ? Report::SectionProperty : Report::SectionAndStability;
+  std::vector<Report> sheets{kind == 0 ? Report::SectionProperty : Report::SectionAndStability};
+  if (withChecker_) sheets.push_back(Report::Checker);
   if (printer_->outputFormat() == QPrinter::PdfFormat && !printer_->outputFileName().isEmpty()) {
-    PrintToFile(design, report, copies);
+    PrintToFile(design, sheets, job);
     return;
   }
   // The page brings its own frame and margins, counted from the edge of the paper.
   printer_->setFullPage(true);
   printer_->setPageMargins(QMarginsF(0, 0, 0, 0));
-  printer_->setCopyCount(copies);
-  printer_->setDocName(QString::fromUtf8(ReportTitle(report)));
+  printer_->setCopyCount(job.copies);
+  printer_->setDocName(QString::fromUtf8(ReportTitle(sheets.front())));
   QPainter painter;
   if (!painter.begin(printer_.get())) {
     Message(tr("The printer does not take the page").toStdString());
@@ -138,12 +186,15 @@ void DesktopPlatform::Print(const Design& design, int kind, int copies) {
   }
   const DateTime now = Now();
   // A file and many a printer make no copies themselves.
-  const int pages = printer_->supportsMultipleCopies() ? 1 : std::max(1, copies);
-  for (int n = 0; n < pages; ++n) {
-    if (n > 0) printer_->newPage();
-    PainterTarget page(painter, kPageWidth, kPageHeight,
-                       QRectF(0, 0, printer_->width(), printer_->height()), Palette::Light());
-    DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute});
+  const int runs = printer_->supportsMultipleCopies() ? 1 : std::max(1, job.copies);
+  for (int n = 0; n < runs; ++n) {
+    for (const Report report : sheets) {
+      if (n > 0 || report != sheets.front()) printer_->newPage();
+      PainterTarget page(painter, kPageWidth, kPageHeight,
+                         QRectF(0, 0, printer_->width(), printer_->height()), Palette::Light());
+      DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute},
+                 job.notice);
+    }
   }
 }
 

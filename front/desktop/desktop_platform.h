@@ -34,7 +34,7 @@ public:
   void Message(const std::string& text) override;
   void Beep() override;
   std::optional<PrintJob> AskPrint() override;
-  void Print(const Design& design, int kind, int copies) override;
+  void Print(const Design& design, int kind, const PrintJob& job) override;
   void OpenHelp(const std::string& file) override;
   DateTime Now() override;
   void WaitCursor(bool on) override;
@@ -55,7 +55,8 @@ private:
                                      const std::string& extension);
   /// A PDF is painted into memory and written as every other file, by the same routines as the
   /// console program's.
-  void PrintToFile(const Design& design, Report report, int copies);
+  void PrintToFile(const Design& design, const std::vector<Report>& sheets, const PrintJob& print);
+  bool withChecker_ = false;  ///< the checker's sheet was asked for in the dialog
   QPointer<QWidget> window_;
   QStringList waiting_;
   bool waitCursor_ = false;

@@ -8,26 +8,10 @@
 #include "front/desktop/form_window.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
-#include "front/forms/family_fields.h"
-#include "sections/profile_table.h"
-#include "sections/shown_values.h"
 
 namespace korvane {
 
 namespace {
-
-int CodeOf(const std::string& form) {
-  for (const Family& family : AllFamilies()) {
-    if (form == family.form) return family.code;
-  }
-  return 0;
-}
-
-/// Whether one of the values stands in the control.
-bool Among(const ShownValues& values, const std::string& control) {
-  return std::any_of(values.begin(), values.end(),
-                     [&](const ShownValue& v) { return ValueControlName(v.name) == control; });
-}
 
 QGroupBox* Values(WidgetMaker& maker, const QString& title,
                   const std::vector<const Control*>& controls) {
@@ -39,7 +23,7 @@ QGroupBox* Values(WidgetMaker& maker, const QString& title,
   grid->setColumnMinimumWidth(2, Ems(group, 4));
   grid->setColumnStretch(3, 1);
   int row = 0;
-  for (const Control* c : controls) maker.ValueRow(grid, row++, c->name);
+  for (const Control* c : controls) maker.ValueRow(grid, row++, c);
   column->addLayout(grid);
   column->addStretch(1);
   return group;
@@ -48,40 +32,37 @@ QGroupBox* Values(WidgetMaker& maker, const QString& title,
 }  // namespace
 
 void LayOutFamily(WidgetMaker& maker, QWidget* window) {
-  ProjectState st;
-  st.ProfileType = CodeOf(maker.form().name);
-  st.p103_sub = 2;
-  const SectionRecord none;
-  const ShownValues properties = Properties(st, none);
-  const ShownValues capacities = Capacities(st, none);
   std::vector<const Control*> dims, props, caps, others;
-  std::string list;
+  const Control* list = nullptr;
+  const Control* figure = nullptr;
   for (const Control& c : maker.form().controls) {
-    const bool value = c.kind == Kind::Label && c.text && !c.caption.empty();
     if (c.kind == Kind::List) {
-      list = c.name;
-    } else if (!value) {
-      if (c.kind != Kind::Surface) others.push_back(&c);
-    } else if (c.name.starts_with("osclass") || Among(capacities, c.name)) {
-      caps.push_back(&c);
+      list = &c;
+    } else if (c.kind == Kind::Surface) {
+      figure = &c;
+    } else if (c.block == Block::None) {
+      others.push_back(&c);
     } else {
-      (Among(properties, c.name) ? props : dims).push_back(&c);
+      (c.block == Block::Dimensions   ? dims
+       : c.block == Block::Properties ? props
+                                      : caps)
+          .push_back(&c);
     }
   }
   auto* all = new QVBoxLayout(window);
   auto* columns = new QHBoxLayout;
   auto* left = new QVBoxLayout;
-  if (!list.empty()) {
+  if (list != nullptr) {
     QWidget* sizes = maker.MakeOpenList(list);
     sizes->setFixedWidth(std::max(sizes->minimumWidth(), Ems(window, 9)));
     left->addWidget(sizes, 1);
   }
   maker.Stack(left, others);
-  if (list.empty()) left->addStretch(1);
+  if (list == nullptr) left->addStretch(1);
   columns->addLayout(left);
-  QWidget* figure = maker.Make("pic1");
-  figure->setMinimumSize(Ems(window, 22), Ems(window, 22));
-  columns->addWidget(figure, 1);
+  QWidget* drawing = maker.Make(figure);
+  drawing->setMinimumSize(Ems(window, 22), Ems(window, 22));
+  columns->addWidget(drawing, 1);
   auto* right = new QVBoxLayout;
   auto* blocks = new QHBoxLayout;
   for (const auto& [title, controls] :

@@ -2,21 +2,20 @@
 #include "front/desktop/form_binder.h"
 
 #include <QAbstractButton>
-#include <QAction>
 #include <QComboBox>
 #include <QFocusEvent>
-#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QRadioButton>
-#include <QToolButton>
+#include <optional>
 
 #include "front/desktop/desktop.h"
 #include "front/desktop/panes.h"
+#include "front/desktop/size_list.h"
 #include "front/desktop/tab_order.h"
 #include "front/desktop/theme.h"
+#include "front/desktop/widget_maker.h"
 
 namespace korvane {
 
@@ -26,14 +25,28 @@ QString Q(const std::string& text) {
   return QString::fromStdString(text);
 }
 
-QStringList ItemsOf(const Session& s, const std::string& key) {
+QStringList ItemsOf(const Session& s, const Control& list) {
   QStringList items;
-  for (const std::string& item : s.Items(key)) items << Q(item);
+  for (const std::string& item : s.Items(list)) items << Q(item);
   return items;
 }
 
-void ShowText(QLabel* label, const std::string& text) {
-  if (label->text() != Q(text)) label->setText(Q(text));
+/// Tells whether the items of a list are others than those shown.
+class ItemsWatch {
+public:
+  bool Changed(const Session& s, const Control& list) {
+    const int now = list.itemsVersion ? list.itemsVersion(s) : 0;
+    if (version_ == now) return false;
+    version_ = now;
+    return true;
+  }
+
+private:
+  std::optional<int> version_;
+};
+
+void ShowText(QLabel* label, const QString& text) {
+  if (label->text() != text) label->setText(text);
 }
 
 bool IsReturn(const QEvent* event) {
@@ -42,24 +55,22 @@ bool IsReturn(const QEvent* event) {
   return pressed == Qt::Key_Return || pressed == Qt::Key_Enter;
 }
 
+bool IsEscape(const QEvent* event) {
+  return event->type() == QEvent::KeyPress &&
+         static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape;
+}
+
 }  // namespace
 
-FormBinder::FormBinder(Desktop& desktop, const Form& form, QWidget* root)
-    : QObject(root), desktop_(desktop), form_(form), root_(root) {
-  for (const Control& control : form_.controls) {
-    if (control.kind == Kind::Menu) continue;
-    for (QWidget* widget : root_->findChildren<QWidget*>(Q(control.name))) {
-      BindOne(control, widget);
+FormBinder::FormBinder(Desktop& desktop, const WidgetMaker& maker, QWidget* root)
+    : QObject(root), desktop_(desktop), form_(maker.form()), root_(root) {
+  for (const WidgetMaker::Made& made : maker.AllMade()) BindOne(*made.control, made.widget);
+  for (const WidgetMaker::Made& companion : maker.Companions()) {
+    for (Bound& bound : bound_) {
+      if (bound.control == companion.control) bound.companions.push_back(companion.widget);
     }
   }
-  for (Bound& bound : bound_) {
-    for (QWidget* widget : root_->findChildren<QWidget*>()) {
-      if (widget->property(kBelongsTo).toString() == Q(bound.control->name)) {
-        bound.companions.push_back(widget);
-      }
-    }
-    Describe(bound);
-  }
+  for (const Bound& bound : bound_) Describe(bound);
   ChainTabsByLayout(root_);
   desktop_.Attach(this);
 }
@@ -69,104 +80,114 @@ FormBinder::~FormBinder() {
 }
 
 void FormBinder::BindOne(const Control& control, QWidget* widget) {
-  Bound bound{&control, form_.name + "." + control.name, widget, {}, {}};
+  Bound bound{&control, widget, {}, {}};
+  const Control* c = &control;
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
     BindEdit(bound, edit);
   } else if (qobject_cast<QAbstractButton*>(widget) != nullptr) {
     BindButton(bound);
-  } else if (control.kind == Kind::List) {
-    BindList(bound);
-  } else if (auto* label = qobject_cast<ValueLabel*>(widget)) {
-    bound.refresh = [this, label, key = bound.key] {
-      label->ShowValue(Q(desktop_.session().Text(key)));
+  } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+    BindCombo(bound, combo);
+  } else if (auto* list = qobject_cast<SizeList*>(widget)) {
+    BindOpenList(bound, list);
+  } else if (auto* value = qobject_cast<ValueLabel*>(widget); value != nullptr && c->value >= 0) {
+    bound.refresh = [this, value, c] {
+      const ShownText& shown = values_[static_cast<std::size_t>(c->value)];
+      value->ShowValue(Q(shown.text), Q(shown.unit));
     };
-  } else if (auto* text = qobject_cast<QLabel*>(widget)) {
-    bound.refresh = [this, text, key = bound.key] { ShowText(text, desktop_.session().Text(key)); };
-  } else if (auto* pane = qobject_cast<Pane*>(widget)) {
-    bound.refresh = [this, pane, key = bound.key] {
-      pane->setAccessibleDescription(Q(desktop_.session().Text(key)));
-      pane->Refresh();
-    };
-    if (control.click) {
-      connect(pane, &Pane::Clicked, this, [this, key = bound.key] { desktop_.Click(key); });
+  } else if (auto* label = qobject_cast<QLabel*>(widget)) {
+    // A literal caption stays as it was made.
+    if (c->text) {
+      bound.refresh = [this, label, c] { ShowText(label, Q(desktop_.session().Text(*c))); };
     }
+  } else if (auto* pane = qobject_cast<Pane*>(widget)) {
+    bound.refresh = [pane] { pane->Refresh(); };
+    if (c->click) connect(pane, &Pane::Clicked, this, [this, c] { desktop_.Click(*c); });
   }
   bound_.push_back(std::move(bound));
 }
 
 void FormBinder::BindEdit(Bound& bound, QLineEdit* edit) {
+  const Control* c = bound.control;
   edit->installEventFilter(this);
-  connect(edit, &QLineEdit::textEdited, this, [this, key = bound.key](const QString& text) {
-    // A key after a shortcut or a menu takes the field into use again.
-    if (desktop_.session().FocusedField() != key) desktop_.session().FocusField(key);
-    desktop_.session().Type(key, text.toStdString());
+  filtered_[edit] = c;
+  connect(edit, &QLineEdit::textEdited, this, [this, c](const QString& text) {
+    desktop_.session().Type(*c, text.toStdString());
     Refresh();
   });
-  bound.refresh = [this, edit, key = bound.key] {
+  bound.refresh = [this, edit, c, green = std::optional<bool>(), key = qint64(0)]() mutable {
     const Session& s = desktop_.session();
-    const QString text = Q(s.Text(key));
+    const QString text = Q(s.Text(*c));
     if (edit->text() != text) {
       edit->setText(text);
       // A long name is read from its beginning.
       if (!edit->hasFocus()) edit->setCursorPosition(0);
     }
-    edit->setPalette(FieldPalette(root_->palette(), s.Green(key)));
+    const QPalette palette = root_->palette();
+    if (green == s.Green(*c) && key == palette.cacheKey()) return;
+    green = s.Green(*c);
+    key = palette.cacheKey();
+    edit->setPalette(FieldPalette(palette, *green));
   };
 }
 
 void FormBinder::BindButton(Bound& bound) {
+  const Control* c = bound.control;
   auto* button = qobject_cast<QAbstractButton*>(bound.widget);
   button->setAutoExclusive(false);
-  if (bound.control->returnKey) button->installEventFilter(this);
-  connect(button, &QAbstractButton::clicked, this, [this, key = bound.key, button] {
-    desktop_.Click(key);
+  if (c->returnKey) {
+    button->installEventFilter(this);
+    filtered_[button] = c;
+  }
+  connect(button, &QAbstractButton::clicked, this, [this, c, button] {
+    desktop_.Click(*c);
     // Whatever the click did to the mark, the session says how it stands.
-    if (button->isCheckable()) button->setChecked(desktop_.session().Checked(key));
+    if (button->isCheckable()) button->setChecked(desktop_.session().Checked(*c));
   });
-  const bool speaks = bound.control->text != nullptr;
-  bound.refresh = [this, button, key = bound.key, speaks] {
+  const bool follows = c->sign.follows != nullptr;
+  bound.refresh = [this, button, c, follows] {
     const Session& s = desktop_.session();
-    if (button->isCheckable()) button->setChecked(s.Checked(key));
-    if (speaks && button->text() != Q(s.Text(key))) button->setText(Q(s.Text(key)));
-    if (!button->icon().isNull()) button->update();
+    if (button->isCheckable()) button->setChecked(s.Checked(*c));
+    if (c->text) {
+      const QString text = Q(s.Text(*c));
+      if (button->text() != text) button->setText(text);
+    }
+    if (follows) button->update();
   };
 }
 
-void FormBinder::BindList(Bound& bound) {
-  const std::string key = bound.key;
-  if (auto* combo = qobject_cast<QComboBox*>(bound.widget)) {
-    connect(combo, &QComboBox::activated, this,
-            [this, key](int index) { desktop_.Select(key, index); });
-    bound.refresh = [this, combo, key] {
-      const Session& s = desktop_.session();
-      const QStringList items = ItemsOf(s, key);
-      QStringList shown;
-      for (int i = 0; i < combo->count(); ++i) shown << combo->itemText(i);
-      if (shown != items) {
-        combo->clear();
-        combo->addItems(items);
-      }
-      combo->setCurrentIndex(s.Selected(key));
-    };
-  } else if (auto* list = qobject_cast<QListWidget*>(bound.widget)) {
-    connect(list, &QListWidget::currentRowChanged, this, [this, key](int index) {
-      if (!desktop_.Busy() && index >= 0) desktop_.Select(key, index);
-    });
-    bound.refresh = [this, list, key] {
-      const Session& s = desktop_.session();
-      const QStringList items = ItemsOf(s, key);
-      QStringList shown;
-      for (int i = 0; i < list->count(); ++i) shown << list->item(i)->text();
-      if (shown != items) {
-        list->clear();
-        list->addItems(items);
-      }
-      if (list->currentRow() != s.Selected(key)) {
-        list->setCurrentRow(s.Selected(key));
-        list->scrollToItem(list->currentItem(), QAbstractItemView::PositionAtCenter);
-      }
-    };
-  }
+void FormBinder::BindCombo(Bound& bound, QComboBox* combo) {
+  const Control* c = bound.control;
+  connect(combo, &QComboBox::activated, this, [this, c](int index) { desktop_.Select(*c, index); });
+  bound.refresh = [this, combo, c, watch = ItemsWatch()]() mutable {
+    const Session& s = desktop_.session();
+    if (watch.Changed(s, *c)) {
+      combo->clear();
+      combo->addItems(ItemsOf(s, *c));
+    }
+    if (const int row = s.Selected(*c); combo->currentIndex() != row) combo->setCurrentIndex(row);
+  };
+}
+
+void FormBinder::BindOpenList(Bound& bound, SizeList* list) {
+  const Control* c = bound.control;
+  connect(list, &QListWidget::currentRowChanged, this, [this, c](int index) {
+    if (!desktop_.Busy() && index >= 0) desktop_.Select(*c, index);
+  });
+  connect(list, &SizeList::ChosenAgain, this, [this, c](int index) {
+    if (!desktop_.Busy()) desktop_.Select(*c, index);
+  });
+  bound.refresh = [this, list, c, watch = ItemsWatch()]() mutable {
+    const Session& s = desktop_.session();
+    if (watch.Changed(s, *c)) {
+      list->clear();
+      list->addItems(ItemsOf(s, *c));
+    }
+    const int row = s.Selected(*c);
+    if (list->currentRow() == row) return;
+    list->setCurrentRow(row);
+    list->scrollToItem(list->currentItem(), QAbstractItemView::PositionAtCenter);
+  };
 }
 
 void FormBinder::Describe(const Bound& bound) const {
@@ -180,7 +201,7 @@ void FormBinder::Describe(const Bound& bound) const {
     return;
   }
   if (bound.widget->toolTip().isEmpty()) {
-    QString tip = Q(c.tip).trimmed();
+    QString tip = Q(desktop_.session().Tip(c)).trimmed();
     if (tip.isEmpty() && c.kind == Kind::Input) tip = name;
     bound.widget->setToolTip(tip);
   }
@@ -188,9 +209,12 @@ void FormBinder::Describe(const Bound& bound) const {
 
 void FormBinder::Refresh() {
   const Session& s = desktop_.session();
+  if (form_.values) values_ = form_.values(s);
   for (const Bound& bound : bound_) {
-    const bool visible = s.Visible(bound.key);
-    const bool enabled = s.Enabled(bound.key);
+    const Control& c = *bound.control;
+    const bool visible =
+        c.value >= 0 ? !values_[static_cast<std::size_t>(c.value)].text.empty() : s.Visible(c);
+    const bool enabled = s.Enabled(c);
     bound.widget->setVisible(visible);
     bound.widget->setEnabled(enabled);
     for (QWidget* companion : bound.companions) {
@@ -201,44 +225,48 @@ void FormBinder::Refresh() {
   }
 }
 
-QWidget* FormBinder::WidgetOf(const std::string& control) const {
+QWidget* FormBinder::WidgetOf(const Control& control) const {
   for (const Bound& bound : bound_) {
-    if (bound.control->name == control) return bound.widget;
+    if (bound.control == &control) return bound.widget;
   }
   return nullptr;
 }
 
-void FormBinder::TakeFocus(const std::string& control) {
+void FormBinder::TakeFocus(const Control& control) {
   QWidget* widget = WidgetOf(control);
-  if (widget == nullptr || (widget->hasFocus() && desktop_.session().FocusedField().empty())) {
+  if (widget == nullptr || (widget->hasFocus() && desktop_.session().FocusedField() == nullptr)) {
     return;
   }
   widget->setFocus(Qt::OtherFocusReason);
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
 }
 
+// --- Keys and focus -----------------------------------------------------------------------------
+
 bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
-  if (desktop_.Busy()) return QObject::eventFilter(watched, event);
-  const std::string key = form_.name + "." + watched->objectName().toStdString();
-  Session& s = desktop_.session();
+  const Control* control = filtered_.value(watched);
+  if (desktop_.Busy() || control == nullptr) return QObject::eventFilter(watched, event);
   if (IsReturn(event)) {
-    desktop_.Act([&] { s.Return(key); });
+    desktop_.Act([&] { desktop_.session().Return(*control); });
     return true;
   }
   auto* edit = qobject_cast<QLineEdit*>(watched);
-  if (edit == nullptr) return QObject::eventFilter(watched, event);
+  if (edit != nullptr && FieldEvent(*control, edit, event)) return true;
+  return QObject::eventFilter(watched, event);
+}
+
+bool FormBinder::FieldEvent(const Control& field, QLineEdit* edit, QEvent* event) {
+  Session& s = desktop_.session();
+  if (event->type() == QEvent::ToolTip && field.field.Limited()) {
+    // A limit may follow another input.
+    edit->setToolTip(Q(s.Tip(field)).trimmed());
+  }
+  if (IsEscape(event) && s.IsRefused(field)) {
+    desktop_.Act([&] { s.TakeBack(); });
+    return true;
+  }
   if (event->type() == QEvent::FocusIn) {
-    const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    if (reason == Qt::PopupFocusReason) return false;
-    if (s.FocusedField() != key && !desktop_.Commit()) return false;
-    s.FocusField(key);
-    desktop_.Refresh();
-    if (reason != Qt::MouseFocusReason) {
-      edit->selectAll();
-    } else {
-      // The press that brought the focus would take the selection away again.
-      QMetaObject::invokeMethod(edit, &QLineEdit::selectAll, Qt::QueuedConnection);
-    }
+    FieldGainsFocus(field, edit, static_cast<QFocusEvent*>(event)->reason());
   }
   if (event->type() == QEvent::FocusOut) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
@@ -247,11 +275,25 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
         reason == Qt::ActiveWindowFocusReason) {
       return false;
     }
-    if (s.FocusedField() == key) {
-      desktop_.Act([&] { s.Leave(key); });
+    if (s.FocusedField() == &field) {
+      desktop_.Act([&] { s.Leave(field); });
     }
   }
-  return QObject::eventFilter(watched, event);
+  return false;
+}
+
+void FormBinder::FieldGainsFocus(const Control& field, QLineEdit* edit, Qt::FocusReason reason) {
+  if (reason == Qt::PopupFocusReason) return;
+  Session& s = desktop_.session();
+  if (s.FocusedField() != &field && !desktop_.Commit()) return;
+  s.FocusField(field);
+  desktop_.Refresh();
+  if (reason != Qt::MouseFocusReason) {
+    edit->selectAll();
+  } else {
+    // The press that brought the focus would take the selection away again.
+    QMetaObject::invokeMethod(edit, &QLineEdit::selectAll, Qt::QueuedConnection);
+  }
 }
 
 }  // namespace korvane

@@ -1,40 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Ties the widgets of a window to the controls of a form: the objectName of a widget is the name
-// of its control. Actions go to the session, and what the session shows comes back.
+// Ties the widgets of a window to the controls of a form. Actions go to the session, and what the
+// session shows comes back.
 #pragma once
 
+#include <QHash>
 #include <QObject>
-#include <QPalette>
 #include <functional>
-#include <string>
 #include <vector>
 
-#include "front/form_table.h"
+#include "front/forms/handles.h"
 
-class QWidget;
+class QComboBox;
 class QLineEdit;
+class QWidget;
 
 namespace korvane {
 
 class Desktop;
-
-/// Name of the dynamic property with which a caption or unit belongs to a control.
-inline constexpr const char* kBelongsTo = "belongsTo";
+class SizeList;
+class WidgetMaker;
 
 class FormBinder : public QObject {
   Q_OBJECT
 
 public:
-  /// Binds all widgets below root; root's form has been laid out.
-  FormBinder(Desktop& desktop, const Form& form, QWidget* root);
+  /// Binds the widgets that the maker has made for its form, which are laid out below root.
+  FormBinder(Desktop& desktop, const WidgetMaker& maker, QWidget* root);
   ~FormBinder() override;
 
   const Form& form() const { return form_; }
   /// All widgets show the session.
   void Refresh();
   /// Puts the keyboard focus into a field, all text selected.
-  void TakeFocus(const std::string& control);
-  QWidget* WidgetOf(const std::string& control) const;
+  void TakeFocus(const Control& control);
+  QWidget* WidgetOf(const Control& control) const;
 
 protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -42,7 +41,6 @@ protected:
 private:
   struct Bound {
     const Control* control;
-    std::string key;
     QWidget* widget;
     std::vector<QWidget*> companions;
     std::function<void()> refresh;
@@ -50,13 +48,18 @@ private:
   void BindOne(const Control& control, QWidget* widget);
   void BindEdit(Bound& bound, QLineEdit* edit);
   void BindButton(Bound& bound);
-  void BindList(Bound& bound);
+  void BindCombo(Bound& bound, QComboBox* combo);
+  void BindOpenList(Bound& bound, SizeList* list);
   void Describe(const Bound& bound) const;
+  bool FieldEvent(const Control& field, QLineEdit* edit, QEvent* event);
+  void FieldGainsFocus(const Control& field, QLineEdit* edit, Qt::FocusReason reason);
 
   Desktop& desktop_;
   const Form& form_;
   QWidget* root_;
   std::vector<Bound> bound_;
+  QHash<const QObject*, const Control*> filtered_;
+  std::vector<ShownText> values_;  ///< of the refresh that is on
 };
 
 }  // namespace korvane

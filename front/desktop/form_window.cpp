@@ -11,7 +11,6 @@
 #include "front/desktop/form_binder.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
-#include "sections/profile_table.h"
 
 namespace korvane {
 
@@ -19,17 +18,18 @@ namespace {
 
 using LayOut = void (*)(WidgetMaker&, QWidget*);
 
-LayOut LayOutOf(const std::string& form) {
-  static const std::map<std::string, LayOut> own{
-      {"loading", LayOutLoading},   {"endforce", LayOutEndForces},   {"optroll", LayOutOptimiser},
-      {"database", LayOutDatabase}, {"bucklingcurve", LayOutCurves}, {"Pictures", LayOutPictures},
-      {"setup", LayOutSetup},       {"vipping", LayOutLateral},      {"bucklingy", LayOutCases},
-      {"bucklingz", LayOutCases}};
-  if (const auto it = own.find(form); it != own.end()) return it->second;
-  for (const Family& family : AllFamilies()) {
-    if (form == family.form) return LayOutFamily;
+LayOut LayOutOf(const Form& form) {
+  const Forms& forms = TheForms();
+  const std::pair<const Form*, LayOut> own[] = {
+      {forms.loading, LayOutLoading},     {forms.endForces, LayOutEndForces},
+      {forms.optimiser, LayOutOptimiser}, {forms.database, LayOutDatabase},
+      {forms.curves, LayOutCurves},       {forms.pictures, LayOutPictures},
+      {forms.setup, LayOutSetup},         {forms.lateral, LayOutLateral},
+      {forms.bucklingY, LayOutCases},     {forms.bucklingZ, LayOutCases}};
+  for (const auto& [which, layOut] : own) {
+    if (which == &form) return layOut;
   }
-  return LayOutStacked;
+  return form.family != 0 ? LayOutFamily : LayOutStacked;
 }
 
 }  // namespace
@@ -37,15 +37,15 @@ LayOut LayOutOf(const std::string& form) {
 FormWindow::FormWindow(Desktop& desktop, const Form& form, QWidget* parent)
     : QDialog(parent), desktop_(desktop), form_(form) {
   setObjectName(QString::fromStdString(form.name));
-  setModal(false);
+  setModal(form.modal);
   WidgetMaker maker(form, desktop.session());
-  LayOutOf(form.name)(maker, this);
-  binder_ = new FormBinder(desktop, form, this);
+  LayOutOf(form)(maker, this);
+  binder_ = new FormBinder(desktop, maker, this);
   // Drawings that are no control of the form follow the session too.
   connect(&desktop, &Desktop::Refreshed, this, [this] {
     if (!isVisible()) return;
     for (DiagramPane* pane : findChildren<DiagramPane*>()) pane->Refresh();
-    const bool awaits = desktop_.AwaitsCalculation();
+    const bool awaits = !desktop_.session().NotCalculated().empty();
     for (Pane* pane : findChildren<Pane*>()) {
       pane->SetPaled(awaits);
       pane->update();
@@ -58,8 +58,8 @@ FormWindow::FormWindow(Desktop& desktop, const Form& form, QWidget* parent)
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-  desktop_.CloseForm(form_.name);
-  if (desktop_.session().IsOpen(form_.name)) {
+  desktop_.CloseForm(form_);
+  if (desktop_.session().IsOpen(form_)) {
     event->ignore();
   } else {
     event->accept();
@@ -78,7 +78,7 @@ void FormWindow::Place() {
   // The frame that the window manager gives the main window is what this window gets too.
   const QSize frame = main->frameGeometry().size() - main->size();
   QRect place(QPoint(), size() + frame);
-  if (form_.name == "setup") {
+  if (&form_ == TheForms().setup) {
     place.moveCenter(room.center());
   } else {
     // Over the diagrams: inputs and result lines stay in sight.
@@ -89,7 +89,7 @@ void FormWindow::Place() {
 }
 
 bool FormWindow::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) desktop_.Activated(form_.name);
+  if (event->type() == QEvent::WindowActivate) desktop_.Activated(form_);
   return QDialog::event(event);
 }
 

@@ -8,6 +8,7 @@
 #include "front/desktop/form_window.h"
 #include "front/desktop/help_viewer.h"
 #include "front/desktop/main_window.h"
+#include "front/forms/handles.h"
 
 namespace korvane {
 
@@ -17,12 +18,10 @@ HelpDesk::HelpDesk(MainWindow& window, const QString& folder) : window_(window),
   key->setShortcutContext(Qt::ApplicationShortcut);
   connect(key, &QAction::triggered, this, &HelpDesk::OpenAtForm);
   window_.addAction(key);
-  if (QAction* contents = window_.ActionOf("mnuhelpcont")) {
-    contents->setText(contents->text() + QStringLiteral("\tF1"));
-  }
-  if (QAction* search = window_.ActionOf("mnuhelpsearch")) {
-    connect(search, &QAction::triggered, this, [this] { wantsSearch_ = true; });
-  }
+  QAction* contents = window_.ActionOf(*TheForms().onMain.mnuhelpcont);
+  contents->setText(contents->text() + QStringLiteral("\tF1"));
+  connect(window_.ActionOf(*TheForms().onMain.mnuhelpsearch), &QAction::triggered, this,
+          [this] { wantsSearch_ = true; });
 }
 
 HelpDesk::~HelpDesk() = default;

@@ -236,23 +236,9 @@ void DrawTurn(Sketch& s) {
   s.Line(30, 9, 31.6, 5.4);
 }
 
-/// Which picture, and its code.
-struct Row {
-  const char* form;  ///< empty: any
-  const char* prefix;
-  enum What { Support, Buckling, Level, Stiffener, Twist, Turn } what;
-  int offset;  ///< added to the number at the end of the name
-};
-constexpr Row kRows[] = {
-    {"", "cbuttbucklingy", Row::Buckling, 0}, {"", "cbuttbucklingz", Row::Buckling, 0},
-    {"", "cbuttsupport", Row::Stiffener, 0},  {"", "cbuttlateral", Row::Twist, 0},
-    {"", "cbutt", Row::Support, 0},           {"", "bucklingy", Row::Buckling, 0},
-    {"", "bucklingz", Row::Buckling, 0},      {"", "method", Row::Buckling, 1},
-    {"", "latbuckl", Row::Buckling, 0},       {"", "loadl", Row::Level, 0}};
-
 class PictureEngine : public QIconEngine {
 public:
-  PictureEngine(Row row, std::function<int()> code) : row_(row), code_(std::move(code)) {}
+  PictureEngine(const Sign& sign, const ProjectState& st) : sign_(sign), st_(st) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
     painter->save();
@@ -262,25 +248,27 @@ public:
     painter->scale(scale, scale);
     painter->translate(-kWide / 2, -kHigh / 2);
     Sketch sketch(*painter, QApplication::palette(), mode != QIcon::Disabled);
-    const int code = code_();
-    switch (row_.what) {
-      case Row::Support:
+    const int code = sign_.follows != nullptr ? int(st_.*sign_.follows) : sign_.code;
+    switch (sign_.what) {
+      case Sign::Support:
         DrawSupport(sketch, code);
         break;
-      case Row::Buckling:
+      case Sign::EndCondition:
         DrawBuckling(sketch, code);
         break;
-      case Row::Level:
+      case Sign::LoadLevel:
         DrawLoadLevel(sketch, code);
         break;
-      case Row::Stiffener:
+      case Sign::Stiffener:
         DrawStiffener(sketch, code);
         break;
-      case Row::Twist:
+      case Sign::Twist:
         DrawTwist(*painter, sketch);
         break;
-      case Row::Turn:
+      case Sign::Turn:
         DrawTurn(sketch);
+        break;
+      case Sign::None:
         break;
     }
     painter->restore();
@@ -299,31 +287,17 @@ public:
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
     return scaledPixmap(size, mode, state, 1);
   }
-  QIconEngine* clone() const override { return new PictureEngine(row_, code_); }
+  QIconEngine* clone() const override { return new PictureEngine(sign_, st_); }
 
 private:
-  Row row_;
-  std::function<int()> code_;
+  Sign sign_;
+  const ProjectState& st_;
 };
 
 }  // namespace
 
-QIcon PictureOf(const std::string& form, const std::string& control, std::function<int()> code) {
-  if (form != "korvane" && control == "cbuttbucklingy") {
-    return QIcon(new PictureEngine({"", "", Row::Turn, 0}, [] { return 0; }));
-  }
-  for (const Row& row : kRows) {
-    if (control.rfind(row.prefix, 0) != 0) continue;
-    if (!code) {
-      const QString digits = QString::fromStdString(control).mid(int(strlen(row.prefix)));
-      const int number = digits.toInt() + row.offset;
-      // The fifth case of lateral buckling is a typed factor.
-      const bool typed = std::string_view(row.prefix) == "latbuckl" && number == 5;
-      code = [number = typed ? 6 : number] { return number; };
-    }
-    return QIcon(new PictureEngine(row, std::move(code)));
-  }
-  return {};
+QIcon PictureOf(const Sign& sign, const ProjectState& st) {
+  return sign.what == Sign::None ? QIcon() : QIcon(new PictureEngine(sign, st));
 }
 
 }  // namespace korvane

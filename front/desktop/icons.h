@@ -3,15 +3,14 @@
 #pragma once
 
 #include <QIcon>
-#include <functional>
-#include <string>
+
+#include "front/form_table.h"
 
 namespace korvane {
 
-/// The picture of a control, null when there is none. case: asks for the code that a picture
-/// follows (the end condition in force), for pictures that change.
-QIcon PictureOf(const std::string& form, const std::string& control,
-                std::function<int()> code = {});
+/// The picture of a sign, null when there is none. A sign that follows a field shows the code in
+/// force of a state that must outlive the picture.
+QIcon PictureOf(const Sign& sign, const ProjectState& st);
 
 /// Width over height of the pictures.
 inline constexpr double kPictureRatio = 40.0 / 28.0;

@@ -20,25 +20,24 @@ QLabel* Heading(const QString& text) {
   return label;
 }
 
-/// A table: a line of headings, then one row per entry of `rows`, each the names of its widgets.
-void Table(WidgetMaker& maker, QGroupBox* group, const QStringList& headings,
-           const std::vector<std::pair<QString, std::vector<std::string>>>& rows) {
+using TableRow = std::pair<QString, std::vector<Handle>>;
+
+/// A table: a line of headings, then one row per entry of `rows`, each with its controls.
+QGridLayout* Table(WidgetMaker& maker, QGroupBox* group, const QStringList& headings,
+                   const std::vector<TableRow>& rows) {
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(Ems(group, 0.5));
   for (int k = 0; k < headings.size(); ++k) grid->addWidget(Heading(headings[k]), 0, k + 1);
   int row = 1;
-  for (const auto& [title, names] : rows) {
+  for (const auto& [title, controls] : rows) {
     grid->addWidget(Heading(title), row, 0);
     int column = 1;
-    for (const std::string& name : names) {
-      if (!name.empty()) grid->addWidget(maker.Make(name), row, column);
-      ++column;
-    }
+    for (const Handle control : controls) grid->addWidget(maker.Make(control), row, column++);
     ++row;
   }
   grid->setColumnStretch(grid->columnCount(), 1);
-  auto* box = static_cast<QVBoxLayout*>(group->layout());
-  box->addLayout(grid);
+  static_cast<QVBoxLayout*>(group->layout())->addLayout(grid);
+  return grid;
 }
 
 QGroupBox* Group(const QString& title) {
@@ -47,18 +46,18 @@ QGroupBox* Group(const QString& title) {
   return group;
 }
 
-QLayout* Row(WidgetMaker& maker, const std::vector<std::string>& names) {
+QLayout* Row(WidgetMaker& maker, const std::vector<Handle>& controls) {
   auto* row = new QHBoxLayout;
-  for (const std::string& name : names) row->addWidget(maker.Make(name));
+  for (const Handle control : controls) row->addWidget(maker.Make(control));
   row->addStretch(1);
   return row;
 }
 
-QString CaptionOf(const WidgetMaker& maker, const std::string& name) {
-  return QString::fromStdString(FindControl(maker.form(), name)->caption);
+QString CaptionOf(Handle control) {
+  return QString::fromStdString(control->caption);
 }
-QString UnitOf(const WidgetMaker& maker, const std::string& name) {
-  return QString::fromStdString(FindControl(maker.form(), name)->unit);
+QString UnitOf(Handle control) {
+  return QString::fromStdString(control->unit);
 }
 
 /// The tables beside it stay where they are when the widget comes and goes.
@@ -71,19 +70,23 @@ void KeepRoom(QWidget* widget) {
 /// Column of the selfweight in the table of factors, which is hidden without it.
 constexpr int kSelfweightColumn = 4;
 
+const LoadingControls& OnLoading() {
+  return TheForms().onLoading;
+}
+
 QGroupBox* Factors(WidgetMaker& maker) {
+  const LoadingControls& on = OnLoading();
   QGroupBox* group = Group(QObject::tr("Load factors and axial loads"));
-  Table(maker, group, {"P", "V1", "V2", QObject::tr("Selfweight")},
-        {{"ULS", {"ilfp_uls", "ilfv1_uls", "ilfv2_uls", "ilfsw_ULS"}},
-         {"SLS", {"ilfp_sls", "ilfv1_Sls", "ilfv2_Sls", "ilfsw_SLS"}},
-         {"N " + UnitOf(maker, "inp"), {"inp", "inv1", "inv2"}}});
-  group->layout()->addWidget(maker.Make("slsfactor"));
-  group->layout()->addWidget(maker.Make("check_selfweight"));
-  auto* grid = static_cast<QGridLayout*>(group->layout()->itemAt(0)->layout());
+  const QGridLayout* grid = Table(maker, group, {"P", "V1", "V2", QObject::tr("Selfweight")},
+                                  {{"ULS", {on.ilfp_uls, on.ilfv1_uls, on.ilfv2_uls, on.ilfsw_ULS}},
+                                   {"SLS", {on.ilfp_sls, on.ilfv1_Sls, on.ilfv2_Sls, on.ilfsw_SLS}},
+                                   {"N " + UnitOf(on.inp), {on.inp, on.inv1, on.inv2}}});
+  group->layout()->addWidget(maker.Make(on.slsfactor));
+  group->layout()->addWidget(maker.Make(on.check_selfweight));
   const auto selfweight = [grid](int row) {
     return grid->itemAtPosition(row, kSelfweightColumn)->widget();
   };
-  selfweight(0)->setProperty(kBelongsTo, QStringLiteral("ilfsw_ULS"));
+  maker.Accompany(on.ilfsw_ULS, selfweight(0));
   static_cast<QLabel*>(selfweight(2))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   // The heading or a field is the widest, as the font has it.
   for (int row = 0; row <= 2; ++row) KeepRoom(selfweight(row));
@@ -92,39 +95,39 @@ QGroupBox* Factors(WidgetMaker& maker) {
 
 QGroupBox* Lines(WidgetMaker& maker) {
   QGroupBox* group = Group(QObject::tr("Uniform loads"));
-  std::vector<std::pair<QString, std::vector<std::string>>> rows;
-  for (int k = 1; k <= 4; ++k) {
-    const std::string name = "iq" + std::to_string(k);
-    rows.push_back({CaptionOf(maker, name), {name, name + "_pv", name + "_yz"}});
+  std::vector<TableRow> rows;
+  for (const LoadingControls::Line& line : OnLoading().lines) {
+    rows.push_back({CaptionOf(line.q), {line.q, line.pv, line.yz}});
   }
-  Table(maker, group, {UnitOf(maker, "iq1"), QString(), QString()}, rows);
+  Table(maker, group, {UnitOf(OnLoading().lines[1].q), QString(), QString()}, rows);
   return group;
 }
 
 QGroupBox* Trapezoids(WidgetMaker& maker) {
+  const LoadingControls& on = OnLoading();
   QGroupBox* group = Group(QObject::tr("Trapezoidal loads"));
-  std::vector<std::pair<QString, std::vector<std::string>>> rows;
-  for (int t = 1; t <= 3; ++t) {
-    const std::string n = "iqt" + std::to_string(t);
-    rows.push_back(
-        {QString::number(t), {n + "1", n + "2", n + "x1", n + "x2", n + "_pv", n + "_yz"}});
+  std::vector<TableRow> rows;
+  for (const LoadingControls::Trapezoid& t : on.trapezoids) {
+    rows.push_back({QString::number(rows.size() + 1), {t.q1, t.q2, t.x1, t.x2, t.pv, t.yz}});
   }
-  const QString q = UnitOf(maker, "iqt11");
+  const QString q = UnitOf(on.trapezoids[1].q1);
   Table(maker, group, {"q1 " + q, "q2 " + q, "x1", "x2", QString(), QString()}, rows);
-  static_cast<QVBoxLayout*>(group->layout())->addLayout(Row(maker, {"qtxabsolute", "qtxrelative"}));
+  static_cast<QVBoxLayout*>(group->layout())
+      ->addLayout(Row(maker, {on.qtxabsolute, on.qtxrelative}));
   return group;
 }
 
 QGroupBox* Items(WidgetMaker& maker) {
+  const LoadingControls& on = OnLoading();
   QGroupBox* group = Group(QObject::tr("Point loads and moments"));
-  std::vector<std::pair<QString, std::vector<std::string>>> rows;
-  for (int i = 1; i <= 8; ++i) {
-    const std::string at = "(" + std::to_string(i) + ")";
-    rows.push_back({QString::number(i),
-                    {"ipm_pm" + at, "ipm" + at, "ipmx" + at, "ipm_pv" + at, "ipm_yz" + at}});
+  std::vector<TableRow> rows;
+  for (const LoadingControls::Item& item : on.items) {
+    rows.push_back(
+        {QString::number(rows.size() + 1), {item.kind, item.value, item.x, item.pv, item.yz}});
   }
-  Table(maker, group, {QString(), UnitOf(maker, "ipm(1)"), "x", QString(), QString()}, rows);
-  static_cast<QVBoxLayout*>(group->layout())->addLayout(Row(maker, {"pmxabsolute", "pmxrelative"}));
+  Table(maker, group, {QString(), UnitOf(on.items[1].value), "x", QString(), QString()}, rows);
+  static_cast<QVBoxLayout*>(group->layout())
+      ->addLayout(Row(maker, {on.pmxabsolute, on.pmxrelative}));
   return group;
 }
 
@@ -160,24 +163,24 @@ void LayOutLoading(WidgetMaker& maker, QWidget* window) {
 }
 
 void LayOutEndForces(WidgetMaker& maker, QWidget* window) {
+  const EndForceControls& on = TheForms().onEndForces;
   auto* all = new QVBoxLayout(window);
   auto* axial = new QHBoxLayout;
-  axial->addWidget(maker.Caption("ine"));
-  axial->addWidget(maker.Make("ine"));
-  axial->addWidget(maker.Unit("ine"));
-  axial->addWidget(maker.Make("osign"));
+  axial->addWidget(maker.Caption(on.ine));
+  axial->addWidget(maker.Make(on.ine));
+  axial->addWidget(maker.Unit(on.ine));
+  axial->addWidget(maker.Make(on.osign));
   axial->addStretch(1);
   all->addLayout(axial);
   auto* grid = new QGridLayout;
   int row = 0;
-  for (const std::string name : {"imy", "imz", "ivy", "ivz"}) {
-    maker.FieldRow(grid, row, name + "1", 0);
-    maker.FieldRow(grid, row, name + "2", 3);
-    ++row;
+  for (const EndForceControls::Row& force : on.rows) {
+    maker.FieldRow(grid, row, force.left, 0);
+    maker.FieldRow(grid, row++, force.right, 3);
   }
   grid->setColumnStretch(6, 1);
   all->addLayout(grid);
-  all->addWidget(maker.Make("onote"));
+  all->addWidget(maker.Make(on.onote));
   all->addStretch(1);
   all->addLayout(maker.ButtonRow());
 }

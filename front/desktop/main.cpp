@@ -20,6 +20,7 @@
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
 #include "front/locale.h"
+#include "front/named_session.h"
 
 namespace {
 
@@ -95,9 +96,9 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
   const auto library =
       ReadLibrary(FindDataFolder(parser.value(QStringLiteral("data")).toStdString()));
   DesktopPlatform platform;
-  Session session(library, platform, LocaleWritesComma(),
-                  FoldersOf(library->folder,
-                            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
+  NamedSession session(library, platform, LocaleWritesComma(),
+                       FoldersOf(library->folder, QStandardPaths::writableLocation(
+                                                      QStandardPaths::AppDataLocation)));
   session.Start();
   Desktop desktop(session);
   platform.SetWindow(&desktop.window());
@@ -114,7 +115,7 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
   QObject::connect(&desktop, &Desktop::Failed, &desktop.window(), [&desktop](const QString& text) {
     QMessageBox::critical(&desktop.window(), QString(), text);
   });
-  if (!screenshots.isEmpty()) return WriteScreenshots(desktop, screenshots) ? 0 : 1;
+  if (!screenshots.isEmpty()) return WriteScreenshots(desktop, session, screenshots) ? 0 : 1;
   if (parser.isSet(QStringLiteral("until-painted"))) {
     desktop.window().installEventFilter(new FirstPaint(&desktop));
   }
@@ -124,7 +125,7 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
   }
   // A window system that activates nothing must not leave the first calculation out.
   QTimer::singleShot(0, &desktop, [&desktop] {
-    if (desktop.session().Calculations() == 0) desktop.Activated("korvane");
+    if (desktop.session().Calculations() == 0) desktop.Activated(*TheForms().main);
   });
   return QApplication::exec();
 }

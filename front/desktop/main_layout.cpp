@@ -35,8 +35,12 @@ QGridLayout* FieldGrid() {
   return grid;
 }
 
-QLabel* Pair(WidgetMaker& maker, const char* name) {
-  auto* label = static_cast<QLabel*>(maker.Make(name));
+const MainControls& On() {
+  return TheForms().onMain;
+}
+
+QLabel* Pair(WidgetMaker& maker, Handle control) {
+  auto* label = static_cast<QLabel*>(maker.Make(control));
   label->setWordWrap(false);
   return label;
 }
@@ -44,8 +48,8 @@ QLabel* Pair(WidgetMaker& maker, const char* name) {
 QGroupBox* ProjectFrame(WidgetMaker& maker) {
   auto* group = new QGroupBox(QObject::tr("Project"));
   QGridLayout* grid = FieldGrid();
-  maker.FieldRow(grid, 0, "iproj");
-  maker.FieldRow(grid, 1, "iident");
+  maker.FieldRow(grid, 0, On().iproj);
+  maker.FieldRow(grid, 1, On().iident);
   Inside(group)->addLayout(grid);
   return group;
 }
@@ -54,21 +58,24 @@ QGroupBox* MemberFrame(WidgetMaker& maker) {
   auto* group = new QGroupBox(QObject::tr("Member"));
   QVBoxLayout* column = Inside(group);
   auto* fields = new QHBoxLayout;
-  for (const char* name : {"il", "ispring"}) {
-    if (name[1] != 'l') fields->addStretch(1);
-    fields->addWidget(maker.Caption(name));
-    auto* edit = maker.Make(name);
-    if (name[1] != 'l') edit->setFixedWidth(Ems(edit, 3.2));
+  const auto field = [&](Handle control) {
+    fields->addWidget(maker.Caption(control));
+    QWidget* edit = maker.Make(control);
     fields->addWidget(edit);
-    fields->addWidget(maker.Unit(name));
-  }
+    fields->addWidget(maker.Unit(control));
+    return edit;
+  };
+  field(On().il);
+  fields->addStretch(1);
+  QWidget* spring = field(On().ispring);
+  spring->setFixedWidth(Ems(spring, 3.2));
   column->addLayout(fields);
   auto* supports = new QHBoxLayout;
   supports->setSpacing(3);
-  for (int k = 0; k < 6; ++k) supports->addWidget(maker.Make("cbutt" + std::to_string(k)));
+  for (const Handle support : On().cbutt) supports->addWidget(maker.Make(support));
   supports->addStretch(1);
-  supports->addWidget(Pair(maker, "oweba"));
-  supports->addWidget(maker.Make("cbuttsupport"));
+  supports->addWidget(Pair(maker, On().oweba));
+  supports->addWidget(maker.Make(On().cbuttsupport));
   column->addLayout(supports);
   return group;
 }
@@ -76,45 +83,41 @@ QGroupBox* MemberFrame(WidgetMaker& maker) {
 QGroupBox* MaterialFrame(WidgetMaker& maker) {
   auto* group = new QGroupBox(QObject::tr("Material"));
   QGridLayout* grid = FieldGrid();
-  maker.FieldRow(grid, 0, "cbofyk");
-  maker.FieldRow(grid, 1, "ifyk");
-  maker.FieldRow(grid, 2, "ie");
-  maker.FieldRow(grid, 1, "igammam1", 4);
+  maker.FieldRow(grid, 0, On().cbofyk);
+  maker.FieldRow(grid, 1, On().ifyk);
+  maker.FieldRow(grid, 2, On().ie);
+  maker.FieldRow(grid, 1, On().igammam1, 4);
   auto* strength = new QHBoxLayout;
   strength->setSpacing(grid->horizontalSpacing());
-  strength->addWidget(Pair(maker, "ofyd"));
-  strength->addWidget(maker.Unit("ofyd"), 1);
+  strength->addWidget(Pair(maker, On().ofyd));
+  strength->addWidget(maker.Unit(On().ofyd), 1);
   grid->addLayout(strength, 0, 4, 1, 3);
   grid->setColumnStretch(3, 1);
   Inside(group)->addLayout(grid);
   return group;
 }
 
-QGroupBox* ColumnFrame(WidgetMaker& maker, std::function<int()> caseY, std::function<int()> caseZ) {
-  QGroupBox* group = maker.Frame("columnframe");
+QGroupBox* ColumnFrame(WidgetMaker& maker) {
+  QGroupBox* group = maker.Frame(On().columnframe);
   QGridLayout* grid = FieldGrid();
   int row = 0;
-  grid->addWidget(Pair(maker, "oblfactor"), row, 0, 1, 3);
-  auto* curve = Pair(maker, "obuckltext");
-  curve->setToolTip(QString::fromStdString(FindControl(maker.form(), "obcauto")->caption));
+  grid->addWidget(Pair(maker, On().oblfactor), row, 0, 1, 3);
+  auto* curve = Pair(maker, On().obuckltext);
+  curve->setToolTip(QString::fromStdString(On().obcauto->caption));
   grid->addWidget(curve, row++, 4, 1, 2);
   struct Axis {
-    const char* field;
-    const char* picture;
-    const char* letter;
-    const char* angle;  // the axis of an angle section
-    QString name;
-    std::function<int()> code;
+    const char* name;
+    Handle field, picture, letter;
+    Handle angle;  // the axis of an angle section
   };
-  for (const Axis& axis :
-       {Axis{"ibly", "cbuttbucklingy", "obcy", "ouaxis", QStringLiteral("Y"), std::move(caseY)},
-        Axis{"iblz", "cbuttbucklingz", "obcz", "ovaxis", QStringLiteral("Z"), std::move(caseZ)}}) {
-    auto* name = new QLabel(axis.name);
-    name->setProperty(kBelongsTo, QString::fromUtf8(axis.field));
-    name->setToolTip(QString::fromStdString(FindControl(maker.form(), axis.field)->caption));
+  for (const Axis& axis : {Axis{"Y", On().ibly, On().cbuttbucklingy, On().obcy, On().ouaxis},
+                           Axis{"Z", On().iblz, On().cbuttbucklingz, On().obcz, On().ovaxis}}) {
+    auto* name = new QLabel(QString::fromUtf8(axis.name));
+    maker.Accompany(axis.field, name);
+    name->setToolTip(QString::fromStdString(axis.field->caption));
     grid->addWidget(name, row, 0, Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(maker.Make(axis.field), row, 1);
-    grid->addWidget(maker.MakePicture(axis.picture, axis.code), row, 2);
+    grid->addWidget(maker.Make(axis.picture), row, 2);
     auto* angle = Pair(maker, axis.angle);
     angle->setForegroundRole(QPalette::PlaceholderText);
     grid->addWidget(angle, row, 3);
@@ -122,30 +125,30 @@ QGroupBox* ColumnFrame(WidgetMaker& maker, std::function<int()> caseY, std::func
     letter->setAlignment(Qt::AlignCenter);
     grid->addWidget(letter, row++, 4);
   }
-  grid->addWidget(maker.Make("Command1"), 1, 5, 2, 1, Qt::AlignVCenter);
+  grid->addWidget(maker.Make(On().Command1), 1, 5, 2, 1, Qt::AlignVCenter);
   grid->setColumnStretch(3, 1);
   QVBoxLayout* column = Inside(group);
   column->addLayout(grid);
-  auto* note = Pair(maker, "obcauto");
+  auto* note = Pair(maker, On().obcauto);
   note->setWordWrap(true);
   note->setForegroundRole(QPalette::PlaceholderText);
   column->addWidget(note);
   return group;
 }
 
-QGroupBox* Options(WidgetMaker& maker, const char* frame, const std::vector<const char*>& options) {
+QGroupBox* Options(WidgetMaker& maker, Handle frame, const std::vector<Handle>& options) {
   QGroupBox* group = maker.Frame(frame);
   QVBoxLayout* column = Inside(group);
-  for (const char* name : options) column->addWidget(maker.Make(name));
+  for (const Handle option : options) column->addWidget(maker.Make(option));
   return group;
 }
 
 QLayout* Lateral(WidgetMaker& maker) {
   auto* row = new QHBoxLayout;
-  row->addWidget(maker.Make("ch_vipp"));
+  row->addWidget(maker.Make(On().ch_vipp));
   row->addStretch(1);
-  row->addWidget(Pair(maker, "oza"));
-  row->addWidget(maker.Make("cbuttlateral"));
+  row->addWidget(Pair(maker, On().oza));
+  row->addWidget(maker.Make(On().cbuttlateral));
   return row;
 }
 
@@ -157,21 +160,19 @@ QWidget* MainWindow::InputColumn(WidgetMaker& maker) {
   const int gap = Ems(this, 0.5);
   column->setContentsMargins(gap, gap, gap, gap);
   column->setSpacing(gap);
-  const ProjectState* st = &desktop_.session().st();
   column->addWidget(ProjectFrame(maker));
   column->addWidget(MemberFrame(maker));
   column->addWidget(MaterialFrame(maker));
-  column->addWidget(ColumnFrame(
-      maker, [st] { return int(st->BucklingCaseY); }, [st] { return int(st->BucklingCaseZ); }));
+  column->addWidget(ColumnFrame(maker));
   column->addLayout(Lateral(maker));
-  column->addWidget(Options(maker, "frbuckling", {"obuckling0", "obuckling1"}));
-  column->addWidget(Options(maker, "fr15", {"ch_webbuck", "ch_flangebuck"}));
-  column->addWidget(Options(maker, "frsectionc", {"osectionc0", "osectionc1"}));
-  column->addWidget(maker.Make("ch_modal"));
+  column->addWidget(Options(maker, On().frbuckling, {On().obuckling0, On().obuckling1}));
+  column->addWidget(Options(maker, On().fr15, {On().ch_webbuck, On().ch_flangebuck}));
+  column->addWidget(Options(maker, On().frsectionc, {On().osectionc0, On().osectionc1}));
+  column->addWidget(maker.Make(On().ch_modal));
   auto* buttons = new QGridLayout;
   int at = 0;
-  for (const char* name : {"cp", "cmd_modresult", "Picture"}) {
-    buttons->addWidget(maker.Make(name), 0, at++);
+  for (const Handle button : {On().cp, On().cmd_modresult, On().Picture}) {
+    buttons->addWidget(maker.Make(button), 0, at++);
   }
   column->addLayout(buttons);
   column->addStretch(1);
@@ -185,7 +186,8 @@ QWidget* MainWindow::InputColumn(WidgetMaker& maker) {
   return scroll;
 }
 
-QWidget* MainWindow::Plane(WidgetMaker& maker, const char* frame, std::vector<std::string> boxes) {
+QWidget* MainWindow::Plane(WidgetMaker& maker, const Control* frame,
+                           std::vector<std::string> boxes) {
   QGroupBox* group = maker.Frame(frame);
   auto* column = new QVBoxLayout(group);
   column->setContentsMargins(1, 1, 1, 1);
@@ -207,12 +209,14 @@ QWidget* MainWindow::OptimiserPanel(WidgetMaker& maker) {
   auto* panel = new QWidget;
   auto* row = new QHBoxLayout(panel);
   row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(maker.Make("optimize"));
+  row->addWidget(maker.Make(On().optimize));
   row->addSpacing(Ems(this, 1));
-  for (const char* name : {"ULS", "SLS", "ULSSLS"}) row->addWidget(maker.Make(name));
+  for (const Handle criterion : {On().ULS, On().SLS, On().ULSSLS}) {
+    row->addWidget(maker.Make(criterion));
+  }
   row->addSpacing(Ems(this, 0.5));
-  row->addWidget(maker.Caption("idef_limit"));
-  auto* limit = maker.Make("idef_limit");
+  row->addWidget(maker.Caption(On().idef_limit));
+  auto* limit = maker.Make(On().idef_limit);
   limit->setFixedWidth(Ems(this, 4));
   row->addWidget(limit);
   row->addStretch(1);
@@ -228,28 +232,29 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   column->setContentsMargins(0, gap, gap, gap);
   column->setSpacing(gap);
   auto* head = new QHBoxLayout;
-  auto* title = static_cast<QLabel*>(maker.Make("obeam"));
+  auto* title = static_cast<QLabel*>(maker.Make(On().obeam));
   QFont large = title->font();
   large.setPixelSize(Ems(this, 1.7));
   large.setBold(true);
   title->setFont(large);
   head->addWidget(title);
   head->addSpacing(Ems(this, 1));
-  head->addWidget(maker.Make("cmdpic"));
-  head->addWidget(maker.Make("de"));
+  head->addWidget(maker.Make(On().cmdpic));
+  head->addWidget(maker.Make(On().de));
   head->addStretch(1);
   verdict_ = new VerdictPane(desktop_.session());
   head->addWidget(verdict_);
+  connect(verdict_, &Pane::Clicked, this, &MainWindow::ShowNotes);
   column->addLayout(head);
 
   auto* top = new QSplitter(Qt::Horizontal);
   top->setObjectName(QStringLiteral("figure_results"));
-  top->addWidget(maker.Make("pic1"));
-  QGroupBox* results = maker.Frame("fr31");
+  top->addWidget(maker.Make(On().pic1));
+  QGroupBox* results = maker.Frame(On().fr31);
   auto* inside = new QVBoxLayout(results);
   inside->setContentsMargins(1, 1, 1, 1);
   auto* scroll = new QScrollArea;
-  scroll->setWidget(maker.Make("pic31"));
+  scroll->setWidget(maker.Make(On().pic31));
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
   inside->addWidget(scroll);
@@ -260,9 +265,9 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   auto* planes = new QSplitter(Qt::Horizontal);
   planes->setObjectName(QStringLiteral("planes"));
   planes->addWidget(
-      Plane(maker, "fr21", {"picloadpn", "picloadzp", "picloadzv", "picmy", "picdz"}));
+      Plane(maker, On().fr21, {"picloadpn", "picloadzp", "picloadzv", "picmy", "picdz"}));
   planes->addWidget(
-      Plane(maker, "fr22", {"picloadvn", "picloadyp", "picloadyv", "picmz", "picdy"}));
+      Plane(maker, On().fr22, {"picloadvn", "picloadyp", "picloadyv", "picmz", "picdy"}));
 
   auto* rows = new QSplitter(Qt::Vertical);
   rows->setObjectName(QStringLiteral("results_diagrams"));

@@ -5,6 +5,8 @@
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
+#include <QDialog>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
@@ -13,6 +15,7 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "front/desktop/desktop.h"
@@ -30,24 +33,13 @@ QSettings Store() {
                    QStringLiteral("Korvane_ns"));
 }
 
-/// The usual keys beside the menus.
-struct Shortcut {
-  const char* command;
-  const char* keys;
-};
-constexpr Shortcut kShortcuts[] = {{"mnunew", "Ctrl+N"},           {"mnuopen", "Ctrl+O"},
-                                   {"mnusave", "Ctrl+S"},          {"mnusaveas", "Ctrl+Shift+S"},
-                                   {"mnuprint11", "Ctrl+P"},       {"mnuexit", "Ctrl+Q"},
-                                   {"mnurecentfile(1)", "Ctrl+1"}, {"mnurecentfile(2)", "Ctrl+2"},
-                                   {"mnurecentfile(3)", "Ctrl+3"}, {"mnurecentfile(4)", "Ctrl+4"}};
-
 }  // namespace
 
 MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
-  setObjectName(QStringLiteral("korvane"));
+  setObjectName(QString::fromStdString(TheForms().main->name));
   MakeMenus();
   AddKeys();
-  WidgetMaker maker(*FindForm("korvane"), desktop_.session());
+  WidgetMaker maker(*TheForms().main, desktop_.session());
   auto* split = new QSplitter(Qt::Horizontal);
   split->setObjectName(QStringLiteral("inputs_results"));
   split->setChildrenCollapsible(false);
@@ -66,88 +58,93 @@ MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
     connect(plane, &DiagramPane::Pointed, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
   }
-  binder_ = new FormBinder(desktop_, maker.form(), this);
+  binder_ = new FormBinder(desktop_, maker, this);
   connect(&desktop_, &Desktop::Refreshed, this, &MainWindow::Refresh);
   // The field in use has been left by then: the binder hears the button first.
-  connect(centralWidget()->findChild<QAbstractButton*>(QStringLiteral("cmdpic")),
+  connect(static_cast<QAbstractButton*>(binder_->WidgetOf(*TheForms().onMain.cmdpic)),
           &QAbstractButton::clicked, this, &MainWindow::RaiseDiagrams);
   RestoreSizes();
 }
 
 void MainWindow::MakeMenus() {
   std::map<std::string, QMenu*> menus;
-  const Form& form = *FindForm("korvane");
+  const Form& form = *TheForms().main;
   const auto isParent = [&](const std::string& name) {
-    for (const Control& c : form.controls) {
-      if (c.kind == Kind::Menu && c.parent == name) return true;
-    }
-    return false;
+    return std::any_of(form.controls.begin(), form.controls.end(),
+                       [&](const Control& c) { return c.kind == Kind::Menu && c.parent == name; });
   };
   for (const Control& c : form.controls) {
     if (c.kind != Kind::Menu) continue;
     const QString caption = QString::fromStdString(c.caption);
     QMenu* above = c.parent.empty() ? nullptr : menus[c.parent];
+    QAction* action = nullptr;
     if (isParent(c.name)) {
       QMenu* menu = above == nullptr ? menuBar()->addMenu(caption) : above->addMenu(caption);
-      menu->menuAction()->setObjectName(QString::fromStdString(c.name));
+      action = menu->menuAction();
       menus[c.name] = menu;
       // Opening some menus is an action of its own.
-      connect(menu, &QMenu::aboutToShow, this, [this, name = c.name] {
-        if (!desktop_.Busy()) desktop_.session().Menu(name);
+      connect(menu, &QMenu::aboutToShow, this, [this, &c] {
+        if (!desktop_.Busy()) desktop_.session().Menu(c);
       });
-      continue;
-    }
-    auto* action = new QAction(c.caption == "-" ? QString() : caption, this);
-    action->setObjectName(QString::fromStdString(c.name));
-    action->setSeparator(c.caption == "-");
-    connect(action, &QAction::triggered, this, [this, name = c.name] { desktop_.Command(name); });
-    if (above == nullptr) {
-      menuBar()->addAction(action);
     } else {
-      above->addAction(action);
+      const bool separator = c.caption == "-";
+      action = new QAction(separator ? QString() : caption, this);
+      action->setSeparator(separator);
+      connect(action, &QAction::triggered, this, [this, &c] { desktop_.Command(c); });
+      if (above == nullptr) {
+        menuBar()->addAction(action);
+      } else {
+        above->addAction(action);
+      }
     }
+    action->setObjectName(QString::fromStdString(c.name));
+    actions_.emplace_back(&c, action);
   }
 }
 
+/// The usual keys beside the menus.
 void MainWindow::AddKeys() {
-  for (const Shortcut& s : kShortcuts) {
-    QAction* action = ActionOf(s.command);
-    if (action == nullptr) continue;
-    action->setShortcut(QKeySequence(QString::fromUtf8(s.keys)));
+  const MainControls& on = TheForms().onMain;
+  const auto key = [this](const Control* command, const char* keys) {
+    QAction* action = ActionOf(*command);
+    action->setShortcut(QKeySequence(QString::fromUtf8(keys)));
     action->setShortcutContext(Qt::ApplicationShortcut);
+  };
+  key(on.mnunew, "Ctrl+N");
+  key(on.mnuopen, "Ctrl+O");
+  key(on.mnusave, "Ctrl+S");
+  key(on.mnusaveas, "Ctrl+Shift+S");
+  key(on.mnuprint11, "Ctrl+P");
+  key(on.mnuexit, "Ctrl+Q");
+  for (int entry = 1; entry <= kRecentFiles; ++entry) {
+    key(on.mnurecentfile[entry], ("Ctrl+" + std::to_string(entry)).c_str());
   }
 }
 
-QAction* MainWindow::ActionOf(const std::string& command) const {
-  const QString name = QString::fromStdString(command);
-  for (QAction* action : findChildren<QAction*>()) {
-    if (action->objectName() == name) return action;
+QAction* MainWindow::ActionOf(const Control& command) const {
+  for (const auto& [control, action] : actions_) {
+    if (control == &command) return action;
   }
   return nullptr;
 }
 
 void MainWindow::RefreshMenus() {
-  for (QAction* action : findChildren<QAction*>()) {
-    const std::string name = action->objectName().toStdString();
-    const Control* c = FindControl(*FindForm("korvane"), name);
-    if (c == nullptr || c->kind != Kind::Menu) continue;
-    if (c->visible) action->setVisible(desktop_.session().Visible("korvane." + name));
-    if (c->text) {
-      action->setText(QString::fromStdString(desktop_.session().Text("korvane." + name)));
-    }
+  const Session& s = desktop_.session();
+  for (const auto& [control, action] : actions_) {
+    if (control->visible) action->setVisible(s.Visible(*control));
+    if (control->text) action->setText(QString::fromStdString(s.Text(*control)));
   }
 }
 
 void MainWindow::Refresh() {
-  setWindowTitle(QString::fromStdString(desktop_.session().Title("korvane")));
+  setWindowTitle(QString::fromStdString(desktop_.session().Title(*TheForms().main)));
   RefreshMenus();
   for (DiagramPane* plane : planes_) plane->Refresh();
   // The verdict is no control of the form.
   verdict_->Refresh();
   // No result may be taken for one of a section that it was not calculated with.
-  for (Pane* pane : centralWidget()->findChildren<Pane*>()) {
-    pane->SetPaled(desktop_.AwaitsCalculation());
-  }
+  const bool pale = !desktop_.session().NotCalculated().empty();
+  for (Pane* pane : centralWidget()->findChildren<Pane*>()) pane->SetPaled(pale);
 }
 
 void MainWindow::ShowProgress(int done, int all) {
@@ -160,9 +157,33 @@ void MainWindow::ShowProgress(int done, int all) {
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+void MainWindow::ShowNotes() {
+  auto* lines = static_cast<ResultPane*>(binder_->WidgetOf(*TheForms().onMain.pic31));
+  if (const QRect place = lines->MarkRatio(verdict_->Figure()); !place.isEmpty()) {
+    auto* scroll = qobject_cast<QScrollArea*>(lines->parentWidget()->parentWidget());
+    if (scroll != nullptr) {
+      scroll->ensureVisible(0, place.top(), 0, 0);
+      scroll->ensureVisible(0, place.bottom(), 0, 0);
+    }
+  }
+  auto* popup = new QDialog(this, Qt::Popup);
+  popup->setObjectName(QStringLiteral("verdict_notes"));
+  popup->setAttribute(Qt::WA_DeleteOnClose);
+  auto* text = new QLabel(verdict_->toolTip(), popup);
+  text->setWordWrap(true);
+  text->setTextFormat(Qt::PlainText);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  text->setMinimumWidth(Ems(this, 36));
+  (new QVBoxLayout(popup))->addWidget(text);
+  popup->adjustSize();
+  const QPoint corner = verdict_->mapToGlobal(QPoint(verdict_->width(), verdict_->height()));
+  popup->move(corner - QPoint(popup->width(), 0));
+  popup->show();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
   SaveSizes();
-  desktop_.CloseForm("korvane");
+  desktop_.CloseForm(*TheForms().main);
   event->accept();
 }
 
@@ -187,14 +208,12 @@ void MainWindow::RaiseDiagrams() {
 }
 
 bool MainWindow::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) desktop_.Activated("korvane");
+  if (event->type() == QEvent::WindowActivate) desktop_.Activated(*TheForms().main);
   return QMainWindow::event(event);
 }
 
 void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
-  if (QAction* help = ActionOf("mnuhelp")) {
-    if (help->menu() != nullptr) help->menu()->popup(event->globalPos());
-  }
+  ActionOf(*TheForms().onMain.mnuhelp)->menu()->popup(event->globalPos());
 }
 
 void MainWindow::RestoreSizes() {

@@ -12,6 +12,7 @@ namespace korvane {
 
 class Desktop;
 class DiagramPane;
+struct Control;
 class FormBinder;
 class VerdictPane;
 class WidgetMaker;
@@ -24,9 +25,11 @@ public:
   FormBinder& binder() { return *binder_; }
   VerdictPane& verdict() { return *verdict_; }
   /// The menu entry of a command.
-  QAction* ActionOf(const std::string& command) const;
+  QAction* ActionOf(const Control& command) const;
   /// Progress of a search in the status bar; all is 0 at its end.
   void ShowProgress(int done, int all);
+  /// Shows the notes of the verdict and marks the governing line.
+  void ShowNotes();
   /// Draws the diagrams anew, gives them the room that they need and scrolls to the moments.
   void RaiseDiagrams();
 
@@ -42,7 +45,7 @@ private:
   void Refresh();
   QWidget* InputColumn(WidgetMaker& maker);
   QWidget* ResultSide(WidgetMaker& maker);
-  QWidget* Plane(WidgetMaker& maker, const char* frame, std::vector<std::string> boxes);
+  QWidget* Plane(WidgetMaker& maker, const Control* frame, std::vector<std::string> boxes);
   QWidget* OptimiserPanel(WidgetMaker& maker);
   void RestoreSizes();
   void SaveSizes() const;
@@ -50,6 +53,7 @@ private:
   Desktop& desktop_;
   FormBinder* binder_ = nullptr;
   VerdictPane* verdict_ = nullptr;
+  std::vector<std::pair<const Control*, QAction*>> actions_;
   std::vector<DiagramPane*> planes_;
   std::vector<QSplitter*> splitters_;
   QProgressBar* progress_ = nullptr;

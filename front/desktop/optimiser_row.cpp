@@ -18,23 +18,9 @@ QSize OptimiserRowMark::sizeHint() const {
   return {Ems(this, 12), Ems(this, 1.6)};
 }
 
-int OptimiserRowMark::Lightest(const Session& session) {
-  int best = 0;
-  double weight = 0;
-  for (int row = 1; row <= kOptimiserRows; ++row) {
-    const auto& state = session.rows()[static_cast<std::size_t>(row)];
-    if (!state.searched || state.view.name.empty() || !session.optimiser().Passes[row]) continue;
-    if (best == 0 || state.view.S < weight) {
-      best = row;
-      weight = state.view.S;
-    }
-  }
-  return best;
-}
-
 void OptimiserRowMark::Draw(QPainter& painter) {
   painter.fillRect(rect(), palette().color(QPalette::Window));
-  const auto& state = session_.rows()[static_cast<std::size_t>(row_)];
+  const OptimiserRows::Row& state = session_.rows().row[row_];
   if (!state.searched || state.view.name.empty()) return;
   painter.setRenderHint(QPainter::Antialiasing);
   const double limit = session_.st().iufa;
@@ -49,10 +35,6 @@ void OptimiserRowMark::Draw(QPainter& painter) {
   painter.setBrush(ColourFor(role, palette()));
   painter.drawRoundedRect(QRectF(track.topLeft(), QSizeF(std::max(thick, length * share), thick)),
                           thick / 2, thick / 2);
-  if (Lightest(session_) != row_) return;
-  painter.setPen(ColourFor(Role::Accent, palette()));
-  painter.drawText(rect().adjusted(Ems(this, 6.2), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                   tr("lightest"));
 }
 
 }  // namespace korvane

@@ -117,18 +117,15 @@ ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent), unit_(new QLabel(paren
   unit_->setForegroundRole(QPalette::PlaceholderText);
 }
 
-void ValueLabel::ShowValue(const QString& text) {
-  const auto blank = text.indexOf(QLatin1Char(' '));
-  const QString value = blank < 0 ? text : text.left(blank);
-  const QString rest = blank < 0 ? QString() : text.mid(blank + 1);
-  if (this->text() != value) setText(value);
-  if (unit_->text() != rest) unit_->setText(rest);
+void ValueLabel::ShowValue(const QString& text, const QString& unit) {
+  if (this->text() != text) setText(text);
+  if (unit_->text() != unit) unit_->setText(unit);
 }
 
 // --- Figure -------------------------------------------------------------------------------------
 
-FigurePane::FigurePane(const Session& session, std::string form, QWidget* parent)
-    : Pane(session, parent), form_(std::move(form)) {
+FigurePane::FigurePane(const Session& session, const Form& form, QWidget* parent)
+    : Pane(session, parent), form_(form) {
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::TabFocus);
   setMinimumSize(Ems(this, 14), Ems(this, 13));
@@ -142,11 +139,8 @@ void FigurePane::Draw(QPainter& painter) {
   PainterTarget target(painter, width(), height(), rect(), DrawingColours(palette()));
   target.FontSize = Ems(this, 0.85);
   FigureOptions options;
-  const std::string& field = session_.FocusedField();
-  if (field.rfind(form_ + ".", 0) == 0) {
-    const Control* c = FindControl(*FindForm(form_), field.substr(form_.size() + 1));
-    if (c != nullptr) options.highlight = c->caption.substr(0, c->caption.find(' '));
-  }
+  const Control* field = session_.FocusedField();
+  if (field != nullptr && field->form == &form_) options.highlight = field->letter;
   DrawSectionFigure(target, {0, 0, double(width()), double(height())}, Destination::Page,
                     session_.st(), session_.design().rec, options);
 }
@@ -156,52 +150,66 @@ void FigurePane::Draw(QPainter& painter) {
 VerdictPane::VerdictPane(const Session& session, QWidget* parent) : Pane(session, parent) {
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   setObjectName(QStringLiteral("verdict"));
+  setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);
   ground_ = QPalette::Window;
   Refresh();
 }
 
 QSize VerdictPane::sizeHint() const {
-  return {Ems(this, 20), Ems(this, 3.6)};
+  return {Ems(this, 22), Ems(this, 4.4)};
 }
 
 void VerdictPane::Refresh() {
-  const Design& d = session_.design();
-  const bool checked = !d.checks.lineSection.formula.empty() || d.checks.bucklingRan;
-  const double ir = MaxIR(d.checks);
-  const Role role = RoleOfIndex(CheckColour(ir, d.st.iufa));
-  role_ = checked ? role : Role::Quiet;
-  figure_ = checked ? QString::fromStdString(session_.Shown(ir, "#0.00")) : QStringLiteral("-");
-  word_ = !checked ? QString() : role == Role::Pass ? tr("OK") : tr("FAILS");
-  setAccessibleName(tr("Greatest IR %1 %2").arg(figure_, word_));
-  setToolTip(tr("Greatest utilisation ratio of all checks; the limit is %1")
-                 .arg(QString::fromStdString(session_.Shown(d.st.iufa, "#0.00"))));
+  headline_ = HeadlineOf(session_);
+  const Headline& h = headline_;
+  setAccessibleName(tr("ULS %1 %2. %3").arg(Figure(), Word(), QString::fromStdString(h.below)));
+  QStringList tips{tr("Greatest utilisation ratio of all checks; the limit is %1")
+                       .arg(QString::fromStdString(session_.Shown(session_.st().iufa, "#0.00")))};
+  for (const std::string& note : h.notes) tips << QString::fromStdString(note);
+  // Nobody's numbers stand under another's title.
+  if (const std::string why = session_.NotCalculated(); !why.empty()) {
+    tips = QStringList(QString::fromStdString(why));
+  }
+  setToolTip(tips.join(QLatin1Char('\n')));
   update();
 }
 
 void VerdictPane::Draw(QPainter& painter) {
-  const QColor colour = ColourFor(role_, palette());
+  const auto colour = [this](Headline::Tone tone) {
+    return ColourFor(tone == Headline::Tone::Pass   ? Role::Pass
+                     : tone == Headline::Tone::Fail ? Role::Fail
+                                                    : Role::Quiet,
+                     palette());
+  };
   QFont big = font();
-  big.setPixelSize(Ems(this, 2.9));
+  big.setPixelSize(Ems(this, 2.5));
   big.setBold(true);
   QFont word = font();
   word.setPixelSize(Ems(this, 1.35));
   word.setBold(true);
-  const int wordWidth = QFontMetrics(word).horizontalAdvance(word_);
   const int right = width() - Ems(this, 0.6);
-  const QRect wordBox(right - wordWidth, 0, wordWidth + 2, height());
-  painter.setFont(word);
-  painter.setPen(colour);
-  painter.drawText(wordBox, Qt::AlignVCenter | Qt::AlignRight, word_);
-  const QRect figureBox(0, 0, right - wordWidth - Ems(this, 0.6), height());
-  painter.setFont(big);
-  painter.drawText(figureBox, Qt::AlignVCenter | Qt::AlignRight, figure_);
-  const int figureWidth = QFontMetrics(big).horizontalAdvance(figure_);
+  const int foot = height() - Ems(this, 1.5);
+  QRect row(0, 0, right, foot);
+  const auto put = [&](const QFont& font, const QColor& ink, const QString& text, double gap) {
+    const int wide = QFontMetrics(font).horizontalAdvance(text);
+    // Where there is no room the figure speaks for itself.
+    if (wide > row.width()) return;
+    painter.setFont(font);
+    painter.setPen(ink);
+    painter.drawText(row, Qt::AlignVCenter | Qt::AlignRight, text);
+    row.setRight(row.right() - wide - Ems(this, gap));
+  };
+  put(word, colour(headline_.tone), Word(), 0.6);
+  put(big, colour(headline_.tone), Figure(), 0.8);
+  put(font(), palette().color(QPalette::PlaceholderText), tr("ULS, max IR"), 0);
+  const QRect below(0, foot, right, height() - foot);
   painter.setFont(font());
-  painter.setPen(palette().color(QPalette::PlaceholderText));
-  const QRect rest = figureBox.adjusted(0, 0, -figureWidth - Ems(this, 0.8), 0);
-  // Where there is no room the figure speaks for itself.
-  if (fontMetrics().horizontalAdvance(tr("max IR")) > rest.width()) return;
-  painter.drawText(rest, Qt::AlignVCenter | Qt::AlignRight, tr("max IR"));
+  painter.setPen(headline_.belowTone == Headline::Tone::Quiet ? palette().color(QPalette::Text)
+                                                              : colour(headline_.belowTone));
+  const QString text = fontMetrics().elidedText(QString::fromStdString(headline_.below),
+                                                Qt::ElideRight, below.width());
+  painter.drawText(below, Qt::AlignTop | Qt::AlignRight, text);
 }
 
 }  // namespace korvane

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "checks/results.h"
+#include "front/headline.h"
 #include "front/session.h"
 #include "presentation/drawing_target.h"
 
@@ -53,8 +54,7 @@ class ValueLabel : public QLabel {
 
 public:
   explicit ValueLabel(QWidget* parent = nullptr);
-  /// Value and unit as the session gives them, a blank between them.
-  void ShowValue(const QString& text);
+  void ShowValue(const QString& text, const QString& unit);
   QLabel* unit() { return unit_; }
 
 private:
@@ -67,14 +67,14 @@ class FigurePane : public Pane {
 
 public:
   /// form: the form whose fields light up their letters.
-  FigurePane(const Session& session, std::string form, QWidget* parent = nullptr);
+  FigurePane(const Session& session, const Form& form, QWidget* parent = nullptr);
   QSize sizeHint() const override;
 
 protected:
   void Draw(QPainter& painter) override;
 
 private:
-  std::string form_;
+  const Form& form_;
 };
 
 /// The result lines as the views compose them, each ratio with a bar to its limit.
@@ -82,12 +82,15 @@ class ResultPane : public Pane {
   Q_OBJECT
 
 public:
-  enum class Form { Short, Long };
-  ResultPane(const Session& session, Form form, QWidget* parent = nullptr);
+  enum class Length { Short, Long };
+  ResultPane(const Session& session, Length length, QWidget* parent = nullptr);
   void Refresh() override;
   /// The lines as text, as the context menu copies them.
   QStringList Lines() const;
   void Copy() const;
+  /// Marks the first line with this ratio until the lines change. Its place in the pane, empty
+  /// where no line has it.
+  QRect MarkRatio(const QString& ratio);
   QSize sizeHint() const override;
 
 protected:
@@ -102,34 +105,39 @@ private:
   void Measure();
   /// The short lines take the letters that the pane around them has room for.
   void FitLetters();
+  /// Calls visit(line, y) for each line with its upper end in the pane.
+  template <class Visit>
+  void EachLine(Visit&& visit) const;
   void DrawLine(QPainter& painter, const ViewLine& line, double y);
   double RowHeight() const;
   QFont FontOf(const TextRun& run, bool fails) const;
   double TabAfter(double x) const;
   double WidthOf(const ViewLine& line) const;
-  Form form_;
+  Length length_;
   View view_;
   double rows_ = 1;  ///< height of the lines, in rows
   double bars_ = 0;  ///< left end of the bars
+  QString marked_;   ///< ratio of the line that is marked
 };
 
-/// The greatest ratio in big figures, with the word beside it.
+/// The headline: the greatest ratio in big figures with the word beside it, and the serviceability
+/// limit state below.
 class VerdictPane : public Pane {
   Q_OBJECT
 
 public:
   explicit VerdictPane(const Session& session, QWidget* parent = nullptr);
   void Refresh() override;
-  QString Figure() const { return figure_; }
-  QString Word() const { return word_; }
+  const Headline& headline() const { return headline_; }
+  QString Figure() const { return QString::fromStdString(headline_.figure); }
+  QString Word() const { return QString::fromStdString(headline_.word); }
   QSize sizeHint() const override;
 
 protected:
   void Draw(QPainter& painter) override;
 
 private:
-  QString figure_, word_;
-  Role role_ = Role::Ink;
+  Headline headline_;
 };
 
 }  // namespace korvane

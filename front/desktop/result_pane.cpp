@@ -57,19 +57,20 @@ constexpr double kTightRow = 1.1;
 
 }  // namespace
 
-ResultPane::ResultPane(const Session& session, Form form, QWidget* parent)
-    : Pane(session, parent), form_(form) {
+ResultPane::ResultPane(const Session& session, Length length, QWidget* parent)
+    : Pane(session, parent), length_(length) {
   setFocusPolicy(Qt::TabFocus);
   Refresh();
 }
 
 QSize ResultPane::sizeHint() const {
-  return {Ems(this, form_ == Form::Short ? 36 : 60), Ems(this, form_ == Form::Short ? 15 : 22)};
+  return {Ems(this, length_ == Length::Short ? 36 : 60),
+          Ems(this, length_ == Length::Short ? 15 : 22)};
 }
 
 double ResultPane::RowHeight() const {
   const double letters = QFontMetricsF(font()).height();
-  if (form_ == Form::Long) return letters * kRow;
+  if (length_ == Length::Long) return letters * kRow;
   return std::clamp(height() / rows_, letters * kTightRow, letters * kRow);
 }
 
@@ -80,7 +81,7 @@ View ResultPane::Composed() const {
   const auto append = [&view](const View& more) {
     view.insert(view.end(), more.begin(), more.end());
   };
-  if (form_ == Form::Short) {
+  if (length_ == Length::Short) {
     append(SectionControlShort(d.st, d.checks));
     if (buckling) append(BucklingShort(d.st, d.checks, d.buckling));
     return view;
@@ -111,12 +112,12 @@ void ResultPane::Measure() {
   double widest = 0;
   for (const ViewLine& line : view_) widest = std::max(widest, WidthOf(line));
   setMinimumWidth(qRound(widest) + Ems(this, 1));
-  const double row = form_ == Form::Long ? kRow : kTightRow;
+  const double row = length_ == Length::Long ? kRow : kTightRow;
   setMinimumHeight(qRound(rows_ * row * QFontMetricsF(font()).height()));
 }
 
 void ResultPane::FitLetters() {
-  if (form_ == Form::Long || parentWidget() == nullptr) return;
+  if (length_ == Length::Long || parentWidget() == nullptr) return;
   // The room is the parent's: the pane itself is never narrower than its lines.
   QFont fitted = parentWidget()->font();
   const double height = QFontMetricsF(fitted).height();
@@ -130,7 +131,9 @@ void ResultPane::FitLetters() {
 }
 
 void ResultPane::Refresh() {
+  const QStringList before = Lines();
   Measure();
+  if (Lines() != before) marked_.clear();
   QStringList tips;
   for (const ViewLine& line : view_) {
     if (Fails(line)) tips << tr("FAILS: %1").arg(TextOf(line).simplified());
@@ -150,17 +153,45 @@ QStringList ResultPane::Lines() const {
   return lines;
 }
 
-void ResultPane::Draw(QPainter& painter) {
-  painter.setRenderHint(QPainter::Antialiasing);
+template <class Visit>
+void ResultPane::EachLine(Visit&& visit) const {
   double y = RowHeight() * 0.35;
   bool first = true;
   for (const ViewLine& line : view_) {
     const bool heading = !line.runs.empty() && line.runs.front().underline;
     if (heading && !first) y += RowHeight() * 0.3;
-    DrawLine(painter, line, y);
+    visit(line, y);
     y += RowHeight() * line.advance;
     first = false;
   }
+}
+
+QRect ResultPane::MarkRatio(const QString& ratio) {
+  marked_.clear();
+  QRect place;
+  EachLine([&](const ViewLine& line, double y) {
+    const TextRun* value = ValueOf(line);
+    if (!marked_.isEmpty() || value == nullptr || !HasRatio(line)) return;
+    if (QString::fromStdString(value->text).trimmed() != ratio) return;
+    marked_ = ratio;
+    place = QRectF(0, y, width(), RowHeight()).toAlignedRect();
+  });
+  update();
+  return place;
+}
+
+void ResultPane::Draw(QPainter& painter) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  bool marks = !marked_.isEmpty();
+  EachLine([&](const ViewLine& line, double y) {
+    const TextRun* value = ValueOf(line);
+    if (marks && value != nullptr && HasRatio(line) &&
+        QString::fromStdString(value->text).trimmed() == marked_) {
+      painter.fillRect(QRectF(0, y, width(), RowHeight()), palette().color(QPalette::Midlight));
+      marks = false;
+    }
+    DrawLine(painter, line, y);
+  });
 }
 
 QFont ResultPane::FontOf(const TextRun& run, bool fails) const {
@@ -202,7 +233,7 @@ void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
   if (value == nullptr || !HasRatio(line)) return;
   const double start = bars_;
   const double bar = std::min(width() - start - Ems(this, 0.9), Ems(this, kMostBarEms) * 1.0);
-  if (form_ == Form::Long || bar < Ems(this, kBarEms) || start < x) return;
+  if (length_ == Length::Long || bar < Ems(this, kBarEms) || start < x) return;
   const auto ratio = ParseNumber(value->text, false);
   const double share = std::clamp(ratio ? double(*ratio) / session_.st().iufa : 0.0, 0.0, 1.0);
   const QFontMetricsF metrics(font());
@@ -233,7 +264,11 @@ void ResultPane::keyPressEvent(QKeyEvent* event) {
 }
 
 void ResultPane::Copy() const {
-  QApplication::clipboard()->setText(Lines().join(QLatin1Char('\n')));
+  QStringList lines = Lines();
+  if (const std::string why = session_.NotCalculated(); !why.empty()) {
+    lines.prepend(QString::fromStdString(why));
+  }
+  QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
 }
 
 }  // namespace korvane

@@ -11,6 +11,7 @@
 #include "front/desktop/form_window.h"
 #include "front/desktop/main_window.h"
 #include "front/desktop/theme.h"
+#include "front/named_session.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
@@ -50,9 +51,8 @@ bool Resize(QWidget& window, const QSize& size) {
 }
 
 /// A member with something in every pane.
-void Furnish(Desktop& desktop) {
+void Furnish(Desktop& desktop, NamedSession& s) {
   desktop.Act([&] {
-    Session& s = desktop.session();
     s.Menu("mnunew");
     s.FillMainWindow();
     s.Focus("korvane");
@@ -89,18 +89,15 @@ bool ShootMain(Desktop& desktop, const QDir& folder, const QString& theme) {
   return ok;
 }
 
-bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
+bool ShootForms(Desktop& desktop, NamedSession& s, const QDir& folder, const QString& theme) {
   bool ok = true;
   for (const Form& form : AllForms()) {
-    FormWindow* window = desktop.WindowOf(form.name);
+    FormWindow* window = desktop.WindowOf(form);
     if (window == nullptr) continue;
     desktop.Act([&] {
-      Session& s = desktop.session();
-      for (const Family& family : AllFamilies()) {
-        if (form.name == family.form) {
-          s.Menu(family.menuControl);
-          s.Focus("korvane");
-        }
+      if (form.family != 0) {
+        s.Menu(FindFamily(form.family)->menuControl);
+        s.Focus("korvane");
       }
       s.Show(form.name);
       if (form.name == "database") {
@@ -122,18 +119,15 @@ bool ShootForms(Desktop& desktop, const QDir& folder, const QString& theme) {
     ok = Shoot(*window, folder,
                QStringLiteral("form-%1-%2").arg(QString::fromStdString(form.name), theme)) &&
          ok;
-    desktop.Act([&] {
-      Session& s = desktop.session();
-      s.Unload(form.name);
-    });
-    Furnish(desktop);
+    desktop.Act([&] { s.Unload(form.name); });
+    Furnish(desktop, s);
   }
   return ok;
 }
 
 }  // namespace
 
-bool WriteScreenshots(Desktop& desktop, const QString& path) {
+bool WriteScreenshots(Desktop& desktop, NamedSession& s, const QString& path) {
   QDir folder(path);
   if (!folder.mkpath(QStringLiteral("."))) return false;
   desktop.window().show();
@@ -142,9 +136,9 @@ bool WriteScreenshots(Desktop& desktop, const QString& path) {
   for (const auto& [theme, name] : {std::pair{Theme::Light, QStringLiteral("light")},
                                     std::pair{Theme::Dark, QStringLiteral("dark")}}) {
     ApplyTheme(theme);
-    Furnish(desktop);
+    Furnish(desktop, s);
     ok = ShootMain(desktop, folder, name) && ok;
-    ok = ShootForms(desktop, folder, name) && ok;
+    ok = ShootForms(desktop, s, folder, name) && ok;
   }
   return ok;
 }

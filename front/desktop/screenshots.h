@@ -7,9 +7,10 @@
 namespace korvane {
 
 class Desktop;
+class NamedSession;
 
 /// Writes PNG files into the folder: the main window in three sizes, light and dark, and every
 /// form. Returns whether all could be written.
-bool WriteScreenshots(Desktop& desktop, const QString& folder);
+bool WriteScreenshots(Desktop& desktop, NamedSession& session, const QString& folder);
 
 }  // namespace korvane

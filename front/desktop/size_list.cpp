@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/desktop/size_list.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <algorithm>
 
 namespace korvane {
@@ -32,6 +34,22 @@ int SizeList::RowOf(const QString& typed) const {
     if (beginning < 0 && (name.startsWith(typed) || number.startsWith(typed))) beginning = row;
   }
   return beginning;
+}
+
+void SizeList::mousePressEvent(QMouseEvent* event) {
+  const int before = currentRow();
+  QListWidget::mousePressEvent(event);
+  const bool onRow = itemAt(event->position().toPoint()) != nullptr;
+  if (onRow && before >= 0 && before == currentRow()) emit ChosenAgain(before);
+}
+
+void SizeList::keyPressEvent(QKeyEvent* event) {
+  const bool chooses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (chooses && currentRow() >= 0) {
+    emit ChosenAgain(currentRow());
+  } else {
+    QListWidget::keyPressEvent(event);
+  }
 }
 
 void SizeList::keyboardSearch(const QString& keys) {

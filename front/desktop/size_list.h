@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A list of section sizes in which typing jumps to the size, by its number or by its whole name.
+// The list of sizes that stands open in the family forms: typing jumps to a size by its number.
 #pragma once
 
 #include <QElapsedTimer>
@@ -14,6 +14,14 @@ public:
   using QListWidget::QListWidget;
   /// Keys in quick succession make one text: "2", "2", "0" goes to HEA 220.
   void keyboardSearch(const QString& keys) override;
+
+signals:
+  /// A click or the Return key on the row that was marked already.
+  void ChosenAgain(int row);
+
+protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
 private:
   int RowOf(const QString& typed) const;

@@ -57,23 +57,28 @@ bool IsFieldRow(const Control& c) {
 }
 
 bool IsValue(const Control& c) {
-  return c.kind == Kind::Label && !c.caption.empty() && c.text;
+  return c.kind == Kind::Label && (c.value >= 0 || (!c.caption.empty() && c.text));
 }
 
 }  // namespace
 
-const Control& WidgetMaker::At(const std::string& name) const {
-  const Control* c = FindControl(form_, name);
-  if (c == nullptr) throw UnknownControl("no control " + name + " on " + form_.name);
-  return *c;
+bool WidgetMaker::Done(const Control* control) const {
+  return std::any_of(made_.begin(), made_.end(),
+                     [&](const Made& made) { return made.control == control; });
 }
 
-QToolButton* WidgetMaker::NewPicture(const Control& control, std::function<int()> code) {
+QWidget* WidgetMaker::Named(const Control* control, QWidget* widget) {
+  widget->setObjectName(Q(control->name));
+  made_.push_back({control, widget});
+  return widget;
+}
+
+QToolButton* WidgetMaker::NewPicture(const Control& control) {
   auto* button = new QToolButton;
   button->setCheckable(control.checked != nullptr);
   button->setToolTip(Q(control.tip));
   button->setFocusPolicy(Qt::StrongFocus);
-  const QIcon icon = PictureOf(form_.name, control.name, std::move(code));
+  const QIcon icon = PictureOf(control.sign, session_.st());
   if (!icon.isNull()) {
     button->setIcon(icon);
     const int height = Ems(button, 2.1);
@@ -85,13 +90,30 @@ QToolButton* WidgetMaker::NewPicture(const Control& control, std::function<int()
   return button;
 }
 
+QWidget* WidgetMaker::NewSurface(const Control& c) {
+  switch (c.painting) {
+    case Painting::Figure:
+      return new FigurePane(session_, form_);
+    case Painting::Modes:
+      return new ModePane(session_);
+    case Painting::ShortResults:
+      return new ResultPane(session_, ResultPane::Length::Short);
+    case Painting::LongResults:
+      return new ResultPane(session_, ResultPane::Length::Long);
+    case Painting::None:
+      break;
+  }
+  return new QWidget;
+}
+
 QWidget* WidgetMaker::NewWidget(const Control& c) {
   switch (c.kind) {
     case Kind::Input: {
       auto* edit = new QLineEdit;
-      if (c.field.store) {
+      if (c.field.IsNumber()) {
         edit->setAlignment(Qt::AlignRight);
-        const bool exponent = std::string_view(c.field.format).find('E') != std::string_view::npos;
+        const bool exponent =
+            std::string_view(c.field.Format()).find('E') != std::string_view::npos;
         edit->setFixedWidth(Ems(edit, exponent ? 7.6 : 5.6));
       }
       return edit;
@@ -106,7 +128,7 @@ QWidget* WidgetMaker::NewWidget(const Control& c) {
       return combo;
     }
     case Kind::Picture:
-      return NewPicture(c, {});
+      return NewPicture(c);
     case Kind::Button: {
       auto* button = new QPushButton(Q(c.caption));
       button->setAutoDefault(false);
@@ -119,10 +141,7 @@ QWidget* WidgetMaker::NewWidget(const Control& c) {
       return label;
     }
     case Kind::Surface:
-      if (c.name == "pic1") return new FigurePane(session_, form_.name);
-      if (c.name == "picmode") return new ModePane(session_);
-      return new ResultPane(session_,
-                            c.name == "pic31" ? ResultPane::Form::Short : ResultPane::Form::Long);
+      return NewSurface(c);
     case Kind::Frame:
       return new QGroupBox(Q(c.caption).trimmed());
     case Kind::Menu:
@@ -131,72 +150,63 @@ QWidget* WidgetMaker::NewWidget(const Control& c) {
   return new QWidget;
 }
 
-QWidget* WidgetMaker::Make(const std::string& name) {
-  QWidget* widget = NewWidget(At(name));
-  widget->setObjectName(Q(name));
-  made_.insert(name);
-  return widget;
+QWidget* WidgetMaker::Make(const Control* control) {
+  return Named(control, NewWidget(*control));
 }
 
-QWidget* WidgetMaker::MakeOpenList(const std::string& name) {
+QWidget* WidgetMaker::MakeOpenList(const Control* control) {
   auto* list = new SizeList;
-  list->setObjectName(Q(name));
   list->setUniformItemSizes(true);
   int widest = 0;
-  for (const std::string& item : session_.Items(form_.name + "." + name)) {
+  for (const std::string& item : session_.Items(*control)) {
     widest = std::max(widest, list->fontMetrics().horizontalAdvance(Q(item)));
   }
   list->setMinimumWidth(widest + Ems(list, 4));
-  made_.insert(name);
-  return list;
+  return Named(control, list);
 }
 
-QToolButton* WidgetMaker::MakePicture(const std::string& name, std::function<int()> code) {
-  QToolButton* button = NewPicture(At(name), std::move(code));
-  button->setObjectName(Q(name));
-  made_.insert(name);
-  return button;
+void WidgetMaker::Accompany(const Control* control, QWidget* widget) {
+  companions_.push_back({control, widget});
 }
 
-QLabel* WidgetMaker::Caption(const std::string& name) const {
-  auto* label = new QLabel(Q(At(name).caption).trimmed());
-  label->setProperty(kBelongsTo, Q(name));
+QLabel* WidgetMaker::Caption(const Control* control) {
+  auto* label = new QLabel(Q(control->caption).trimmed());
+  Accompany(control, label);
   label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   return label;
 }
 
-QLabel* WidgetMaker::Unit(const std::string& name) const {
-  auto* label = new QLabel(Q(At(name).unit));
-  label->setProperty(kBelongsTo, Q(name));
+QLabel* WidgetMaker::Unit(const Control* control) {
+  auto* label = new QLabel(Q(control->unit));
+  Accompany(control, label);
   label->setForegroundRole(QPalette::PlaceholderText);
   return label;
 }
 
-void WidgetMaker::FieldRow(QGridLayout* grid, int row, const std::string& name, int column) {
-  const Control& c = At(name);
-  grid->addWidget(Caption(name), row, column);
-  QWidget* widget = Make(name);
-  const bool wide = c.kind == Kind::List || !c.field.store;
+void WidgetMaker::FieldRow(QGridLayout* grid, int row, const Control* field, int column) {
+  grid->addWidget(Caption(field), row, column);
+  QWidget* widget = Make(field);
+  const bool wide = field->kind == Kind::List || !field->field.IsNumber();
   grid->addWidget(widget, row, column + 1, 1, wide ? 2 : 1);
-  if (!wide) grid->addWidget(Unit(name), row, column + 2);
+  if (!wide) grid->addWidget(Unit(field), row, column + 2);
 }
 
-void WidgetMaker::ValueRow(QGridLayout* grid, int row, const std::string& name) {
-  grid->addWidget(Caption(name), row, 0);
-  auto* value = static_cast<ValueLabel*>(Make(name));
-  value->unit()->setProperty(kBelongsTo, Q(name));
+void WidgetMaker::ValueRow(QGridLayout* grid, int row, const Control* label) {
+  grid->addWidget(Caption(label), row, 0);
+  auto* value = static_cast<ValueLabel*>(Make(label));
+  Accompany(label, value->unit());
   grid->addWidget(value, row, 1);
   grid->addWidget(value->unit(), row, 2);
 }
 
-QGroupBox* WidgetMaker::Frame(const std::string& name) {
-  return static_cast<QGroupBox*>(Make(name));
+QGroupBox* WidgetMaker::Frame(const Control* frame) {
+  return static_cast<QGroupBox*>(Make(frame));
 }
 
 std::vector<const Control*> WidgetMaker::Rest() const {
   std::vector<const Control*> rest;
   for (const Control& c : form_.controls) {
-    if (c.kind != Kind::Menu && !Done(c.name)) rest.push_back(&c);
+    if (c.kind != Kind::Menu && !Done(&c)) rest.push_back(&c);
   }
   return rest;
 }
@@ -206,11 +216,11 @@ void WidgetMaker::Stack(QBoxLayout* into, const std::vector<const Control*>& con
   QGridLayout* grid = nullptr;      // open run of fields or values
   QHBoxLayout* pictures = nullptr;  // open run of pictures
   for (const Control* c : controls) {
-    if (Done(c->name) || c->kind == Kind::Button) continue;
+    if (Done(c) || c->kind == Kind::Button) continue;
     if (!IsFieldRow(*c) && !IsValue(*c)) grid = nullptr;
     if (c->kind != Kind::Picture) pictures = nullptr;
     if (c->kind == Kind::Frame) {
-      QGroupBox* group = Frame(c->name);
+      QGroupBox* group = Frame(c);
       column = new QVBoxLayout(group);
       into->addWidget(group);
     } else if (IsFieldRow(*c) || IsValue(*c)) {
@@ -220,9 +230,9 @@ void WidgetMaker::Stack(QBoxLayout* into, const std::vector<const Control*>& con
         column->addLayout(grid);
       }
       if (IsValue(*c)) {
-        ValueRow(grid, grid->rowCount(), c->name);
+        ValueRow(grid, grid->rowCount(), c);
       } else {
-        FieldRow(grid, grid->rowCount(), c->name);
+        FieldRow(grid, grid->rowCount(), c);
       }
     } else if (c->kind == Kind::Picture) {
       if (pictures == nullptr) {
@@ -230,9 +240,9 @@ void WidgetMaker::Stack(QBoxLayout* into, const std::vector<const Control*>& con
         column->addLayout(pictures);
         pictures->addStretch(1);
       }
-      pictures->insertWidget(pictures->count() - 1, Make(c->name));
+      pictures->insertWidget(pictures->count() - 1, Make(c));
     } else {
-      QWidget* widget = Make(c->name);
+      QWidget* widget = Make(c);
       if (c->kind == Kind::Surface) widget->setMinimumSize(widget->sizeHint());
       column->addWidget(widget, c->kind == Kind::Surface ? 1 : 0);
     }
@@ -243,7 +253,7 @@ QLayout* WidgetMaker::ButtonRow() {
   auto* row = new QHBoxLayout;
   row->addStretch(1);
   for (const Control* c : Rest()) {
-    if (c->kind == Kind::Button) row->addWidget(Make(c->name));
+    if (c->kind == Kind::Button) row->addWidget(Make(c));
   }
   return row;
 }

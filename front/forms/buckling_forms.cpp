@@ -11,47 +11,50 @@
 
 namespace korvane {
 
+const char* EndConditionWords(int bucklingCase) {
+  static constexpr std::array words{"Fixed - free, k = 2.0", "Pinned - pinned, k = 1.0",
+                                    "Pinned - fixed, k = 0.7", "Fixed - fixed, k = 0.5",
+                                    "No buckling, k = 0"};
+  return words.at(static_cast<std::size_t>(bucklingCase - 1));
+}
+
 namespace {
 
-constexpr const char* kEndConditions[] = {"Fixed - free, k = 2.0", "Pinned - pinned, k = 1.0",
-                                          "Pinned - fixed, k = 0.7", "Fixed - fixed, k = 0.5",
-                                          "No buckling, k = 0"};
+using S = ProjectState;
 
 /// What an axis of buckling is made of.
 struct Axis {
-  const char* field;
-  float32 ProjectState::*factor;
-  int16 ProjectState::*bucklingCase;
-  int16 ProjectState::*curve;
+  Handle MainControls::*field;
+  float32 S::*factor;
+  int16 S::*bucklingCase;
+  int16 S::*curve;
 };
-constexpr Axis kAxisY{"ibly", &ProjectState::bly, &ProjectState::BucklingCaseY,
-                      &ProjectState::BucklingCurveY};
-constexpr Axis kAxisZ{"iblz", &ProjectState::blz, &ProjectState::BucklingCaseZ,
-                      &ProjectState::BucklingCurveZ};
+constexpr Axis kAxisY{&MainControls::ibly, &S::bly, &S::BucklingCaseY, &S::BucklingCurveY};
+constexpr Axis kAxisZ{&MainControls::iblz, &S::blz, &S::BucklingCaseZ, &S::BucklingCurveZ};
 
 /// The picture of an end condition: case and factor of its axis, then a calculation.
 Control CasePicture(std::string name, const Axis& axis, int bucklingCase) {
-  Control c =
-      Picture(std::move(name), kEndConditions[bucklingCase - 1], [axis, bucklingCase](Session& s) {
-        s.st().*axis.bucklingCase = bucklingCase;
-        s.st().*axis.factor = LengthFactorOfCase(bucklingCase);
-        s.Refill("korvane", axis.field);
-        s.Calculate();
-      });
-  c.checked = [axis, bucklingCase](const Session& s) {
+  Control c = Picture(std::move(name), {Sign::EndCondition, bucklingCase},
+                      EndConditionWords(bucklingCase), [&axis, bucklingCase](Session& s) {
+                        s.st().*axis.bucklingCase = bucklingCase;
+                        s.st().*axis.factor = LengthFactorOfCase(bucklingCase);
+                        s.Fill(*(TheForms().onMain.*axis.field));
+                        s.Calculate();
+                      });
+  c.checked = [&axis, bucklingCase](const Session& s) {
     return s.st().*axis.bucklingCase == bucklingCase;
   };
   return c;
 }
 
-Form CaseForm(const char* name, const char* title, const Axis& axis) {
-  Form form;
-  form.name = name;
-  form.title = Fixed(title);
+Form& AddCases(Forms& forms, const std::string& name, const char* title, const Axis& axis,
+               CaseControls& on) {
+  Form& form = forms.Add(name, Fixed(title));
+  form.input = form.modal = true;
   for (int k = 1; k <= 5; ++k) {
-    form.controls.push_back(CasePicture(name + std::to_string(k), axis, k));
+    on.cases[k] = Put(form, CasePicture(name + std::to_string(k), axis, k));
   }
-  form.controls.push_back(CloseButton("ok", "OK", name));
+  Put(form, CloseButton("ok", "OK", form));
   return form;
 }
 
@@ -64,63 +67,55 @@ Control CurveList(const char* name, const Axis& axis) {
     for (int k = 0; k < 5; ++k) letters.emplace_back(CurveLetter(k));
     return letters;
   };
-  c.selected = [axis](const Session& s) {
+  c.selected = [&axis](const Session& s) {
     const int curve = s.st().*axis.curve;
     return curve >= 0 && curve < 4 ? curve : 4;
   };
-  c.select = [axis](Session& s, int index) {
+  c.select = [&axis](Session& s, int index) {
     s.st().*axis.curve = index;
     s.Calculate();
   };
   return c;
 }
 
-Form CurveForm() {
-  Form form;
-  form.name = "bucklingcurve";
-  form.title = Fixed(" Manual input of buckling curves (ref NS3472 Table 11) ");
-  form.controls.push_back(CurveList("cbobcy", kAxisY));
-  form.controls.push_back(CurveList("cbobcz", kAxisZ));
-  for (int k = 0; k <= 4; ++k) {
-    form.controls.push_back(CasePicture("method" + std::to_string(k), kAxisY, k + 1));
+void AddCurves(Forms& forms) {
+  Form& form = forms.Add("bucklingcurve", Fixed(kManualCurves));
+  forms.curves = &form;
+  form.input = true;
+  CurveControls& on = forms.onCurves;
+  on.cbobcy = Put(form, CurveList("cbobcy", kAxisY));
+  on.cbobcz = Put(form, CurveList("cbobcz", kAxisZ));
+  for (int k = 1; k <= 5; ++k) {
+    on.method[k] = Put(form, CasePicture("method" + std::to_string(k - 1), kAxisY, k));
   }
-  form.controls.push_back(CloseButton("ok", "OK", "bucklingcurve"));
-  return form;
+  Put(form, CloseButton("ok", "OK", form));
 }
+
+// --- Lateral torsional buckling -----------------------------------------------------------------
 
 bool TypesFactors(const Session& s) {
   return s.st().AnalysisMode == 1 && s.st().LtbSegments == 0;
 }
 
-/// The third factor counts for singly symmetric sections.
-bool HasC3(const ProjectState& st) {
-  const Family* family = FindFamily(st.ProfileType);
+bool FactorsAreTyped(const Session& s) {
+  return s.st().CFactorManual == 1 && TypesFactors(s);
+}
+
+bool HasUnequalI(const Session& s) {
+  const Family* family = FindFamily(s.st().ProfileType);
   return family != nullptr && family->lateral.method == LateralMethod::SinglySymmetric;
 }
 
-Control CFactor(const char* name, const char* caption, number ProjectState::*typed,
-                number LtbResults::*computed, double low, const char* message) {
-  FieldRule rule = Bind(typed, "0.000");
-  rule.limit = Between(low, 4, message);
-  rule.then = CalculateAfter;
-  Control c = Input(name, caption, rule);
-  // Without manual input the field shows what the moment diagram gives.
-  c.text = [typed, computed, caption](const Session& s) {
-    const ProjectState& st = s.st();
-    if (st.CFactorManual == 1) return s.Shown(st.*typed, "0.000");
-    const bool c3 = caption[1] == '3';
-    if (c3 && !HasC3(st)) return std::string("N/A");
-    if (caption[1] == '2' && !TypesFactors(s)) return std::string("N/A");
-    return s.Shown(s.design().ltb.*computed, "0.000");
+/// A C factor: the typed one while factors are typed in, else the one in use where there is one.
+Control CFactor(const char* name, const char* caption, number S::*typed,
+                number LtbResults::*computed, bool (*inUse)(const Session&)) {
+  Control c = Input(name, caption, Calculated(typed));
+  c.text = [typed, computed, inUse](const Session& s) {
+    if (FactorsAreTyped(s)) return s.Shown(s.st().*typed, "0.000");
+    return inUse(s) ? s.Shown(s.design().ltb.*computed, "0.000") : std::string("N/A");
   };
-  c.enabled = [](const Session& s) { return s.st().CFactorManual == 1 && TypesFactors(s); };
+  c.enabled = FactorsAreTyped;
   return c;
-}
-
-/// After a change of the form: calculate and show the fields anew.
-void Refresh(Session& s) {
-  s.Calculate();
-  s.Fill("vipping");
 }
 
 Control RestraintList() {
@@ -134,49 +129,64 @@ Control RestraintList() {
   c.selected = [](const Session& s) { return int(s.st().LtbSegments); };
   c.select = [](Session& s, int index) {
     s.st().LtbSegments = index;
-    Refresh(s);
+    s.Calculate();
   };
   return c;
 }
 
-void AddLateralCases(std::vector<Control>& c) {
+/// The case of lateral buckling whose factor is typed in.
+constexpr int kTypedCase = 5;
+/// The load level whose height is typed in.
+constexpr int kTypedLevel = 4;
+
+void AddLateralCases(Form& form, LateralControls& on) {
   for (int k = 1; k <= 5; ++k) {
-    const std::string tip = k == 5 ? "k typed in" : kEndConditions[k - 1];
-    c.push_back(Picture("latbuckl" + std::to_string(k), tip, [k](Session& s) {
-      s.st().LateralBucklingCase = k;
-      if (k < 5) s.st().k_ltb = LengthFactorOfCase(k);
-      Refresh(s);
-    }));
-    c.back().checked = [k](const Session& s) { return s.st().LateralBucklingCase == k; };
+    const bool typed = k == kTypedCase;
+    // The picture of a typed factor is the sixth end condition.
+    Control c = Picture("latbuckl" + std::to_string(k), {Sign::EndCondition, typed ? 6 : k},
+                        typed ? "k typed in" : EndConditionWords(k), [k, typed](Session& s) {
+                          s.st().LateralBucklingCase = k;
+                          if (!typed) s.st().k_ltb = LengthFactorOfCase(k);
+                          s.Calculate();
+                        });
+    c.checked = [k](const Session& s) { return s.st().LateralBucklingCase == k; };
+    on.latbuckl[k] = Put(form, std::move(c));
   }
-  FieldRule rule = Bind(&ProjectState::k_ltb, "#0.00");
-  rule.limit.accepts = [](const ProjectState& st, double k) {
-    return IsCantilever(st.SupportType) ? k >= 1 && k <= 2 : k >= 0.5 && k <= 1;
-  };
-  rule.limit.message = [](const ProjectState& st) {
-    return std::string(IsCantilever(st.SupportType) ? " 1.0 <= k <= 2.0 " : " 0.5<= k <= 1.0 ");
-  };
-  rule.then = CalculateAfter;
-  c.push_back(Input("ik", "k =", rule, "", "0.5 to 1.0; 1.0 to 2.0 for a cantilever"));
-  c.back().enabled = [](const Session& s) { return s.st().LateralBucklingCase == 5; };
+  Control factor = Input("ik", "k =", Calculated(&S::k_ltb));
+  factor.enabled = [](const Session& s) { return s.st().LateralBucklingCase == kTypedCase; };
+  on.ik = Put(form, std::move(factor));
 }
 
-void AddLoadLevels(std::vector<Control>& c) {
+void AddLoadLevels(Form& form, LateralControls& on) {
   constexpr std::array<const char*, 4> tips{"Load above the centre (top flange)",
                                             "Load at the centre",
                                             "Load below the centre (bottom flange)", "Za typed in"};
   for (int k = 1; k <= 4; ++k) {
-    c.push_back(Picture("loadl" + std::to_string(k), tips[static_cast<std::size_t>(k - 1)],
-                        [k](Session& s) {
+    Control c = Picture("loadl" + std::to_string(k), {Sign::LoadLevel, k},
+                        tips[static_cast<std::size_t>(k - 1)], [k](Session& s) {
                           s.st().LoadLevel = k;
-                          Refresh(s);
-                        }));
-    c.back().checked = [k](const Session& s) { return s.st().LoadLevel == k; };
+                          s.Calculate();
+                        });
+    c.checked = [k](const Session& s) { return s.st().LoadLevel == k; };
+    on.loadl[k] = Put(form, std::move(c));
   }
-  FieldRule rule = Bind(&ProjectState::Za, "#0");
-  rule.then = CalculateAfter;
-  c.push_back(Input("iza", "Za = distance from CoG", rule, "mm"));
-  c.back().visible = [](const Session& s) { return s.st().LoadLevel == 4; };
+  Control height = Input("iza", "Za = distance from CoG", Calculated(&S::Za));
+  height.visible = [](const Session& s) { return s.st().LoadLevel == kTypedLevel; };
+  on.iza = Put(form, std::move(height));
+}
+
+void ToggleTypedFactors(Session& s) {
+  S& st = s.st();
+  if (st.CFactorManual == 0) {
+    const LtbResults& ltb = s.design().ltb;
+    st.C1i = ltb.C1;
+    st.C2i = ltb.C2;
+    st.C3i = ltb.C3;
+    st.CFactorManual = 1;
+  } else {
+    st.CFactorManual = 0;
+  }
+  s.Calculate();
 }
 
 /// The value of the segment method stands a blank further in.
@@ -184,64 +194,54 @@ std::string MomentText(const Session& s, double M, const char* ahead = "") {
   return ahead + s.Shown(M, "0.0") + " kNm";
 }
 
-Form LateralForm() {
-  Form form;
-  form.name = "vipping";
-  form.title = Fixed("Lateral torsional buckling parameters");
-  std::vector<Control>& c = form.controls;
-  c.push_back(RestraintList());
-  c.push_back(FrameOf("frlength", "Lateral torsional buckling length"));
-  AddLateralCases(c);
-  c.push_back(Check(
+void AddLateral(Forms& forms) {
+  Form& form = forms.Add("vipping", Fixed("Lateral torsional buckling parameters"));
+  forms.lateral = &form;
+  form.input = true;
+  LateralControls& on = forms.onLateral;
+  on.Cbo = Put(form, RestraintList());
+  on.frlength = Put(form, FrameOf("frlength", "Lateral torsional buckling length"));
+  AddLateralCases(form, on);
+  Control typed = Check(
       "Cfactor", "Manual input of C-factors",
-      [](const Session& s) { return s.st().CFactorManual == 1; },
-      [](Session& s) {
-        ProjectState& st = s.st();
-        if (st.CFactorManual == 0) {
-          st.C1i = s.design().ltb.C1;
-          st.C2i = s.design().ltb.C2;
-          st.C3i = s.design().ltb.C3;
-          st.CFactorManual = 1;
-        } else {
-          st.CFactorManual = 0;
-        }
-        Refresh(s);
-      }));
-  c.back().visible = TypesFactors;
-  c.push_back(
-      CFactor("ic1", "C1 =", &ProjectState::C1i, &LtbResults::C1, 0.2, " 0.2 <= C1i <= 4 "));
-  c.push_back(CFactor("ic2", "C2 =", &ProjectState::C2i, &LtbResults::C2, 0, " 0 <= C2i <= 4 "));
-  c.push_back(CFactor("ic3", "C3 =", &ProjectState::C3i, &LtbResults::C3, 0, " 0 <= C3i <= 4 "));
-  c.push_back(FrameOf("frlevel", "Loadlevel"));
-  AddLoadLevels(c);
-  c.push_back(TextLabel("omdb", [](const Session& s) {
-    return MomentText(s, s.design().ltb.Mdb, TypesFactors(s) ? "" : " ");
-  }));
-  c.push_back(
-      TextLabel("omdbmin", [](const Session& s) { return MomentText(s, s.design().ltb.Mdb_min); }));
-  c.push_back(TextLabel("osegment", [](const Session& s) {
-    if (TypesFactors(s)) return std::string();
-    const bool first = s.st().LtbCriticalSegment == 0;
-    return (first ? " (" : "(") + s.design().ltb.LtbSegmentText + ")";
-  }));
-  c.push_back(Label("ohint1",
-                    "This has only influence if you have loading on the beam and that"
-                    " lateral restraint points = 0 (C2-factor)"));
-  c.push_back(Label("ohint2",
-                    "k-factor is related to member length or the "
-                    " length between restraint points "));
-  c.push_back(CloseButton("ok", "OK", "vipping"));
-  form.onFocus = [](Session& s) { s.Fill("vipping"); };
-  return form;
+      [](const Session& s) { return s.st().CFactorManual == 1; }, ToggleTypedFactors);
+  typed.visible = TypesFactors;
+  on.Cfactor = Put(form, std::move(typed));
+  const auto always = [](const Session&) { return true; };
+  on.ic1 = Put(form, CFactor("ic1", "C1 =", &S::C1i, &LtbResults::C1, always));
+  on.ic2 = Put(form, CFactor("ic2", "C2 =", &S::C2i, &LtbResults::C2, TypesFactors));
+  on.ic3 = Put(form, CFactor("ic3", "C3 =", &S::C3i, &LtbResults::C3, HasUnequalI));
+  on.frlevel = Put(form, FrameOf("frlevel", "Loadlevel"));
+  AddLoadLevels(form, on);
+  on.omdb = Put(form, TextLabel("omdb", [](const Session& s) {
+                  return MomentText(s, s.design().ltb.Mdb, TypesFactors(s) ? "" : " ");
+                }));
+  on.omdbmin = Put(form, TextLabel("omdbmin", [](const Session& s) {
+                     return MomentText(s, s.design().ltb.Mdb_min);
+                   }));
+  on.osegment = Put(form, TextLabel("osegment", [](const Session& s) {
+                      if (TypesFactors(s)) return std::string();
+                      const bool first = s.st().LtbCriticalSegment == 0;
+                      return (first ? " (" : "(") + s.design().ltb.LtbSegmentText + ")";
+                    }));
+  on.ohint1 = Put(form, Label("ohint1",
+                              "This has only influence if you have loading on the beam and that"
+                              " lateral restraint points = 0 (C2-factor)"));
+  on.ohint2 = Put(form, Label("ohint2",
+                              "k-factor is related to member length or the "
+                              " length between restraint points "));
+  Put(form, CloseButton("ok", "OK", form));
 }
 
 }  // namespace
 
-void AddBucklingForms(std::vector<Form>& forms) {
-  forms.push_back(LateralForm());
-  forms.push_back(CaseForm("bucklingy", "Buckling length - Y-axis", kAxisY));
-  forms.push_back(CaseForm("bucklingz", "Buckling length - Z-axis", kAxisZ));
-  forms.push_back(CurveForm());
+void AddBucklingForms(Forms& forms) {
+  AddLateral(forms);
+  forms.bucklingY =
+      &AddCases(forms, "bucklingy", "Buckling length - Y-axis", kAxisY, forms.onBucklingY);
+  forms.bucklingZ =
+      &AddCases(forms, "bucklingz", "Buckling length - Z-axis", kAxisZ, forms.onBucklingZ);
+  AddCurves(forms);
 }
 
 }  // namespace korvane

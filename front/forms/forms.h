@@ -2,36 +2,45 @@
 // The tables of all forms, one unit a group, and the rules that several forms share.
 #pragma once
 
-#include <vector>
-
 #include "checks/results.h"
-#include "front/form_table.h"
+#include "front/forms/handles.h"
 
 namespace korvane {
 
-void AddMainForm(std::vector<Form>& forms);
-void AddLoadForms(std::vector<Form>& forms);      ///< loading, endforce, endstiff, chpoints
-void AddBucklingForms(std::vector<Form>& forms);  ///< vipping, bucklingy, bucklingz, bucklingcurve
-void AddSetupForms(std::vector<Form>& forms);     ///< setup, detailedresult, Modal_ns, about, ...
-void AddOptimiserForm(std::vector<Form>& forms);
-void AddDatabaseForm(std::vector<Form>& forms);
-void AddFamilyForms(std::vector<Form>& forms);
+void AddMainForm(Forms& forms);
+void AddMenus(Forms& forms, Form& main);
+void AddLoadForms(Forms& forms);      ///< loading, endforce, endstiff, chpoints
+void AddBucklingForms(Forms& forms);  ///< vipping, bucklingy, bucklingz, bucklingcurve
+void AddSetupForms(Forms& forms);     ///< setup, detailedresult, Modal_ns, about, ...
+void AddOptimiserForm(Forms& forms);
+void AddDatabaseForm(Forms& forms);
+void AddFamilyForms(Forms& forms);
 
 // Rules that stand once and are used by more than one form.
-FieldRule YieldRule();
-FieldRule MaterialFactorRule();
-FieldRule LoadFactorRule(float32 ProjectState::*member);
-/// The deflection limit; `then` differs by form.
-FieldRule DeflectionLimitRule(std::function<void(Session&)> then);
+/// The yield stress, in three digits; typed for the free grade alone.
+Control YieldField(std::string tip);
+/// The label of the SLS factor of the self weight.
+Control SlsFactorLabel();
 /// The list of materials with its click.
 Control MaterialList();
-/// Calculates: the usual follow-up of an accepted value.
-void CalculateAfter(Session& s);
-/// A button that closes its form.
-Control CloseButton(const char* name, const char* caption, const char* form);
+/// The section figure; a click changes its scale.
+Control FigureSurface();
+/// Title of the form of curves, and the tip of the button that opens it.
+inline constexpr const char* kManualCurves =
+    " Manual input of buckling curves (ref NS3472 Table 11) ";
+/// The pictures' words for the cases of end conditions, 1 to 5.
+const char* EndConditionWords(int bucklingCase);
 /// The title of a form with a fixed caption.
 std::function<std::string(const Session&)> Fixed(std::string caption);
 /// The text of a view, its lines joined by " | ".
 std::string ViewText(const View& view);
+/// The result lines of the main window.
+std::string ShortResults(const Session& s);
+
+/// Puts a control at the end of a form.
+inline const Control* Put(Form& form, Control control) {
+  form.controls.push_back(std::move(control));
+  return &form.controls.back();
+}
 
 }  // namespace korvane

@@ -11,116 +11,57 @@ std::string TwoDigits(int n) {
   return n < 10 ? "0" + std::to_string(n) : std::to_string(n);
 }
 
-void ShowInRow(Session& s, int row) {
-  auto& state = s.rows()[static_cast<std::size_t>(row)];
-  state.view = ShowRow(s.design(), row, s.optimiser());
-}
-
-void Search(Session& s, int row) {
-  SearchRow(s.design(), row, s.optimiser(),
-            [&s](int done, int all) { s.platform().Progress(done, all); });
-}
-
-void ClickRow(Session& s, int row) {
-  auto& state = s.rows()[static_cast<std::size_t>(row)];
+/// Runs a search under the wait cursor, with its progress.
+template <class Run>
+void Search(Session& s, Run&& run) {
   s.platform().WaitCursor(true);
-  state.searched = !state.searched;
-  if (state.searched) {
-    Search(s, row);
-    ShowInRow(s, row);
-  } else {
-    state.view = {};
-  }
+  run([&s](int done, int all) { s.platform().Progress(done, all); });
   s.platform().WaitCursor(false);
-}
-
-void ClickCriterion(Session& s, int criterion) {
-  s.platform().WaitCursor(true);
-  s.st().ResultView = criterion;
-  for (int row = 1; row <= kOptimiserRows; ++row) {
-    if (!s.rows()[static_cast<std::size_t>(row)].searched) continue;
-    Search(s, row);
-    // The HEM row goes through the display of the HEA row: kept.
-    const int shown = RowShownOnReSearch(row);
-    auto& target = s.rows()[static_cast<std::size_t>(shown)];
-    if (target.searched) {
-      target.view = ShowRow(s.design(), shown, s.optimiser());
-    } else {
-      target.view = {};
-    }
-  }
-  s.platform().WaitCursor(false);
-}
-
-/// The row of the family in force is marked without a search.
-void OpenRows(Session& s) {
-  ProjectState& st = s.st();
-  if (st.ResultView < 0 || st.ResultView > 2) st.ResultView = kCriterionUls;
-  s.rows() = {};
-  s.optimiser().RowChosen = 0;
-  for (const OptimiserRow& row : AllOptimiserRows()) {
-    if (row.ProfileType != st.ProfileType) continue;
-    s.optimiser().RowChosen = row.row;
-    s.rows()[static_cast<std::size_t>(row.row)].searched = true;
-    ShowInRow(s, row.row);
-  }
 }
 
 Control RowField(const std::string& name, int row, std::string OptimiserRowView::*member) {
   return TextLabel(name + std::to_string(row), [row, member](const Session& s) {
-    const std::string& text = s.rows()[static_cast<std::size_t>(row)].view.*member;
+    const std::string& text = s.rows().row[row].view.*member;
     // Names hold the sizes as the catalogues write them.
     return member == &OptimiserRowView::name ? text : s.OnScreen(text);
   });
 }
 
-void AddRow(std::vector<Control>& c, int row) {
-  const auto searched = [row](const Session& s) {
-    return s.rows()[static_cast<std::size_t>(row)].searched;
-  };
+OptimiserControls::Row AddRow(Form& form, int row) {
+  const auto included = [row](const Session& s) { return s.rows().row[row].included; };
   const OptimiserRow& series = OptimiserRowOf(row);
-  c.push_back(Check("cbp" + TwoDigits(row), series.series, searched,
-                    [row](Session& s) { ClickRow(s, row); }));
-  c.push_back(Option(
+  OptimiserControls::Row on{};
+  on.search = Put(form, Check("cbp" + TwoDigits(row), series.series, included, [row](Session& s) {
+                    Search(s, [&](const SearchProgress& progress) {
+                      ToggleRow(s.design(), s.rows(), row, progress);
+                    });
+                  }));
+  Control choose = Option(
       "op" + TwoDigits(row), series.series,
-      [row](const Session& s) { return s.optimiser().RowChosen == row; },
-      [row](Session& s) { s.optimiser().RowChosen = row; }));
-  c.back().enabled = searched;
-  c.push_back(RowField("oname", row, &OptimiserRowView::name));
-  c.push_back(RowField("oweight", row, &OptimiserRowView::weight));
-  c.push_back(RowField("osurface", row, &OptimiserRowView::surface));
-  c.push_back(RowField("oir", row, &OptimiserRowView::ir));
-  c.push_back(RowField("odefl", row, &OptimiserRowView::deflection));
+      [row](const Session& s) { return s.rows().results.RowChosen == row; },
+      [row](Session& s) { s.rows().results.RowChosen = row; });
+  choose.enabled = included;
+  on.choose = Put(form, std::move(choose));
+  on.name = Put(form, RowField("oname", row, &OptimiserRowView::name));
+  on.weight = Put(form, RowField("oweight", row, &OptimiserRowView::weight));
+  on.surface = Put(form, RowField("osurface", row, &OptimiserRowView::surface));
+  on.ir = Put(form, RowField("oir", row, &OptimiserRowView::ir));
+  on.deflection = Put(form, RowField("odefl", row, &OptimiserRowView::deflection));
+  on.words = Put(form, TextLabel("owords" + std::to_string(row), [row](const Session& s) {
+                   return std::string(WordsOf(s.rows(), row));
+                 }));
+  return on;
 }
 
-Control CriterionOption(const char* name, const char* caption, int criterion) {
+Control CriterionOption(const char* name, int criterion) {
   return Option(
-      name, caption, [criterion](const Session& s) { return s.st().ResultView == criterion; },
-      [criterion](Session& s) { ClickCriterion(s, criterion); });
-}
-
-Form OptimiserForm() {
-  Form form;
-  form.name = "optroll";
-  form.title = Fixed("Optimize rolled profiles");
-  std::vector<Control>& c = form.controls;
-  c.push_back(CriterionOption("ULS", "ULS (Buckling/Section Control)", kCriterionUls));
-  c.push_back(CriterionOption("SLS", "SLS (Deflection - z-dir)", kCriterionSls));
-  c.push_back(CriterionOption("ULSSLS", "ULS/SLS", kCriterionUlsSls));
-  c.push_back(Input("idef_limit", "L/", DeflectionLimitRule({}), "", "100 to 1500"));
-  c.back().visible = [](const Session& s) { return s.st().ResultView != kCriterionUls; };
-  c.back().enabled = c.back().visible;
-  c.push_back(TextLabel(
-      "oufmax", [](const Session& s) { return "UFmax = " + s.Shown(s.st().iufa, "#0.00"); }));
-  for (int row = 1; row <= kOptimiserRows; ++row) AddRow(c, row);
-  c.push_back(Label("onote", "Note: All optimization is based on profile weight"));
-  c.push_back(Button("Command2", "OK", [](Session& s) {
-    TakeOverRow(s.design(), s.optimiser());
-    s.Unload("optroll");
-  }));
-  c.push_back(CloseButton("Command1", "Cancel", "optroll"));
-  form.onFocus = OpenRows;
-  return form;
+      name, kCriterionCaptions[criterion],
+      [criterion](const Session& s) { return s.st().ResultView == criterion; },
+      [criterion](Session& s) {
+        Search(s, [&](const SearchProgress& progress) {
+          SearchAgain(s.design(), s.rows(), criterion, progress);
+        });
+      });
 }
 
 // --- Database -----------------------------------------------------------------------------------
@@ -151,6 +92,20 @@ void LoadSelection(Session& s) {
   });
 }
 
+/// The form sets its mode again, which a section added beside it has ended. A selected row sets
+/// the family; without one nothing is changed.
+void FocusDatabase(Session& s) {
+  Database& db = s.database();
+  s.st().DatabaseMode = 1;
+  TakeRow(s, [&] {
+    if (s.databaseSelection >= 0 && s.databaseSelection <= db.DbLast) {
+      db.DbRow = s.databaseSelection;
+      s.st().ProfileType = DatabaseRowType(db);
+    }
+    s.Calculate();
+  });
+}
+
 Control DatabaseList() {
   Control c;
   c.name = "cbo";
@@ -158,6 +113,7 @@ Control DatabaseList() {
   c.items = [](const Session& s) {
     return FillDatabaseList(s.database(), s.design().lib->catalogues);
   };
+  c.itemsVersion = [](const Session& s) { return s.databaseVersion; };
   c.selected = [](const Session& s) { return s.databaseSelection; };
   c.select = [](Session& s, int index) {
     s.databaseSelection = index;
@@ -168,6 +124,7 @@ Control DatabaseList() {
 
 void RemoveSelected(Session& s) {
   Database& db = s.database();
+  ++s.databaseVersion;
   db.listUpdate = true;
   const bool removed = RemoveRow(db, s.databaseSelection);
   db.listUpdate = false;
@@ -178,64 +135,85 @@ void RemoveSelected(Session& s) {
   if (s.databaseSelection > db.DbLast) s.databaseSelection = db.DbLast;
 }
 
-Form DatabaseForm() {
-  Form form;
-  form.name = "database";
-  form.title = [](const Session& s) {
-    return s.IsOpen("database") ? "Database file: " + s.database().DbFile : "Project Database ";
-  };
-  std::vector<Control>& c = form.controls;
-  c.push_back(DatabaseList());
-  c.push_back(Button("Command1", "New Database", [](Session& s) {
-    ClearDatabase(s.database());
-    s.databaseSelection = -1;
-  }));
-  c.push_back(Button("open_db", "Open Database", [](Session& s) {
-    const auto path = s.platform().AskOpen("*.db", "db");
-    if (!path) return;
-    s.database().DbFile = *path;
-    ReadDatabase(s.DatabasePath(*path), s.database());
-    s.databaseSelection = -1;
-  }));
-  c.push_back(Button("save_db", "Save to Database", [](Session& s) {
-    const auto path = s.platform().AskSave("*.db", "db");
-    if (!path) return;
-    s.database().DbFile = *path;
-    WriteDatabase(s.DatabasePath(*path), s.database());
-    s.SetTitle(s.st().FamilyName + ": " + *path);
-  }));
-  c.push_back(Button("Com_pilupp", "Up", [](Session& s) {
-    if (MoveRowUp(s.database(), s.databaseSelection)) --s.databaseSelection;
-  }));
-  c.back().tip = " Move Profile Up ";
-  c.push_back(Button("Com_pilner", "Down", [](Session& s) {
-    if (MoveRowDown(s.database(), s.databaseSelection)) ++s.databaseSelection;
-  }));
-  c.back().tip = " Move Profile Down ";
-  c.push_back(Button("cmd_x", "Remove", RemoveSelected));
-  c.back().tip = " Remove Profile ";
-  c.push_back(CloseButton("Command4", "CLOSE", "database"));
-  form.onFocus = [](Session& s) {
-    Database& db = s.database();
-    if (db.DbLast >= 0) {
-      if (s.databaseSelection < 0) s.databaseSelection = 0;
-      db.DbRow = s.databaseSelection;
-    }
-    TakeRow(s, [&] {
-      if (db.DbLast >= 0) s.st().ProfileType = DatabaseRowType(db);
-      s.Calculate();
-    });
-  };
-  return form;
+void OpenDatabase(Session& s) {
+  const auto path = s.platform().AskOpen("*.db", "db");
+  if (!path) return;
+  s.database().DbFile = *path;
+  ReadDatabase(*path, s.database());
+  ++s.databaseVersion;
+  s.databaseSelection = -1;
+}
+
+void SaveDatabase(Session& s) {
+  const auto path = s.platform().AskSave("*.db", "db");
+  if (!path) return;
+  s.database().DbFile = *path;
+  WriteDatabase(*path, s.database());
+  s.files().SetTitle(s.st().FamilyName + ": " + *path);
+}
+
+Control MoveButton(const char* name, const char* caption, const char* tip,
+                   std::function<void(Session&)> click) {
+  Control c = Button(name, caption, std::move(click));
+  c.tip = tip;
+  return c;
 }
 
 }  // namespace
 
-void AddOptimiserForm(std::vector<Form>& forms) {
-  forms.push_back(OptimiserForm());
+void AddOptimiserForm(Forms& forms) {
+  Form& form = forms.Add("optroll", Fixed("Optimize rolled profiles"));
+  forms.optimiser = &form;
+  form.input = form.modal = true;
+  OptimiserControls& on = forms.onOptimiser;
+  on.ULS = Put(form, CriterionOption("ULS", kCriterionUls));
+  on.SLS = Put(form, CriterionOption("SLS", kCriterionSls));
+  on.ULSSLS = Put(form, CriterionOption("ULSSLS", kCriterionUlsSls));
+  Control limit = Input("idef_limit", "L/", Bind(&ProjectState::DeflectionLimit));
+  limit.visible =
+      limit.enabled = [](const Session& s) { return s.st().ResultView != kCriterionUls; };
+  on.idef_limit = Put(form, std::move(limit));
+  on.oufmax = Put(form, TextLabel("oufmax", [](const Session& s) {
+                    return "UFmax = " + s.Shown(s.st().iufa, "#0.00");
+                  }));
+  for (int row = 1; row <= kOptimiserRows; ++row) on.rows[row] = AddRow(form, row);
+  Put(form, Label("onote", "Note: All optimization is based on profile weight"));
+  Put(form, Button("Command2", "OK", [](Session& s) {
+        TakeOverRow(s.design(), s.rows().results);
+        s.Unload(*TheForms().optimiser);
+      }));
+  // What was searched stays in force: nothing is cancelled.
+  Put(form, CloseButton("Command1", "Close", form));
+  form.onShow = [](Session& s) { OpenRows(s.design(), s.rows()); };
 }
-void AddDatabaseForm(std::vector<Form>& forms) {
-  forms.push_back(DatabaseForm());
+
+void AddDatabaseForm(Forms& forms) {
+  Form& form = forms.Add("database", [](const Session& s) {
+    return s.IsOpen(*TheForms().database) ? "Database file: " + s.database().DbFile
+                                          : "Project Database ";
+  });
+  forms.database = &form;
+  form.input = true;
+  DatabaseControls& on = forms.onDatabase;
+  on.list = Put(form, DatabaseList());
+  Put(form, Button("Command1", "New Database", [](Session& s) {
+        ClearDatabase(s.database());
+        ++s.databaseVersion;
+        s.databaseSelection = -1;
+      }));
+  Put(form, Button("open_db", "Open Database", OpenDatabase));
+  Put(form, Button("save_db", "Save to Database", SaveDatabase));
+  Put(form, MoveButton("Com_pilupp", "Up", " Move Profile Up ", [](Session& s) {
+        if (MoveRowUp(s.database(), s.databaseSelection)) --s.databaseSelection;
+        ++s.databaseVersion;
+      }));
+  Put(form, MoveButton("Com_pilner", "Down", " Move Profile Down ", [](Session& s) {
+        if (MoveRowDown(s.database(), s.databaseSelection)) ++s.databaseSelection;
+        ++s.databaseVersion;
+      }));
+  Put(form, MoveButton("cmd_x", "Remove", " Remove Profile ", RemoveSelected));
+  on.close = Put(form, CloseButton("Command4", "CLOSE", form));
+  form.onFocus = FocusDatabase;
 }
 
 }  // namespace korvane

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Loads, end forces, supports and stiffeners, calculation points.
-#include <array>
-
 #include "analysis/loads.h"
 #include "front/forms/forms.h"
 #include "front/session.h"
@@ -9,18 +7,9 @@
 
 namespace korvane {
 
-FieldRule LoadFactorRule(float32 ProjectState::*member) {
-  FieldRule rule = Bind(member, "#0.00");
-  rule.limit = Between(0, 4, " 0 < Loadfactor < 4.0 ");
-  rule.then = CalculateAfter;
-  return rule;
-}
-
-Control CloseButton(const char* name, const char* caption, const char* form) {
-  return Button(name, caption, [form](Session& s) { s.Close(form); });
-}
-
 namespace {
+
+using S = ProjectState;
 
 constexpr const char* kCategories[] = {"P", "V1", "V2"};
 
@@ -28,38 +17,10 @@ std::string CategoryCaption(int pv) {
   return kCategories[pv == 0 || pv == 1 ? pv : 2];
 }
 
-FieldRule Calculated(FieldRule rule) {
-  rule.then = CalculateAfter;
-  return rule;
-}
-
-/// A position, stored in m; shown and typed as x/L while the flag is 1. A refused one becomes 0.
-FieldRule Position(FieldRule rule, int16 ProjectState::*relative, std::string absoluteMessage,
-                   std::string relativeMessage) {
-  rule.format = "#0.000";
-  const auto read = rule.read;
-  const auto store = rule.store;
-  rule.read = [read, relative](const ProjectState& st) {
-    return st.*relative == 1 ? read(st) / st.L : read(st);
-  };
-  rule.store = [store, relative](ProjectState& st, double v) {
-    store(st, st.*relative == 1 ? st.L * v : v);
-  };
-  rule.limit.accepts = [relative](const ProjectState& st, double v) {
-    return v >= 0 && v <= (st.*relative == 1 ? 1.0 : double(st.L));
-  };
-  rule.limit.message = [=](const ProjectState& st) {
-    return st.*relative == 1 ? relativeMessage : absoluteMessage;
-  };
-  rule.refusal = Refusal::BecomesZero;
-  rule.then = CalculateAfter;
-  return rule;
-}
-
 /// A picture button that steps a code and shows it in its caption.
 Control Toggle(std::string name, std::function<std::string(const Session&)> text,
-               std::function<void(ProjectState&)> step) {
-  Control c = Picture(std::move(name), {}, [step = std::move(step)](Session& s) {
+               std::function<void(S&)> step) {
+  Control c = Picture(std::move(name), {}, {}, [step = std::move(step)](Session& s) {
     step(s.st());
     s.Calculate();
   });
@@ -74,258 +35,231 @@ int Flipped(int flag) {
   return flag == 0 ? 1 : 0;
 }
 
-Control CategoryToggle(std::string name, int16 ProjectState::*pv) {
+Control CategoryToggle(std::string name, int16 S::*pv) {
   return Toggle(
       std::move(name), [pv](const Session& s) { return CategoryCaption(s.st().*pv); },
-      [pv](ProjectState& st) { st.*pv = NextCategory(st.*pv); });
+      [pv](S& st) { st.*pv = NextCategory(st.*pv); });
 }
 
-Control DirectionToggle(std::string name, int16 ProjectState::*yz) {
+Control DirectionToggle(std::string name, int16 S::*yz) {
   return Toggle(
       std::move(name), [yz](const Session& s) { return std::string(s.st().*yz == 0 ? "Y" : "Z"); },
-      [yz](ProjectState& st) { st.*yz = Flipped(st.*yz); });
+      [yz](S& st) { st.*yz = Flipped(st.*yz); });
 }
 
-/// An option pair that changes only how positions are shown and typed.
-Control RelativeOption(const char* name, const char* caption, int16 ProjectState::*flag, int value,
-                       const char* form) {
-  return Option(
-      name, caption, [flag, value](const Session& s) { return s.st().*flag == value; },
-      [flag, value, form](Session& s) {
-        s.st().*flag = value;
-        s.Fill(form);
-        s.Calculate();
-      });
+// --- Loading ------------------------------------------------------------------------------------
+
+void AddFactors(Form& form, LoadingControls& on) {
+  const auto factor = [&](const char* name, const char* caption, float32 S::*member) {
+    return Put(form, Input(name, caption, Calculated(member)));
+  };
+  on.ilfp_uls = factor("ilfp_uls", "ULS P", &S::lfp_uls);
+  on.ilfv1_uls = factor("ilfv1_uls", "ULS V1", &S::lfv1_uls);
+  on.ilfv2_uls = factor("ilfv2_uls", "ULS V2", &S::lfv2_uls);
+  on.ilfp_sls = factor("ilfp_sls", "SLS P", &S::lfp_sls);
+  on.ilfv1_Sls = factor("ilfv1_Sls", "SLS V1", &S::lfv1_sls);
+  on.ilfv2_Sls = factor("ilfv2_Sls", "SLS V2", &S::lfv2_sls);
+  const auto ofSelfWeight = [&](Control control) {
+    control.visible = [](const Session& s) { return s.st().SelfWeight == 1; };
+    return Put(form, std::move(control));
+  };
+  on.ilfsw_ULS = ofSelfWeight(Input("ilfsw_ULS", "Selfweight ULS", Calculated(&S::lfsw_uls)));
+  on.ilfsw_SLS =
+      ofSelfWeight(TextLabel("ilfsw_SLS", [](const Session& s) { return s.OnScreen("1.00"); }));
+  on.slsfactor = ofSelfWeight(SlsFactorLabel());
 }
 
-void AddFactors(std::vector<Control>& c) {
-  using S = ProjectState;
-  c.push_back(Input("ilfp_uls", "ULS P", LoadFactorRule(&S::lfp_uls), "", "0 to 4"));
-  c.push_back(Input("ilfv1_uls", "ULS V1", LoadFactorRule(&S::lfv1_uls), "", "0 to 4"));
-  c.push_back(Input("ilfv2_uls", "ULS V2", LoadFactorRule(&S::lfv2_uls), "", "0 to 4"));
-  c.push_back(Input("ilfp_sls", "SLS P", LoadFactorRule(&S::lfp_sls), "", "0 to 4"));
-  c.push_back(Input("ilfv1_Sls", "SLS V1", LoadFactorRule(&S::lfv1_sls), "", "0 to 4"));
-  c.push_back(Input("ilfv2_Sls", "SLS V2", LoadFactorRule(&S::lfv2_sls), "", "0 to 4"));
-  const auto withSelfWeight = [](const Session& s) { return s.st().SelfWeight == 1; };
-  c.push_back(Input("ilfsw_ULS", "Selfweight ULS", Calculated(Bind(&S::lfsw_uls, "#0.00"))));
-  c.back().visible = withSelfWeight;
-  c.push_back(Label("ilfsw_SLS", "1.00"));
-  c.back().visible = withSelfWeight;
-  c.push_back(Label("slsfactor", "SLS loadfactor = 1.0"));
-  c.back().visible = withSelfWeight;
-}
-
-void AddLines(std::vector<Control>& c) {
-  using S = ProjectState;
+void AddLines(Form& form, LoadingControls& on) {
   struct Line {
     float32 S::*q;
     int16 S::*pv;
     int16 S::*yz;
   };
-  const std::array<Line, 4> lines{{{&S::q1, &S::q1_pv, &S::q1_yz},
-                                   {&S::q2, &S::q2_pv, &S::q2_yz},
-                                   {&S::q3, &S::q3_pv, &S::q3_yz},
-                                   {&S::q4, &S::q4_pv, &S::q4_yz}}};
-  for (int k = 1; k <= 4; ++k) {
-    const Line& l = lines[static_cast<std::size_t>(k - 1)];
-    const std::string name = "iq" + std::to_string(k);
-    c.push_back(Input(name, "q" + std::to_string(k), Calculated(Bind(l.q, "#0.0")), "kN/m"));
-    c.push_back(CategoryToggle(name + "_pv", l.pv));
-    c.push_back(DirectionToggle(name + "_yz", l.yz));
+  constexpr Line lines[] = {{&S::q1, &S::q1_pv, &S::q1_yz},
+                            {&S::q2, &S::q2_pv, &S::q2_yz},
+                            {&S::q3, &S::q3_pv, &S::q3_yz},
+                            {&S::q4, &S::q4_pv, &S::q4_yz}};
+  int k = 1;
+  for (const Line& line : lines) {
+    const std::string number = std::to_string(k);
+    const std::string name = "iq" + number;
+    on.lines[k++] = {Put(form, Input(name, "q" + number, Calculated(line.q))),
+                     Put(form, CategoryToggle(name + "_pv", line.pv)),
+                     Put(form, DirectionToggle(name + "_yz", line.yz))};
   }
 }
 
-void AddTrapezoids(std::vector<Control>& c) {
+void AddTrapezoids(Form& form, LoadingControls& on) {
   for (int t = 1; t <= 3; ++t) {
     const Trapezoid& s = TrapezoidOf(t);
     const std::string name = "iqt" + std::to_string(t);
-    c.push_back(Input(name + "1", "q1", Calculated(Bind(s.q1, "#0.0")), "kN/m"));
-    c.push_back(Input(name + "2", "q2", Calculated(Bind(s.q2, "#0.0")), "kN/m"));
-    const auto position = [&](float32 ProjectState::*x, const char* letter) {
-      const std::string l = letter;
-      return Position(Bind(x, "#0.000"), &ProjectState::qtx_relative, " 0 < " + l + " <= l ",
-                      " 0 < " + l + " <= 1 ");
-    };
-    c.push_back(Input(name + "x1", "x1", position(s.x1, "x1"), "m"));
-    // The third trapezoid speaks of x1 in both fields: kept.
-    c.push_back(Input(name + "x2", "x2", position(s.x2, t == 3 ? "x1" : "x2"), "m"));
-    c.push_back(CategoryToggle(name + "_pv", s.pv));
-    c.push_back(DirectionToggle(name + "_yz", s.yz));
+    on.trapezoids[t] = {Put(form, Input(name + "1", "q1", Calculated(s.q1))),
+                        Put(form, Input(name + "2", "q2", Calculated(s.q2))),
+                        Put(form, Input(name + "x1", "x1", Calculated(s.x1))),
+                        Put(form, Input(name + "x2", "x2", Calculated(s.x2))),
+                        Put(form, CategoryToggle(name + "_pv", s.pv)),
+                        Put(form, DirectionToggle(name + "_yz", s.yz))};
   }
 }
 
-void AddItems(std::vector<Control>& c) {
-  using S = ProjectState;
+void AddItems(Form& form, LoadingControls& on) {
   for (int i = 1; i <= 8; ++i) {
     const std::string index = "(" + std::to_string(i) + ")";
-    c.push_back(Toggle(
-        "ipm_pm" + index,
-        [i](const Session& s) { return std::string(s.st().pm_pm[i] == 0 ? "P" : "M"); },
-        [i](S& st) { st.pm_pm[i] = Flipped(st.pm_pm[i]); }));
-    c.push_back(Input("ipm" + index, "P/M", Calculated(Bind(&S::pm, i, "#0.0")), "kN, kNm"));
-    c.push_back(Input(
-        "ipmx" + index, "x",
-        Position(Bind(&S::pmx, i, "#0.000"), &S::pmx_relative, " 0 < x <= l ", " 0 < x <= 1 "),
-        "m"));
-    c.push_back(Toggle(
-        "ipm_pv" + index, [i](const Session& s) { return CategoryCaption(s.st().pm_pv[i]); },
-        [i](S& st) { st.pm_pv[i] = NextCategory(st.pm_pv[i]); }));
-    c.push_back(Toggle(
-        "ipm_yz" + index,
-        [i](const Session& s) {
-          const bool z = s.st().pm_yz[i] != 0;
-          if (s.st().pm_pm[i] == 0) return std::string(z ? "Z" : "Y");
-          return std::string(z ? "My" : "Mz");
-        },
-        [i](S& st) { st.pm_yz[i] = Flipped(st.pm_yz[i]); }));
+    on.items[i] = {Put(form, Toggle(
+                                 "ipm_pm" + index,
+                                 [i](const Session& s) {
+                                   return std::string(s.st().pm_pm[i] == 0 ? "P" : "M");
+                                 },
+                                 [i](S& st) { st.pm_pm[i] = Flipped(st.pm_pm[i]); })),
+                   Put(form, Input("ipm" + index, "P/M", Calculated(&S::pm, i))),
+                   Put(form, Input("ipmx" + index, "x", Calculated(&S::pmx, i))),
+                   Put(form, Toggle(
+                                 "ipm_pv" + index,
+                                 [i](const Session& s) { return CategoryCaption(s.st().pm_pv[i]); },
+                                 [i](S& st) { st.pm_pv[i] = NextCategory(st.pm_pv[i]); })),
+                   Put(form, Toggle(
+                                 "ipm_yz" + index,
+                                 [i](const Session& s) {
+                                   const bool z = s.st().pm_yz[i] != 0;
+                                   if (s.st().pm_pm[i] == 0) return std::string(z ? "Z" : "Y");
+                                   return std::string(z ? "My" : "Mz");
+                                 },
+                                 [i](S& st) { st.pm_yz[i] = Flipped(st.pm_yz[i]); }))};
   }
 }
 
 /// Tidies the loads; a load that can't stand keeps the form open with the focus on its field.
 bool CheckOnClosing(Session& s) {
   const auto message = NormaliseLoads(s.st());
-  s.Fill("loading");
   if (!message) return true;
   s.platform().Message(message->text);
-  s.FocusField("loading." + message->focus);
+  s.FocusField(*FieldOf(*TheForms().loading, InputOf(message->field)));
   return false;
 }
 
-Form LoadingForm() {
-  using S = ProjectState;
-  Form form;
-  form.name = "loading";
-  form.title = [](const Session& s) {
+void AddLoading(Forms& forms) {
+  Form& form = forms.Add("loading", [](const Session& s) {
     return "Loading - " + SectionTitle(s.st(), s.design().lib->catalogues);
-  };
-  std::vector<Control>& c = form.controls;
-  AddFactors(c);
-  c.push_back(
-      Input("inp", "N (P)", Calculated(Bind(&S::NP, "#0.0")), "kN", "Compression positive"));
-  c.push_back(Input("inv1", "N (V1)", Calculated(Bind(&S::NV1, "#0.0")), "kN"));
-  c.push_back(Input("inv2", "N (V2)", Calculated(Bind(&S::NV2, "#0.0")), "kN"));
-  AddLines(c);
-  AddTrapezoids(c);
-  AddItems(c);
-  c.push_back(Check(
-      "check_selfweight", "Include Selfweight - z-dir",
-      [](const Session& s) { return s.st().SelfWeight == 1; },
-      [](Session& s) {
-        s.st().SelfWeight = Flipped(s.st().SelfWeight);
+  });
+  forms.loading = &form;
+  form.input = true;
+  LoadingControls& on = forms.onLoading;
+  AddFactors(form, on);
+  on.inp = Put(form, Input("inp", "N (P)", Calculated(&S::NP), "Compression positive"));
+  on.inv1 = Put(form, Input("inv1", "N (V1)", Calculated(&S::NV1)));
+  on.inv2 = Put(form, Input("inv2", "N (V2)", Calculated(&S::NV2)));
+  AddLines(form, on);
+  AddTrapezoids(form, on);
+  AddItems(form, on);
+  on.check_selfweight =
+      Put(form, FlagCheck("check_selfweight", "Include Selfweight - z-dir", &S::SelfWeight));
+  on.pmxabsolute = Put(form, ValueOption("pmxabsolute", "Absolute (m)", &S::pmx_relative, 0));
+  on.pmxrelative = Put(form, ValueOption("pmxrelative", "Relative (x/L)", &S::pmx_relative, 1));
+  on.qtxabsolute = Put(form, ValueOption("qtxabsolute", "Absolute (m)", &S::qtx_relative, 0));
+  on.qtxrelative = Put(form, ValueOption("qtxrelative", "Relative (x/L)", &S::qtx_relative, 1));
+  Put(form, Button("Command1", "Remove all loads", [](Session& s) {
+        ClearLoads(s.st());
         s.Calculate();
-        s.Fill("loading");
       }));
-  c.push_back(RelativeOption("pmxabsolute", "Absolute (m)", &S::pmx_relative, 0, "loading"));
-  c.push_back(RelativeOption("pmxrelative", "Relative (x/L)", &S::pmx_relative, 1, "loading"));
-  c.push_back(RelativeOption("qtxabsolute", "Absolute (m)", &S::qtx_relative, 0, "loading"));
-  c.push_back(RelativeOption("qtxrelative", "Relative (x/L)", &S::qtx_relative, 1, "loading"));
-  c.push_back(Button("Command1", "Remove all loads", [](Session& s) {
-    ClearLoads(s.st());
-    s.Calculate();
-    s.Fill("loading");
-  }));
-  c.push_back(CloseButton("ok", "OK", "loading"));
+  Put(form, CloseButton("ok", "OK", form));
   form.onFocus = [](Session& s) {
     s.st().AnalysisMode = 1;
     s.Calculate();
   };
   form.onClose = CheckOnClosing;
-  return form;
 }
 
-Form EndForceForm() {
-  using S = ProjectState;
-  Form form;
-  form.name = "endforce";
-  form.title = Fixed("Endforces (kN, kNm)");
-  std::vector<Control>& c = form.controls;
-  c.push_back(Input("ine", "N", Calculated(Bind(&S::Ne, "#0.0")), "kN", " (+=compression)"));
+// --- The other forms ----------------------------------------------------------------------------
+
+void AddEndForces(Forms& forms) {
+  Form& form = forms.Add("endforce", Fixed("Endforces (kN, kNm)"));
+  forms.endForces = &form;
+  form.input = true;
+  EndForceControls& on = forms.onEndForces;
+  on.ine = Put(form, Input("ine", "N", Calculated(&S::Ne), " (+=compression)"));
   struct Row {
     const char* name;
     const char* caption;
     Indexed<float32, 1, 2> S::*member;
-    const char* unit;
   };
-  for (const Row& row : {Row{"imy", "My", &S::My_end, "kNm"}, Row{"imz", "Mz", &S::Mz_end, "kNm"},
-                         Row{"ivy", "Vy", &S::Vy_end, "kN"}, Row{"ivz", "Vz", &S::Vz_end, "kN"}}) {
-    for (int end = 1; end <= 2; ++end) {
-      const std::string number = std::to_string(end);
-      c.push_back(Input(row.name + number, row.caption + number,
-                        Calculated(Bind(row.member, end, "#0.0")), row.unit));
-    }
+  constexpr Row rows[] = {{"imy", "My", &S::My_end},
+                          {"imz", "Mz", &S::Mz_end},
+                          {"ivy", "Vy", &S::Vy_end},
+                          {"ivz", "Vz", &S::Vz_end}};
+  for (std::size_t k = 0; k < std::size(rows); ++k) {
+    const auto end = [&](int number) {
+      const std::string digit = std::to_string(number);
+      return Put(form, Input(rows[k].name + digit, rows[k].caption + digit,
+                             Calculated(rows[k].member, number)));
+    };
+    on.rows.at(k).left = end(1);
+    on.rows.at(k).right = end(2);
   }
-  c.push_back(Label("onote", "Shall be used for members with only joint forces"));
-  c.push_back(Label("osign", " (+=compression)"));
-  c.push_back(CloseButton("ok", "OK", "endforce"));
+  on.onote = Put(form, Label("onote", "Shall be used for members with only joint forces"));
+  on.osign = Put(form, Label("osign", " (+=compression)"));
+  Put(form, CloseButton("ok", "OK", form));
   form.onFocus = [](Session& s) {
     s.st().AnalysisMode = 0;
     s.Calculate();
   };
-  return form;
 }
 
-Form StiffenerForm() {
-  using S = ProjectState;
-  Form form;
-  form.name = "endstiff";
-  form.title = Fixed("Support/Webstiffener");
-  std::vector<Control>& c = form.controls;
-  c.push_back(ValueOption("oendstiff0", "Weak Support stiffener", &S::EndStiffener, 0));
-  c.push_back(ValueOption("oendstiff1", "Stiff Support stiffener", &S::EndStiffener, 1));
-  c.push_back(ValueOption("cwebstiff0", "No web stiffeners", &S::WebStiffener, 0));
-  c.push_back(ValueOption("cwebstiff1", "Web stiffeners", &S::WebStiffener, 1));
-  const auto withWeb = [](const Session& s) { return s.st().WebStiffener == 1; };
-  FieldRule distance = Bind(&S::a_webstiff, "#0");
-  distance.limit =
-      Accept([](const S& st, double a) { return a >= 100 && a < 1000 * st.L; }, " 100 < a < l ");
-  distance.then = CalculateAfter;
-  c.push_back(Input("iweba", "a =", distance, "mm", "100 mm to the member length"));
-  c.back().visible = withWeb;
-  c.push_back(Label("webamm", "mm"));
-  c.back().visible = withWeb;
-  c.push_back(Label("onote", "Minimum two webstiffeners at the support"));
-  c.push_back(CloseButton("ok", "OK", "endstiff"));
-  return form;
+void AddStiffeners(Forms& forms) {
+  Form& form = forms.Add("endstiff", Fixed("Support/Webstiffener"));
+  forms.stiffeners = &form;
+  form.input = true;
+  Put(form, ValueOption("oendstiff0", "Weak Support stiffener", &S::EndStiffener, 0));
+  Put(form, ValueOption("oendstiff1", "Stiff Support stiffener", &S::EndStiffener, 1));
+  Put(form, ValueOption("cwebstiff0", "No web stiffeners", &S::WebStiffener, 0));
+  Put(form, ValueOption("cwebstiff1", "Web stiffeners", &S::WebStiffener, 1));
+  const auto ofWeb = [&](Control control) {
+    control.visible = [](const Session& s) { return s.st().WebStiffener == 1; };
+    Put(form, std::move(control));
+  };
+  ofWeb(Input("iweba", "a =", Calculated(&S::a_webstiff)));
+  ofWeb(Label("webamm", "mm"));
+  Put(form, Label("onote", "Minimum two webstiffeners at the support"));
+  Put(form, CloseButton("ok", "OK", form));
 }
 
-Form PointsForm() {
-  using S = ProjectState;
-  Form form;
-  form.name = "chpoints";
-  form.title = Fixed("Section Control - calculation points");
-  std::vector<Control>& c = form.controls;
-  c.push_back(ValueOption("cp_0", "11 even distributed points && Max/Min My/Mz ", &S::cp_mode, 0));
-  c.push_back(ValueOption("cp_1", "Characteristic points (CP)", &S::cp_mode, 1));
-  c.push_back(Label("onumber", "Number of Points:"));
+void AddPoints(Forms& forms) {
+  Form& form = forms.Add("chpoints", Fixed("Section Control - calculation points"));
+  forms.points = &form;
+  form.input = true;
+  Put(form, ValueOption("cp_0", "11 even distributed points && Max/Min My/Mz ", &S::cp_mode, 0));
+  Put(form, ValueOption("cp_1", "Characteristic points (CP)", &S::cp_mode, 1));
+  Put(form, Label("onumber", "Number of Points:"));
   for (int n = 1; n <= 3; ++n) {
-    c.push_back(ValueOption("no_cp" + std::to_string(n), std::to_string(n), &S::cp_count, n));
+    Put(form, ValueOption("no_cp" + std::to_string(n), std::to_string(n), &S::cp_count, n));
   }
   for (int i = 1; i <= 3; ++i) {
-    FieldRule rule =
-        Position(Bind(&S::cp_x, i, "#0.000"), &S::cp_relative, " 0 < x <= l ", " 0 <= x <= 1 ");
-    rule.refusal = Refusal::Stays;
+    FieldRule rule = Calculated(&S::cp_x, i);
     // A refused absolute position recalculates all the same.
     rule.afterRefusal = [](Session& s) {
       if (s.st().cp_relative == 0) s.Calculate();
     };
-    c.push_back(Input("icp(" + std::to_string(i) + ")", "x" + std::to_string(i), rule, "m"));
-    c.back().visible = [i](const Session& s) {
-      return s.st().cp_mode == 1 && s.st().cp_count >= i;
-    };
+    const std::string number = std::to_string(i);
+    Control c = Input("icp(" + number + ")", "x" + number, rule);
+    c.visible = [i](const Session& s) { return s.st().cp_mode == 1 && s.st().cp_count >= i; };
+    Put(form, std::move(c));
   }
-  c.push_back(RelativeOption("cpabsolute", "Absolute (m)", &S::cp_relative, 0, "chpoints"));
-  c.push_back(RelativeOption("cprelative", "Relative (x/L)", &S::cp_relative, 1, "chpoints"));
-  c.push_back(CloseButton("ok", "OK", "chpoints"));
-  return form;
+  Put(form, ValueOption("cpabsolute", "Absolute (m)", &S::cp_relative, 0));
+  Put(form, ValueOption("cprelative", "Relative (x/L)", &S::cp_relative, 1));
+  Put(form, CloseButton("ok", "OK", form));
 }
 
 }  // namespace
 
-void AddLoadForms(std::vector<Form>& forms) {
-  forms.push_back(LoadingForm());
-  forms.push_back(EndForceForm());
-  forms.push_back(StiffenerForm());
-  forms.push_back(PointsForm());
+Control SlsFactorLabel() {
+  return TextLabel("slsfactor",
+                   [](const Session& s) { return s.OnScreen("SLS loadfactor = 1.0"); });
+}
+
+void AddLoadForms(Forms& forms) {
+  AddLoading(forms);
+  AddEndForces(forms);
+  AddStiffeners(forms);
+  AddPoints(forms);
 }
 
 }  // namespace korvane

@@ -2,65 +2,52 @@
 // Default values, detailed results, mode shapes, pictures, about.
 #include "front/forms/forms.h"
 #include "front/session.h"
-#include "sections/profile_table.h"
 
 namespace korvane {
 
 namespace {
 
-Form DefaultsForm() {
-  using S = ProjectState;
-  Form form;
-  form.name = "setup";
-  form.title = Fixed("Default Values");
-  std::vector<Control>& c = form.controls;
-  c.push_back(FrameOf("frufa", "Allowable Usage Factor"));
-  FieldRule usage = Bind(&S::iufa, "#0.00");
-  usage.limit = Between(0.3, 2, " 0.3 < IR < 2.0 ");
-  usage.then = CalculateAfter;
-  c.push_back(Input("iufa", "UF =", usage, "", "0.3 to 2.0"));
-  c.push_back(FlagCheck("check_slend", "Slenderness limit (Buckling Control)", &S::check_slend));
-  FieldRule slenderness = Bind(&S::islend_limit, "#0");
-  slenderness.limit = Between(50, 1000, "50 <= Deflection <=1000 ");
-  const auto checked = [](const Session& s) { return s.st().check_slend == 1; };
-  c.push_back(Input("islend_limit", "Maximum slenderness:", slenderness, "", "50 to 1000"));
-  c.back().enabled = checked;
-  c.push_back(Label("slend_text", " (<= 250, ref NS ch 11.7)"));
-  c.back().visible = checked;
-  c.push_back(FrameOf("frdef", "Deflection Limit"));
-  c.push_back(
-      Input("idef_limit", "Deflection limit: L/", DeflectionLimitRule({}), "", "100 to 1500"));
-  c.push_back(FrameOf("frmat", "Material "));
-  c.push_back(MaterialList());
-  c.push_back(Input("ifyk", "fyk =", YieldRule(), "MPa", "50 to 2000 MPa"));
-  c.back().field.format = "#000";
-  c.back().enabled = [](const Session& s) {
-    return s.st().MaterialIndex >= s.design().lib->materials.Last();
-  };
-  c.push_back(Input("igammam1", "Material factor:  gm1 =", MaterialFactorRule(), "", "0.5 to 1.5"));
-  c.push_back(FrameOf("frload", "Loadfactors"));
-  c.push_back(Input("ilfp_uls", "ULS Permanent (P) =", LoadFactorRule(&S::lfp_uls), "", "0 to 4"));
-  c.push_back(
-      Input("ilfv1_uls", "ULS Variable (V1) =", LoadFactorRule(&S::lfv1_uls), "", "0 to 4"));
-  c.push_back(
-      Input("ilfv2_uls", "ULS Variable (V2) =", LoadFactorRule(&S::lfv2_uls), "", "0 to 4"));
-  c.push_back(Input("ilfp_sls", "SLS Permanent (P) =", LoadFactorRule(&S::lfp_sls), "", "0 to 4"));
-  c.push_back(
-      Input("ilfv1_Sls", "SLS Variable (V1) =", LoadFactorRule(&S::lfv1_sls), "", "0 to 4"));
-  c.push_back(
-      Input("ilfv2_Sls", "SLS Variable (V2) =", LoadFactorRule(&S::lfv2_sls), "", "0 to 4"));
-  FieldRule weight = Bind(&S::lfsw_uls, "#0.00");
-  weight.then = CalculateAfter;
-  c.push_back(Input("ilfsw_ULS", "Selfweight =", weight));
-  c.push_back(Label("slsfactor", "SLS loadfactor = 1.0"));
-  c.push_back(Button("Command2", "Save to file",
-                     [](Session& s) { WriteDefaults(s.folders().own, s.st()); }));
-  c.push_back(Button("Command1", "OK", [](Session& s) {
-    s.Calculate();
-    s.FillMainWindow();
-    s.Unload("setup");
-  }));
-  return form;
+using S = ProjectState;
+
+bool ChecksSlenderness(const Session& s) {
+  return s.st().check_slend == 1;
+}
+
+void AddDefaults(Forms& forms) {
+  Form& form = forms.Add("setup", Fixed("Default Values"));
+  forms.setup = &form;
+  form.input = true;
+  Put(form, FrameOf("frufa", "Allowable Usage Factor"));
+  Put(form, Input("iufa", "UF =", Calculated(&S::iufa)));
+  Put(form, FlagCheck("check_slend", "Slenderness limit (Buckling Control)", &S::check_slend));
+  Control slenderness = Input("islend_limit", "Maximum slenderness:", Bind(&S::islend_limit));
+  slenderness.enabled = ChecksSlenderness;
+  Put(form, std::move(slenderness));
+  Control advice = Label("slend_text", " (<= 250, ref NS ch 11.7)");
+  advice.visible = ChecksSlenderness;
+  Put(form, std::move(advice));
+  Put(form, FrameOf("frdef", "Deflection Limit"));
+  Put(form, Input("idef_limit", "Deflection limit: L/", Bind(&S::DeflectionLimit)));
+  Put(form, FrameOf("frmat", "Material "));
+  Put(form, MaterialList());
+  Put(form, YieldField({}));
+  Put(form, Input("igammam1", "Material factor:  gm1 =", Calculated(&S::gammam1)));
+  forms.onSetup.frload = Put(form, FrameOf("frload", "Loadfactors"));
+  Put(form, Input("ilfp_uls", "ULS Permanent (P) =", Calculated(&S::lfp_uls)));
+  Put(form, Input("ilfv1_uls", "ULS Variable (V1) =", Calculated(&S::lfv1_uls)));
+  Put(form, Input("ilfv2_uls", "ULS Variable (V2) =", Calculated(&S::lfv2_uls)));
+  Put(form, Input("ilfp_sls", "SLS Permanent (P) =", Calculated(&S::lfp_sls)));
+  Put(form, Input("ilfv1_Sls", "SLS Variable (V1) =", Calculated(&S::lfv1_sls)));
+  Put(form, Input("ilfv2_Sls", "SLS Variable (V2) =", Calculated(&S::lfv2_sls)));
+  Put(form, Input("ilfsw_ULS", "Selfweight =", Calculated(&S::lfsw_uls)));
+  Put(form, SlsFactorLabel());
+  Put(form, Button("Command2", "Save to file",
+                   [](Session& s) { WriteDefaults(s.folders().own, s.st()); }));
+  Put(form, Button("Command1", "OK", [](Session& s) {
+        s.Calculate();
+        s.FillMainWindow();
+        s.Unload(*TheForms().setup);
+      }));
 }
 
 /// Long view of both blocks, as wide as the form.
@@ -74,65 +61,57 @@ std::string LongResults(const Session& s) {
   return s.OnScreen(std::move(text));
 }
 
-Form DetailForm() {
-  Form form;
-  form.name = "detailedresult";
-  form.title = Fixed("Results (ULS)");
-  Control pane;
-  pane.name = "picresult";
-  pane.kind = Kind::Surface;
-  pane.text = LongResults;
-  form.controls.push_back(pane);
-  form.controls.push_back(Button("cmdpic", "Section", [](Session& s) {
-    if (const Family* family = FindFamily(s.st().ProfileType)) s.Show(family->form);
-  }));
-  form.controls.push_back(CloseButton("ok", "OK", "detailedresult"));
-  return form;
+void AddDetails(Forms& forms) {
+  Form& form = forms.Add("detailedresult", Fixed("Results (ULS)"));
+  forms.details = &form;
+  Put(form, Surface("picresult", Painting::LongResults, LongResults));
+  Put(form, Button("cmdpic", "Section", [](Session& s) {
+        for (const Form& family : AllForms()) {
+          if (family.family != 0 && family.family == s.st().ProfileType) s.Show(family);
+        }
+      }));
+  Put(form, CloseButton("ok", "OK", form));
 }
 
-Form ModalForm() {
-  Form form;
-  form.name = "Modal_ns";
-  form.title = Fixed("Modal analysis for q-loads (SLS)");
-  form.controls.push_back(TextLabel("massa", [](const Session& s) {
-    return "Mass: m = " + s.Shown(s.design().modal.ModalMass, "#0") + " kg/m";
-  }));
+void AddModes(Forms& forms) {
+  Form& form = forms.Add("Modal_ns", Fixed("Modal analysis for q-loads (SLS)"));
+  forms.modes = &form;
+  Put(form, TextLabel("massa", [](const Session& s) {
+        return "Mass: m = " + s.Shown(s.design().modal.ModalMass, "#0") + " kg/m";
+      }));
   for (int n = 1; n <= 3; ++n) {
-    form.controls.push_back(TextLabel("mod" + std::to_string(n), [n](const Session& s) {
-      const double f = s.design().modal.ModalFreq[n];
-      const double period = f == 0 ? 0 : 1 / f;
-      return "Mode " + std::to_string(n) + ": " + s.Shown(f, "#0.00") + " Hz/" +
-             s.Shown(period, "#0.00") + "s";
-    }));
+    Put(form, TextLabel("mod" + std::to_string(n), [n](const Session& s) {
+          const double f = s.design().modal.ModalFreq[n];
+          const double period = f == 0 ? 0 : 1 / f;
+          return "Mode " + std::to_string(n) + ": " + s.Shown(f, "#0.00") + " Hz/" +
+                 s.Shown(period, "#0.00") + "s";
+        }));
   }
-  Control pane;
-  pane.name = "picmode";
-  pane.kind = Kind::Surface;
-  pane.text = [](const Session&) { return std::string("Mode shapes"); };
-  form.controls.push_back(pane);
-  form.controls.push_back(CloseButton("ok", "OK", "Modal_ns"));
-  return form;
+  Put(form, Surface("picmode", Painting::Modes,
+                    [](const Session&) { return std::string("Mode shapes"); }));
+  Put(form, CloseButton("ok", "OK", form));
 }
 
-Form SimpleForm(const char* name, const char* title, const char* text) {
-  Form form;
-  form.name = name;
-  form.title = Fixed(title);
-  form.controls.push_back(Label("otext", text));
-  form.controls.push_back(CloseButton("Command1", "OK", name));
+Form& AddSimple(Forms& forms, const char* name, const char* title, const char* text) {
+  Form& form = forms.Add(name, Fixed(title));
+  Put(form, Label("otext", text));
+  Put(form, CloseButton("Command1", "OK", form));
   return form;
 }
 
 }  // namespace
 
-void AddSetupForms(std::vector<Form>& forms) {
-  forms.push_back(DefaultsForm());
-  forms.push_back(DetailForm());
-  forms.push_back(ModalForm());
-  forms.push_back(SimpleForm("about", "About KORVANE - NS3472",
-                             "KORVANE NS3472, Version 3.9. Column/Beam program based on NS3472, "
-                             "3 rd ed"));
-  forms.push_back(SimpleForm("Pictures", "Pictures", "Supports, end conditions and load levels"));
+void AddSetupForms(Forms& forms) {
+  AddDefaults(forms);
+  AddDetails(forms);
+  AddModes(forms);
+  forms.about = &AddSimple(forms, "about", "About KORVANE - NS3472",
+                           "KORVANE NS3472, Version 3.9. Column/Beam program based on NS3472, "
+                           "3 rd ed");
+  Form& pictures =
+      AddSimple(forms, "Pictures", "Pictures", "Supports, end conditions and load levels");
+  forms.pictures = &pictures;
+  forms.onPictures.otext = &pictures.controls.front();
 }
 
 }  // namespace korvane

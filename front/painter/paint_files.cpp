@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "front/painter/painter_target.h"
+#include "front/painter/pdf_description.h"
 
 namespace korvane {
 
@@ -40,13 +41,14 @@ void DrawPage(QPainter& painter, const PaintJob& job, std::size_t page, const QR
 }
 
 constexpr const char* kFailed = "the painter failed";
+constexpr const char* kProgram = "KORVANE NS3472 3.9";
 
 std::string PaintPdf(const PaintJob& job, QIODevice& bytes) {
   QPdfWriter writer(&bytes);
   writer.setPageSize(QPageSize(QSizeF(job.width, job.height), QPageSize::Point));
   writer.setPageMargins(QMarginsF(0, 0, 0, 0));
   writer.setTitle(QString::fromStdString(job.title));
-  writer.setCreator(QStringLiteral("KORVANE NS3472 3.9"));
+  writer.setCreator(QString::fromUtf8(kProgram));
   if (!job.attachment.empty()) {
     writer.addFileAttachment(QString::fromStdString(job.attachmentName),
                              QByteArray::fromStdString(job.attachment),
@@ -83,6 +85,9 @@ std::string PaintIntoMemory(const PaintJob& job, std::string& bytes) {
   const std::string error =
       job.format == PaintFormat::Pdf ? PaintPdf(job, buffer) : PaintPng(job, buffer);
   bytes = buffer.data().toStdString();
+  if (job.format == PaintFormat::Pdf && error.empty()) {
+    bytes = Described(std::move(bytes), {kProgram, job.subject, "en"});
+  }
   return error;
 }
 

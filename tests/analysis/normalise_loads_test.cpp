@@ -58,7 +58,7 @@ TEST(NormaliseLoads, RefusesOrdinatesOfBothSigns) {
       const auto message = NormaliseLoads(st);
       ASSERT_TRUE(message.has_value());
       EXPECT_EQ(message->text, kSignText);
-      EXPECT_EQ(message->focus, "iqt" + std::to_string(t) + "2");
+      EXPECT_EQ(message->field, TrapezoidOf(t).q2);
       EXPECT_EQ(st.*TrapezoidOf(t).q1, q);  // the entry stays for mending
       EXPECT_EQ(st.*TrapezoidOf(t).q2, -q);
     }
@@ -73,7 +73,7 @@ TEST(NormaliseLoads, RefusesPositionsTheWrongWayRound) {
     const auto message = NormaliseLoads(st);
     ASSERT_TRUE(message.has_value());
     EXPECT_EQ(message->text, kOrderText);
-    EXPECT_EQ(message->focus, "iqt" + std::to_string(t) + "x2");
+    EXPECT_EQ(message->field, TrapezoidOf(t).x2);
     EXPECT_EQ(st.*TrapezoidOf(t).x1, 3);
     EXPECT_EQ(st.*TrapezoidOf(t).x2, 2);
   }
@@ -85,18 +85,18 @@ TEST(NormaliseLoads, RefusesAStartBeyondTheEndOfTheMember) {
   const auto message = NormaliseLoads(st);
   ASSERT_TRUE(message.has_value());
   EXPECT_EQ(message->text, kOrderText);
-  EXPECT_EQ(message->focus, "iqt2x2");
+  EXPECT_EQ(message->field, &ProjectState::qt2_x2);
 }
 
 TEST(NormaliseLoads, NamesTheFirstFaultyTrapezoid) {
   ProjectState st = BareMember(0, 6);
   PutTrapezoid(st, 2, 4, -8, 1, 2);
   PutTrapezoid(st, 3, 4, -8, 1, 2);
-  EXPECT_EQ(NormaliseLoads(st)->focus, "iqt22");
+  EXPECT_EQ(NormaliseLoads(st)->field, &ProjectState::qt2_2);
   st = BareMember(0, 6);
   PutTrapezoid(st, 2, 4, 8, 3, 2);
   PutTrapezoid(st, 3, 4, 8, 3, 2);
-  EXPECT_EQ(NormaliseLoads(st)->focus, "iqt2x2");
+  EXPECT_EQ(NormaliseLoads(st)->field, &ProjectState::qt2_x2);
 }
 
 TEST(NormaliseLoads, SignsOfAllTrapezoidsComeBeforePositions) {
@@ -106,7 +106,7 @@ TEST(NormaliseLoads, SignsOfAllTrapezoidsComeBeforePositions) {
   const auto message = NormaliseLoads(st);
   ASSERT_TRUE(message.has_value());
   EXPECT_EQ(message->text, kSignText);
-  EXPECT_EQ(message->focus, "iqt32");
+  EXPECT_EQ(message->field, &ProjectState::qt3_2);
 }
 
 TEST(NormaliseLoads, GoesOnWithTheRestAfterAFault) {

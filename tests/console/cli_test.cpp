@@ -8,7 +8,7 @@
 #include <set>
 
 #include "core/calculation.h"
-#include "core/project_fields.h"
+#include "core/input_fields.h"
 #include "core/project_file.h"
 #include "places.h"
 #include "run_program.h"

@@ -233,13 +233,14 @@ TEST_F(Optimise, RefusesOtherFamilies) {
 TEST_F(Optimise, RefusesLimitsOutsideTheirRange) {
   OptimiseOptions options = For();
   options.rows = {1};
-  for (const double limit : {99.9, 1500.1, -100.0}) {
+  for (const double limit : {99.4, 1500.6, -100.0, 40000.0}) {
     options.limit = limit;
     const Printed run = RunWith(options);
     EXPECT_EQ(run.status, 2);
     EXPECT_EQ(run.errors, "100 <= Deflection <=1500 \n");
   }
-  for (const double limit : {100.0, 1500.0}) {
+  // A limit is a whole number: 99.6 is 100.
+  for (const double limit : {99.6, 100.0, 1500.0, 1500.4}) {
     options.limit = limit;
     EXPECT_EQ(RunWith(options).status, 0);
   }

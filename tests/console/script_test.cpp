@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "front/form_table.h"
+#include "front/forms/handles.h"
 #include "places.h"
 #include "projects.h"
 #include "run_program.h"

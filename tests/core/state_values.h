@@ -8,7 +8,7 @@
 #include <string>
 #include <type_traits>
 
-#include "core/project_fields.h"
+#include "core/input_fields.h"
 #include "core/text.h"
 
 namespace korvane {

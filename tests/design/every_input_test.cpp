@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "analysis/loads.h"
-#include "core/project_fields.h"
+#include "core/input_fields.h"
 #include "designs.h"
 #include "walk_results.h"
 

@@ -8,7 +8,7 @@
 
 #include "checks/results.h"
 #include "core/calculation.h"
-#include "core/project_fields.h"
+#include "core/input_fields.h"
 #include "core/state_field.h"
 #include "random_states.h"
 #include "sections/profile_table.h"

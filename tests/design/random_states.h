@@ -7,7 +7,7 @@
 #include <random>
 #include <string>
 
-#include "core/project_fields.h"
+#include "core/input_fields.h"
 #include "core/project_state.h"
 #include "sections/names.h"
 

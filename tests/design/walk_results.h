@@ -7,7 +7,7 @@
 
 #include "checks/results.h"
 #include "core/calculation.h"
-#include "core/project_fields.h"
+#include "core/input_fields.h"
 #include "sections/profile_table.h"
 #include "sections/section_fields.h"
 #include "sections/shown_values.h"

@@ -72,7 +72,7 @@ void SetResultHeight(MainWindow& window, int height) {
 
 TEST_F(DesktopTest, ResultLinesMoveTogetherBeforeTheyAreCut) {
   Load("10");
-  desktop_->CloseForm("loading");
+  desktop_->CloseForm(*FindForm("loading"));
   Main().resize(1280, 720);
   QCoreApplication::processEvents();
   auto* scroll = qobject_cast<QScrollArea*>(Results().parentWidget()->parentWidget());
@@ -87,7 +87,7 @@ TEST_F(DesktopTest, ResultLinesMoveTogetherBeforeTheyAreCut) {
 
 TEST_F(DesktopTest, ResultLettersGrowWithTheRoom) {
   Load("10");
-  desktop_->CloseForm("loading");
+  desktop_->CloseForm(*FindForm("loading"));
   Main().resize(1280, 720);
   QCoreApplication::processEvents();
   const double small = Results().font().pointSizeF();

@@ -198,7 +198,8 @@ void CopyExamples(const QString& folder) {
     ASSERT_TRUE(QFile::copy(examples.filePath(from), folder + QLatin1Char('/') + to));
   };
   QDir(folder).mkdir(QStringLiteral("projects"));
-  for (const QString& file : examples.entryList({QStringLiteral("*.kvn")}, QDir::Files)) {
+  for (const QString& file :
+       examples.entryList({QStringLiteral("*.kvn"), QStringLiteral("*.csv")}, QDir::Files)) {
     copy(file, file);
     copy(file, QStringLiteral("projects/") + file);
   }

@@ -36,7 +36,7 @@ protected:
 
 TEST_F(DesktopTest, DrawResultsDrawsAnewWithoutACalculation) {
   Load("10");
-  desktop_->CloseForm("loading");
+  desktop_->CloseForm(*FindForm("loading"));
   Main().activateWindow();
   QTest::qWait(50);
   PaintCount diagram(On<DiagramBox>(Main(), "picmy"));
@@ -222,7 +222,7 @@ TEST_F(DesktopTest, ResultLinesAreCopiedFromTheMenu) {
 }
 
 TEST_F(DesktopTest, RightButtonOpensTheHelpMenu) {
-  QMenu* help = Main().ActionOf("mnuhelp")->menu();
+  QMenu* help = ActionOf("mnuhelp")->menu();
   for (const char* name : {"fr31", "columnframe", "obeam", "obuckltext"}) {
     auto& widget = On<QWidget>(Main(), name);
     QContextMenuEvent event(QContextMenuEvent::Mouse, {2, 2}, widget.mapToGlobal(QPoint(2, 2)));

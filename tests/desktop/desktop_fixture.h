@@ -15,6 +15,7 @@
 #include "front/desktop/main_window.h"
 #include "front/desktop/panes.h"
 #include "front/desktop/theme.h"
+#include "front/named_session.h"
 #include "tests/support/source_library.h"
 
 namespace korvane {
@@ -37,8 +38,8 @@ public:
   std::optional<PrintJob> AskPrint() override {
     return print ? std::optional<PrintJob>(PrintJob{2}) : std::nullopt;
   }
-  void Print(const Design&, int kind, int copies) override {
-    prints.push_back(std::to_string(kind) + " x " + std::to_string(copies));
+  void Print(const Design&, int kind, const PrintJob& job) override {
+    prints.push_back(std::to_string(kind) + " x " + std::to_string(job.copies));
   }
   void OpenHelp(const std::string& file) override { helps.push_back(file); }
   void Progress(int, int) override { ++progress; }
@@ -65,7 +66,10 @@ protected:
   }
 
   MainWindow& Main() { return desktop_->window(); }
-  FormWindow& Window(const std::string& form) { return *desktop_->WindowOf(form); }
+  FormWindow& Window(const std::string& form) { return *desktop_->WindowOf(*FindForm(form)); }
+  QAction* ActionOf(const std::string& command) {
+    return Main().ActionOf(*FindControl(*TheForms().main, command));
+  }
 
   template <class W>
   W& On(QWidget& window, const char* name) {
@@ -92,7 +96,7 @@ protected:
     QCoreApplication::processEvents();
   }
   void Menu(const char* command) {
-    Main().ActionOf(command)->trigger();
+    ActionOf(command)->trigger();
     QCoreApplication::processEvents();
   }
   void Load(const char* q) {
@@ -106,7 +110,7 @@ protected:
   QTemporaryDir folder_;
   AnsweringPlatform platform_;
   std::shared_ptr<const Library> library_;
-  Session session_;
+  NamedSession session_;
   std::unique_ptr<Desktop> desktop_;
 };
 

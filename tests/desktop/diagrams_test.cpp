@@ -182,7 +182,7 @@ TEST_F(DiagramsTest, PictureThatCannotBeWrittenIsTold) {
   // The folder goes when the dialog has been answered.
   lastMoment_ = [this] { QDir(folder_.path()).rmdir("gone"); };
   FromContextMenu(On<FigurePane>(Main(), "pic1"), "Save as SVG...", path);
-  EXPECT_TRUE(told.endsWith(path)) << told.toStdString();
+  EXPECT_TRUE(told.endsWith(path + "\nThe folder doesn't exist.")) << told.toStdString();
   EXPECT_FALSE(QFile::exists(path));
 }
 
@@ -200,10 +200,11 @@ TEST(DecimalComma, IsThatOfTheDrawnPanes) {
   const auto& library = SourceLibrary();
   const QTemporaryDir folder;
   DesktopPlatform platform;
-  Session session(library, platform, true, Folders{library->folder, folder.path().toStdString()});
+  NamedSession session(library, platform, true,
+                       Folders{library->folder, folder.path().toStdString()});
   session.Start();
   session.Focus("korvane");
-  const ResultPane results(session, ResultPane::Form::Short);
+  const ResultPane results(session, ResultPane::Length::Short);
   EXPECT_TRUE(results.Lines().join('\n').contains("IR = 0,37  <  1,00 (0,50L; Ch 12.2.6)"));
 
   DiagramPane plane(session, {"picmy"}, nullptr);

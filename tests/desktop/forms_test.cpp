@@ -64,9 +64,10 @@ TEST_P(FamilyWindow, OpensAndChanges) {
   } else {
     const Form& form = *FindForm(family.form);
     for (const Control& c : form.controls) {
-      if (c.kind != Kind::Input || !c.field.store) continue;
+      if (c.kind != Kind::Input || !c.field.IsNumber()) continue;
       auto& edit = On<QLineEdit>(window, c.name.c_str());
-      const std::string value = Format(c.field.read(session_.st()) * 1.01, c.field.format);
+      const std::string value =
+          Format(ReadInput(session_.st(), c.field.input) * 1.01, c.field.Format());
       TypeInto(edit, value.c_str());
       EXPECT_EQ(edit.text().toStdString(), value) << c.name;
       break;
@@ -139,7 +140,7 @@ TEST_F(DesktopTest, OptimiserMarksTheLightestRowAndTakesIt) {
   ASSERT_TRUE(window.isVisible());
   On<QCheckBox>(window, "cbp04").click();
   EXPECT_TRUE(On<QLabel>(window, "oname4").text().startsWith("IPE"));
-  EXPECT_EQ(OptimiserRowMark::Lightest(session_), 4);
+  EXPECT_EQ(LightestRow(session_.rows()), 4);
   On<QAbstractButton>(window, "op04").click();
   On<QPushButton>(window, "Command2").click();
   EXPECT_FALSE(window.isVisible());
@@ -160,7 +161,7 @@ bool HasInk(Pane& pane) {
 
 TEST_F(DesktopTest, ResultsOfAnotherSectionArePaledUntilACalculation) {
   Load("10");
-  desktop_->CloseForm("loading");
+  desktop_->CloseForm(*FindForm("loading"));
   Main().activateWindow();
   EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
   EXPECT_TRUE(HasInk(Results()));
@@ -170,7 +171,7 @@ TEST_F(DesktopTest, ResultsOfAnotherSectionArePaledUntilACalculation) {
   On<QAbstractButton>(Window("optroll"), "cbp04").click();
   ASSERT_NE(On<QLabel>(Main(), "obeam").text().toStdString().find("IPE"), std::string::npos);
   EXPECT_FALSE(HasInk(Results()));
-  desktop_->CloseForm("optroll");
+  desktop_->CloseForm(*FindForm("optroll"));
   Main().activateWindow();
   EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
   EXPECT_TRUE(HasInk(Results()));

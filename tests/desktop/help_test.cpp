@@ -214,25 +214,6 @@ TEST(HelpTablesTest, BrowsersHaveTheContentsList) {
   }
 }
 
-TEST(HelpTablesTest, RangesAreFoundByTrying) {
-  const ProjectState st = [] {
-    ProjectState s;
-    s.L = 6;
-    return s;
-  }();
-  EXPECT_EQ(RangeOf(Between(0.3, 2, ""), st).text, "0.3 to 2");
-  EXPECT_EQ(RangeOf(Between(100, 1500, ""), st).text, "100 to 1500");
-  EXPECT_EQ(RangeOf(AtLeast(0.05, ""), st).text, "at least 0.05");
-  EXPECT_EQ(RangeOf(Above(0, ""), st).text, "more than 0");
-  const auto below = [](const ProjectState& s, double v) { return v >= 100 && v < 1000 * s.L; };
-  const AcceptedRange distance = RangeOf(Accept(below, ""), st);
-  EXPECT_EQ(distance.text, "at least 100, less than 6000");
-  EXPECT_TRUE(distance.follows);
-  EXPECT_FALSE(RangeOf(AtLeast(50, ""), st).follows);
-  const auto anything = [](const ProjectState&, double) { return true; };
-  EXPECT_EQ(RangeOf(Accept(anything, ""), st).text, "any");
-}
-
 // --- Search -------------------------------------------------------------------------------------
 
 TEST(HelpBookTest, SearchFindsLateral) {
@@ -339,12 +320,14 @@ protected:
     const QUrl url = PageView().source();
     return url.fileName() + (url.hasFragment() ? QLatin1Char('#') + url.fragment() : QString());
   }
-  void Menu(const char* command) { desktop_->window().ActionOf(command)->trigger(); }
+  void Menu(const char* command) {
+    desktop_->window().ActionOf(*FindControl(*TheForms().main, command))->trigger();
+  }
 
   QTemporaryDir own_;
   DesktopPlatform platform_;
   std::shared_ptr<const Library> library_;
-  Session session_;
+  NamedSession session_;
   std::unique_ptr<Desktop> desktop_;
   std::unique_ptr<HelpDesk> desk_;
 };
@@ -370,7 +353,7 @@ TEST_F(HelpDeskTest, F1OpensThePageOfTheWindowInFront) {
   EXPECT_EQ(Place(), QStringLiteral("main-window.html#form-korvane"));
   desk_->viewer()->close();
   Menu("mnup04");
-  FormWindow* form = desktop_->WindowOf("p04");
+  FormWindow* form = desktop_->WindowOf(*FindForm("p04"));
   const auto inFront = [form] {
     form->activateWindow();
     return QApplication::activeWindow() == form;

@@ -138,7 +138,7 @@ TEST_F(DesktopTest, MnemonicsOpenTheMenus) {
        {std::pair{Qt::Key_F, "mnufile"}, std::pair{Qt::Key_P, "mnustiff"},
         std::pair{Qt::Key_R, "mnuprint"}, std::pair{Qt::Key_H, "mnuhelp"}}) {
     QTest::keyClick(&Main(), key, Qt::AltModifier);
-    QMenu* menu = Main().ActionOf(name)->menu();
+    QMenu* menu = ActionOf(name)->menu();
     EXPECT_TRUE(menu->isVisible()) << name;
     menu->close();
     QTest::keyClick(Main().menuBar(), Qt::Key_Escape);
@@ -148,17 +148,17 @@ TEST_F(DesktopTest, MnemonicsOpenTheMenus) {
     Main().activateWindow();
     QTest::keyClick(&Main(), key, Qt::AltModifier);
     EXPECT_TRUE(session_.IsOpen(form)) << form;
-    desktop_->CloseForm(form);
+    desktop_->CloseForm(*FindForm(form));
   }
 }
 
 TEST_F(DesktopTest, OpeningTheProfilesMenuLeavesManualCurves) {
   session_.st().ManualBucklingCurves = 1;
-  Main().ActionOf("mnufile")->menu()->popup({});
-  Main().ActionOf("mnufile")->menu()->close();
+  ActionOf("mnufile")->menu()->popup({});
+  ActionOf("mnufile")->menu()->close();
   EXPECT_EQ(int(session_.st().ManualBucklingCurves), 1);
-  Main().ActionOf("mnustiff")->menu()->popup({});
-  Main().ActionOf("mnustiff")->menu()->close();
+  ActionOf("mnustiff")->menu()->popup({});
+  ActionOf("mnustiff")->menu()->close();
   EXPECT_EQ(int(session_.st().ManualBucklingCurves), 0);
 }
 

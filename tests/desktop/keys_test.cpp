@@ -157,7 +157,8 @@ TEST(SearchOnTheScreen, ShowsItsProgressUnderAWaitCursor) {
   const auto& library = SourceLibrary();
   const QTemporaryDir folder;
   DesktopPlatform platform;
-  Session session(library, platform, false, Folders{library->folder, folder.path().toStdString()});
+  NamedSession session(library, platform, false,
+                       Folders{library->folder, folder.path().toStdString()});
   session.Start();
   Desktop desktop(session);
   MainWindow& window = desktop.window();
@@ -221,7 +222,7 @@ TEST_F(KeysTest, DefaultsAreKeptInTheOwnFolder) {
   On<QAbstractButton>(Window("setup"), "Command2").click();
   EXPECT_EQ(filesOf(session_.folders().own).size(), 1);
   EXPECT_EQ(filesOf(library_->folder), program);
-  Session next(library_, platform_, false, session_.folders());
+  NamedSession next(library_, platform_, false, session_.folders());
   next.Start();
   EXPECT_EQ(next.st().iufa, 0.8f);
 }

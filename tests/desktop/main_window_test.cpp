@@ -2,7 +2,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QToolButton>
@@ -29,10 +31,26 @@ TEST_F(DesktopTest, TypedLengthChangesResultLines) {
 
 TEST_F(DesktopTest, VerdictFailsWithTheLongMember) {
   Load("10");
-  EXPECT_EQ(Main().verdict().Word(), "OK");
+  EXPECT_EQ(Main().verdict().Word(), "passes");
   TypeInto(Field("il"), "15");
   EXPECT_EQ(Main().verdict().Word(), "FAILS");
   EXPECT_TRUE(Results().toolTip().contains("IR = "));
+}
+
+TEST_F(DesktopTest, AClickOnTheVerdictShowsItsNotes) {
+  Load("10");
+  TypeInto(Field("il"), "15");
+  QTest::mouseClick(&Main().verdict(), Qt::LeftButton);
+  auto* notes = Main().findChild<QDialog*>("verdict_notes");
+  ASSERT_NE(notes, nullptr);
+  EXPECT_TRUE(notes->isVisible());
+  EXPECT_TRUE(notes->findChild<QLabel*>()->text().contains("fails: "));
+  QTest::keyClick(notes, Qt::Key_Escape);
+  EXPECT_FALSE(notes->isVisible());
+  // The marked line is the one that governs.
+  ResultPane& lines = Results();
+  EXPECT_FALSE(lines.MarkRatio(Main().verdict().Figure()).isEmpty());
+  EXPECT_TRUE(lines.MarkRatio("999.00").isEmpty());
 }
 
 TEST_F(DesktopTest, FieldIsGreenWithFocusAndWhiteAfterwards) {
@@ -142,7 +160,7 @@ TEST_F(DesktopTest, OptimiserPanelOpensAndSearches) {
   ASSERT_TRUE(uls.isVisible());
   uls.click();
   EXPECT_GT(platform_.progress, 0);
-  EXPECT_EQ(Main().verdict().Word(), "OK");
+  EXPECT_EQ(Main().verdict().Word(), "passes");
 }
 
 TEST_F(DesktopTest, SaveAndOpenBringBackTheMember) {
@@ -157,8 +175,8 @@ TEST_F(DesktopTest, SaveAndOpenBringBackTheMember) {
   Menu("mnuopen");
   EXPECT_EQ(Field("il").text(), "6.500");
   EXPECT_EQ(Field("iproj").text(), "Warehouse");
-  EXPECT_TRUE(Main().ActionOf("mnurecentfile(1)")->isVisible());
-  EXPECT_TRUE(Main().ActionOf("mnurecentfile(1)")->text().endsWith("a.kvn"));
+  EXPECT_TRUE(ActionOf("mnurecentfile(1)")->isVisible());
+  EXPECT_TRUE(ActionOf("mnurecentfile(1)")->text().endsWith("a.kvn"));
 }
 
 TEST_F(DesktopTest, SavingTakesTheFieldInUse) {
@@ -184,7 +202,7 @@ TEST_F(DesktopTest, NewKeepsTheFieldTexts) {
 TEST_F(DesktopTest, EveryCommandHasItsCaptionAndRuns) {
   for (const Control& c : FindForm("korvane")->controls) {
     if (c.kind != Kind::Menu || c.caption == "-" || c.name == "mnuexit") continue;
-    QAction* action = Main().ActionOf(c.name);
+    QAction* action = ActionOf(c.name);
     ASSERT_NE(action, nullptr) << c.name;
     if (!c.text) {
       EXPECT_EQ(action->text().toStdString(), c.caption);

@@ -35,7 +35,8 @@ TEST(DesktopPlatformTest, MessageBoxDoesNotDisturbTheField) {
   const auto& library = SourceLibrary();
   const QTemporaryDir folder;
   DesktopPlatform platform;
-  Session session(library, platform, false, Folders{library->folder, folder.path().toStdString()});
+  NamedSession session(library, platform, false,
+                       Folders{library->folder, folder.path().toStdString()});
   session.Start();
   Desktop desktop(session);
   platform.SetWindow(&desktop.window());
@@ -98,7 +99,8 @@ TEST_F(DesktopTest, SplittersRememberTheirSizes) {
   const QList<int> sizes = split->sizes();
   Main().close();
   desktop_.reset();
-  Session next(library_, platform_, false, Folders{library_->folder, folder_.path().toStdString()});
+  NamedSession next(library_, platform_, false,
+                    Folders{library_->folder, folder_.path().toStdString()});
   next.Start();
   Desktop again(next);
   again.window().show();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The print commands through the dialog of the platform, into PDF files that are read back.
 #include <QApplication>
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -9,6 +10,7 @@
 #include <QRegularExpression>
 #include <QSpinBox>
 
+#include "core/files.h"
 #include "front/desktop/desktop_platform.h"
 #include "places.h"
 #include "tests/desktop/desktop_fixture.h"
@@ -77,6 +79,9 @@ protected:
       if (name != nullptr) name->setText(file);
       if (count != nullptr) count->setValue(copies);
       EXPECT_TRUE(name != nullptr && count != nullptr);
+      auto* checker = dialog->findChild<QCheckBox*>("withchecker");
+      ASSERT_NE(checker, nullptr);
+      checker->setChecked(withChecker_);
       QObject::connect(dialog, &QDialog::accepted, [&] { lastMoment_(); });
       if (accept) {
         dialog->accept();
@@ -85,18 +90,19 @@ protected:
       }
     });
     answer.start(20);
-    desktop_->window().ActionOf(command)->trigger();
+    desktop_->window().ActionOf(*FindControl(*TheForms().main, command))->trigger();
     QCoreApplication::processEvents();
     return asked;
   }
   QString Path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
 
   QString project_ = QStringLiteral(KORVANE_SOURCE_DIR "/tests/design/projects/f001.kvn");
+  bool withChecker_ = false;
   std::function<void()> lastMoment_ = [] {};  ///< runs when the dialog is accepted
   QTemporaryDir folder_;
   DesktopPlatform platform_;
   std::shared_ptr<const Library> library_;
-  Session session_;
+  NamedSession session_;
   std::unique_ptr<Desktop> desktop_;
 };
 
@@ -118,6 +124,36 @@ TEST_F(PrintTest, PaperSaysWhatTheConsoleReports) {
     EXPECT_EQ(lines.join('\n').toStdString(), LinesOf(report).join('\n').toStdString());
     EXPECT_EQ(PagesOf(paper), 1);
   }
+}
+
+TEST_F(PrintTest, TheBoxAddsTheCheckersSheet) {
+  withChecker_ = true;
+  ASSERT_TRUE(Print("mnuprint1", Path("checked.pdf"), 2, true));
+  EXPECT_EQ(PagesOf(Path("checked.pdf")), 4);
+  const QString text = LinesOf(Path("checked.pdf")).join('\n');
+  EXPECT_EQ(text.count("Member and supports"), 2);
+  withChecker_ = false;
+  ASSERT_TRUE(Print("mnuprint1", Path("plain.pdf"), 1, true));
+  EXPECT_EQ(PagesOf(Path("plain.pdf")), 1);
+}
+
+/// A PDF without the second that it was made in.
+std::string Timeless(const QString& path) {
+  std::string bytes = ReadWholeFile(path.toStdString()).value_or("");
+  const auto at = bytes.find("/CreationDate");
+  return at == std::string::npos ? "" : bytes.erase(at, bytes.find(')', at) - at);
+}
+
+TEST_F(PrintTest, DesktopAndConsoleMakeTheSamePdf) {
+  for (int attempt = 0; attempt < 3; ++attempt) {
+    ASSERT_TRUE(Print("mnuprint1", Path("desktop.pdf"), 1, true));
+    OutputOf(KORVANE_CLI,
+             {"report", project_, "--data", kData, "--kind", "control", "-o", Path("console.pdf")});
+    // Between two clocks of one minute nothing differs.
+    if (Timeless(Path("desktop.pdf")) == Timeless(Path("console.pdf"))) break;
+  }
+  EXPECT_FALSE(Timeless(Path("desktop.pdf")).empty());
+  EXPECT_EQ(Timeless(Path("desktop.pdf")) == Timeless(Path("console.pdf")), true);
 }
 
 TEST_F(PrintTest, EveryCopyIsAPage) {
@@ -146,7 +182,8 @@ TEST_F(PrintTest, FailingPrinterIsTold) {
   answer.start(20);
   ASSERT_TRUE(Print("mnuprint1", Path("gone/page.pdf"), 1, true));
   EXPECT_TRUE(QTest::qWaitFor([&] { return !platform_.HasMessages(); }, 3000));
-  EXPECT_EQ(told, "The printer does not take the page");
+  EXPECT_EQ(told, "The page could not be written to\n" + Path("gone/page.pdf") +
+                      "\nThe folder doesn't exist.");
 }
 
 TEST_F(PrintTest, CancelSaysNothingAndWritesNothing) {

@@ -97,7 +97,7 @@ TEST(DamagedDatabase, CutAnywhereItHasItsCompleteRows) {
     const TempFolder folder;
     PutFile(folder / "korvane.db", text.substr(0, size));
     testing::RememberingPlatform platform;
-    Session s(SourceLibrary(), platform, false, OwnFolder(folder));
+    NamedSession s(SourceLibrary(), platform, false, OwnFolder(folder));
     s.Start();
     // The last line counts without its line end.
     const int complete = size + 2 >= 2 * row.size() ? 2 : size + 2 >= row.size() ? 1 : 0;

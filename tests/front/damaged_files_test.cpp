@@ -158,7 +158,7 @@ TEST(Vanishing, AProjectBetweenDialogAndReadIsToldAndChangesNothing) {
   }
   const std::string whole = GetFile(project);
   FleetingPlatform platform;
-  Session s(SourceLibrary(), platform, false);
+  NamedSession s(SourceLibrary(), platform, false);
   s.Start();
   s.Focus("korvane");
   platform.afterDialog = [&] { fs::remove(project); };
@@ -166,7 +166,7 @@ TEST(Vanishing, AProjectBetweenDialogAndReadIsToldAndChangesNothing) {
   s.Menu("mnuopen");
   EXPECT_EQ(platform.messages, Strings{"can't find file - " + project});
   EXPECT_EQ(s.st().L, 5.0);
-  EXPECT_EQ(s.RecentFile(1), "");
+  EXPECT_EQ(s.files().Recent(1), "");
   PutFile(project, whole);
   platform.afterDialog = [&] { fs::resize_file(project, whole.size() / 3); };
   platform.answers.emplace_back(project);
@@ -197,9 +197,9 @@ TEST(RecentFile, ThatIsGoneIsToldAndTheOthersStay) {
   r.session.Menu("mnurecentfile(3)");
   EXPECT_EQ(r.platform.messages, Strings{"can't find file - " + (folder / "a.kvn")});
   EXPECT_EQ(r.st().L, 8.0);
-  EXPECT_EQ(r.session.RecentFile(1), folder / "a.kvn");
-  EXPECT_EQ(r.session.RecentFile(2), folder / "c.kvn");
-  EXPECT_EQ(r.session.RecentFile(3), folder / "b.kvn");
+  EXPECT_EQ(r.session.files().Recent(1), folder / "a.kvn");
+  EXPECT_EQ(r.session.files().Recent(2), folder / "c.kvn");
+  EXPECT_EQ(r.session.files().Recent(3), folder / "b.kvn");
   EXPECT_EQ(GetFile(folder / "b.kvn"), before);
   r.session.Menu("mnurecentfile(3)");
   EXPECT_EQ(r.st().L, 4.0);
@@ -235,7 +235,7 @@ public:
 TEST(SettingsStore, ThatKeepsNothingStopsNoCommand) {
   const TempFolder folder;
   ForgettingPlatform platform;
-  Session s(SourceLibrary(), platform, false);
+  NamedSession s(SourceLibrary(), platform, false);
   s.Start();
   s.Focus("korvane");
   s.Enter("il", "6");
@@ -284,7 +284,7 @@ TEST(MissingDefaults, FailTheFirstCalculationAndNotTheStart) {
   const TempFolder folder;
   const auto library = LibraryWith(folder, "default_ns.dat", std::nullopt);
   testing::RememberingPlatform platform;
-  Session s(library, platform, false);
+  NamedSession s(library, platform, false);
   ASSERT_NO_THROW(s.Start());
   EXPECT_TRUE(platform.messages.empty());
   // There is no material factor in the program.
@@ -306,7 +306,7 @@ TEST(DamagedMaterials, LeaveTheTypedStress) {
     const std::string name = text ? "the first " + std::to_string(text->size()) : "missing";
     const auto library = LibraryWith(folder, "NSmat.dat", text);
     testing::RememberingPlatform platform;
-    Session s(library, platform, false);
+    NamedSession s(library, platform, false);
     ASSERT_NO_THROW(s.Start()) << name;
     ASSERT_NO_THROW(s.Focus("korvane")) << name;
     // The sixth grade is that of the defaults; its stress stands in them, too.

@@ -46,6 +46,8 @@ TEST(Loading, TogglesStepThroughTheirCodesAndCaptions) {
   r.session.Click("ipm_yz(1)");
   EXPECT_EQ(r.session.Text("ipm_yz(1)"), "Mz");
   EXPECT_EQ(r.st().pm_yz[1], 0);
+  r.session.Click("ipm_yz(1)");
+  EXPECT_EQ(r.st().pm_yz[1], 1);
 }
 
 TEST(Loading, RelativePositionsAreStoredInMetres) {
@@ -58,6 +60,26 @@ TEST(Loading, RelativePositionsAreStoredInMetres) {
   EXPECT_FALSE(r.session.Enter("ipmx(2)", "1.01"));
   EXPECT_EQ(r.platform.messages.back(), " 0 < x <= 1 ");
   EXPECT_EQ(r.st().pmx[2], 0.0);
+}
+
+TEST(Forms, AreClosedByAButtonThatSaysOk) {
+  int buttons = 0;
+  for (const Form& form : AllForms()) {
+    if (const Control* ok = FindControl(form, "ok")) {
+      EXPECT_EQ(ok->caption, "OK") << form.name;
+      ++buttons;
+    }
+  }
+  EXPECT_GE(buttons, 8);
+}
+
+TEST(Points, AreRelativeWhileTheFlagIsOne) {
+  Running r;
+  r.session.Show("chpoints");
+  r.session.Click("cprelative");
+  EXPECT_EQ(r.st().cp_relative, 1);
+  r.session.Click("cpabsolute");
+  EXPECT_EQ(r.st().cp_relative, 0);
 }
 
 TEST(Loading, RemoveAllLoadsKeepsTheFactors) {
@@ -173,19 +195,19 @@ TEST(RecentFiles, SaveAsPushesOpenPromotesSaveDoesNeither) {
     r.platform.answers.emplace_back(path(name));
     r.session.Menu("mnusaveas");
   }
-  EXPECT_EQ(r.session.RecentFile(1), path("c.kvn"));
-  EXPECT_EQ(r.session.RecentFile(3), path("a.kvn"));
+  EXPECT_EQ(r.session.files().Recent(1), path("c.kvn"));
+  EXPECT_EQ(r.session.files().Recent(3), path("a.kvn"));
   r.session.Menu("mnusave");
-  EXPECT_EQ(r.session.RecentFile(1), path("c.kvn"));
+  EXPECT_EQ(r.session.files().Recent(1), path("c.kvn"));
   r.session.Menu("mnurecentfile(3)");
-  EXPECT_EQ(r.session.RecentFile(1), path("a.kvn"));
-  EXPECT_EQ(r.session.RecentFile(2), path("c.kvn"));
+  EXPECT_EQ(r.session.files().Recent(1), path("a.kvn"));
+  EXPECT_EQ(r.session.files().Recent(2), path("c.kvn"));
   EXPECT_EQ(r.session.Text("korvane.mnurecentfile(1)"), "&1 " + path("a.kvn"));
   EXPECT_EQ(r.session.Title("korvane"), "KORVANE-NS3472: " + path("a.kvn"));
   r.platform.answers.emplace_back(path("b.kvn"));
   r.session.Menu("mnuopen");
-  EXPECT_EQ(r.session.RecentFile(1), path("b.kvn"));
-  EXPECT_EQ(r.session.RecentFile(3), path("c.kvn"));
+  EXPECT_EQ(r.session.files().Recent(1), path("b.kvn"));
+  EXPECT_EQ(r.session.files().Recent(3), path("c.kvn"));
 }
 
 /// What the four entries hold after a command, one letter each.
@@ -203,7 +225,7 @@ std::string RecentAfter(const TempFolder& folder, const char* saved, const std::
   }
   std::string letters;
   for (int k = 1; k <= 4; ++k) {
-    const std::string name = std::filesystem::path(r.session.RecentFile(k)).stem();
+    const std::string name = std::filesystem::path(r.session.files().Recent(k)).stem();
     letters += name.empty() ? "-" : name;
   }
   return letters;
@@ -250,7 +272,7 @@ TEST(Files, CancelChangesNothing) {
   EXPECT_TRUE(r.platform.messages.empty());
 }
 
-TEST(Files, OpeningClosesTheFamilyForms) {
+TEST(Files, OpeningClosesTheFormsWithInputs) {
   const TempFolder folder;
   Running r;
   r.platform.answers.emplace_back(folder.Path() + "/a.kvn");
@@ -260,7 +282,7 @@ TEST(Files, OpeningClosesTheFamilyForms) {
   r.platform.answers.emplace_back(folder.Path() + "/a.kvn");
   r.session.Menu("mnuopen");
   EXPECT_FALSE(r.session.IsOpen("p21"));
-  EXPECT_TRUE(r.session.IsOpen("loading"));
+  EXPECT_FALSE(r.session.IsOpen("loading"));
   EXPECT_EQ(r.st().ProfileType, 1);
 }
 

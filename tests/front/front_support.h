@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "front/session.h"
+#include "front/named_session.h"
 #include "tests/support/source_library.h"
 
 namespace korvane::testing {
@@ -29,10 +29,13 @@ public:
     ++printDialogs;
     return print;
   }
-  void Print(const Design&, int kind, int copies) override { printed.push_back({kind, copies}); }
+  void Print(const Design&, int kind, const PrintJob& job) override {
+    printed.push_back({kind, job.copies});
+    notices.push_back(job.notice);
+  }
   void OpenHelp(const std::string& topic) override { help.push_back(topic); }
 
-  std::vector<std::string> messages, filters, help;
+  std::vector<std::string> messages, filters, help, notices;
   std::deque<std::optional<std::string>> answers;
   std::optional<PrintJob> print;
   std::vector<std::pair<int, int>> printed;
@@ -57,7 +60,7 @@ struct Running {
   }
   ProjectState& st() { return session.st(); }
   RememberingPlatform platform;
-  Session session;
+  NamedSession session;
 };
 
 /// The choices by which the form shows and enables every field that it has.

@@ -342,7 +342,7 @@ TEST(InputVariants, RelativePositionsAndTheCantileverHaveTheirOwnLimits) {
     const FieldRule& rule = FindControl(*FindForm(c.form), c.control)->field;
     // A position is read as the share of the 5 m.
     const bool position = std::string(c.form) != "vipping";
-    EXPECT_NEAR(rule.read(st) * (position ? 5.0 : 1.0), c.stored, 1e-6) << where;
+    EXPECT_NEAR(ReadInput(st, rule.input) * (position ? 5.0 : 1.0), c.stored, 1e-6) << where;
     EXPECT_EQ(r.session.Green(c.control), !accepted) << where;
     EXPECT_EQ(r.platform.messages,
               accepted ? std::vector<std::string>{} : std::vector<std::string>{c.message})

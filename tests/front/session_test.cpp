@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The life of the main window: start, fields, pictures, toggles, commands, failures.
-#include "front/session.h"
-
 #include <gtest/gtest.h>
 
+#include "front/named_session.h"
 #include "sections/profile_table.h"
 #include "tests/front/front_support.h"
 #include "tests/support/source_library.h"
@@ -15,7 +14,7 @@ using testing::Running;
 
 TEST(Start, NoCalculationRunsBeforeTheMainWindowHasTheFocus) {
   testing::RememberingPlatform platform;
-  Session s(SourceLibrary(), platform, false);
+  NamedSession s(SourceLibrary(), platform, false);
   s.Start();
   EXPECT_EQ(s.Calculations(), 0);
   EXPECT_EQ(s.Title("korvane"), "KORVANE-NS3472: ");

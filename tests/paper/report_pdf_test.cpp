@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <sstream>
 
 #include "core/files.h"
 #include "front/console/run_design.h"
@@ -116,8 +117,25 @@ TEST_P(ReportPdf, CarriesItsTitleAndTheProject) {
   const auto first = ReadWholeFile(attached).value_or("");
   const auto second = ReadWholeFile(project_).value_or("");
   EXPECT_FALSE(first.empty());
-  // The design may change the project (loads that a family can't carry); its head is the same.
-  EXPECT_EQ(first.substr(0, 40), second.substr(0, 40));
+  EXPECT_EQ(first, second);
+  EXPECT_NE(info.find("Subject:         Design of a steel member to NS 3472"), std::string::npos);
+  EXPECT_NE(info.find("Author:          KORVANE NS3472 3.9"), std::string::npos);
+  const auto bytes = ReadWholeFile(pdf).value_or("");
+  EXPECT_NE(bytes.find("/Lang (en)"), std::string::npos);
+}
+
+TEST_P(ReportPdf, HasItsFontsInside) {
+  TextOf("all");
+  std::istringstream fonts(OutputOf("pdffonts " + (folder_ / "all").string() + ".pdf"));
+  std::string line;
+  int rows = 0;
+  while (std::getline(fonts, line)) {
+    // Two lines of heading, then: name, type, encoding, embedded, subset, unicode.
+    if (++rows > 2) {
+      EXPECT_NE(line.find(" yes "), std::string::npos) << line;
+    }
+  }
+  EXPECT_GT(rows, 2);
 }
 
 std::vector<int> AllCodes() {

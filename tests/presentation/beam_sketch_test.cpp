@@ -168,6 +168,7 @@ TEST(BeamSketch, StaysInsideItsHeightWithEverythingOn) {
     const RecordingTarget t = Drawn(st);
     const Box page{0, 0, kPictureWidth, BeamSketchHeight(st, kStyle)};
     EXPECT_TRUE(page.Contains(t.Bounds().value(), 1e-9)) << type;
+    for (const auto& [a, b] : t.OverlappingTexts(0.02)) ADD_FAILURE() << a << " over " << b;
     EXPECT_TRUE(t.OverlappingTexts(0.02).empty()) << type;
   }
 }

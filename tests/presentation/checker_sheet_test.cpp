@@ -8,7 +8,7 @@
 #include <set>
 
 #include "core/calculation.h"
-#include "core/project_fields.h"
+#include "core/input_fields.h"
 #include "presentation/aprint.h"
 #include "presentation/checker_rows.h"
 #include "sections/profile_table.h"
@@ -208,12 +208,11 @@ TEST_P(CheckerSheet, ShowsEveryInputThatTheDesignUses) {
   EXPECT_GT(used, 10);
 }
 
-/// What a family is meant to keep of the section before, by the symbols that show it: the root
-/// radius of UNP, the class and klt of single symmetric I sections, the thickness that governs fy
+/// What a family is meant to keep of the section before, by the symbols that show it: the
+/// class and klt of single symmetric I sections, the thickness that governs fy
 /// of T sections, the surface of a flat bar.
 bool Kept(int family, const std::string& symbol) {
   const std::map<int, std::set<std::string>> kept{
-      {16, {"r", "d", "Avz", "Vdz", "Vdz line", "IR Vz"}},
       {22, {"class", "klt", "ky", "IR first", "IR second"}},
       {26, {"tmax"}},
       {28, {"g"}},

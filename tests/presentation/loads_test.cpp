@@ -370,6 +370,24 @@ TEST(PointLoads, HeadsOfAFlattenedPictureKeepTheirSize) {
   EXPECT_NEAR(head(0.5, 2), 1.7, 1e-6);
 }
 
+TEST(PointLoads, MomentsOfOnePositionStandSideBySide) {
+  ProjectState st = Unloaded();
+  st.L = 6.0;
+  for (int i = 1; i <= 3; ++i) {
+    st.pm[i] = 10.0 * i;
+    st.pmx[i] = 3.0;
+    st.pm_pm[i] = 1;
+  }
+  RecordingTarget t;
+  DrawLoads(t, {}, st, Plane::Z, false, kStyle);
+  const auto arcs = t.OfKind(ShapeKind::Arc);
+  ASSERT_EQ(arcs.size(), 3U);
+  for (std::size_t i = 1; i < arcs.size(); ++i) {
+    EXPECT_GT(arcs[i]->centre.x - arcs[i - 1]->centre.x, arcs[i]->rx + arcs[i - 1]->rx);
+  }
+  for (const char* value : {"10.0", "20.0", "30.0"}) EXPECT_EQ(t.Count(value), 1);
+}
+
 TEST(AxialLoads, TensionPointsAway) {
   ProjectState st = Unloaded();
   st.NP = -40;

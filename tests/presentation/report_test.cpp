@@ -7,6 +7,7 @@
 #include "core/calculation.h"
 #include "core/text.h"
 #include "presentation/aprint.h"
+#include "presentation/page.h"
 #include "presentation/recording_target.h"
 #include "sections/profile_table.h"
 #include "sections/shown_values.h"
@@ -185,6 +186,22 @@ RecordingTarget Drawn(const Design& d, Report report) {
   return page;
 }
 
+TEST(Report, ANoticeStandsAboveTheFrame) {
+  const Design d = Designed({1, false, Report::SectionProperty});
+  for (const Report report :
+       {Report::SectionProperty, Report::SectionAndStability, Report::Checker}) {
+    RecordingTarget page;
+    DrawReport(page, report, d, {}, "not calculated: L 0.010 m is refused");
+    const RecordedShape* notice = page.FindText("not calculated: L 0.010 m is refused");
+    ASSERT_NE(notice, nullptr);
+    EXPECT_EQ(notice->style.colour, Role::Fail);
+    const RecordedShape* name = page.FindText("KORVANE NS3472");
+    ASSERT_NE(name, nullptr);
+    EXPECT_LT(notice->box.bottom, name->box.top);
+    EXPECT_EQ(name->style.colour, Role::Ink);
+  }
+}
+
 TEST(Report, ChannelsHaveABlankBeforeTheirSize) {
   for (const auto& [family, line] : {std::pair{5, "  UPE "}, std::pair{16, "  UNP "}}) {
     const Design d = Designed({family, false, Report::SectionProperty});
@@ -326,6 +343,144 @@ TEST(Report, WeightIsPrintedUnderGAndSurfaceUnderS) {
     named |= s->text == "g" && std::abs(s->box.top - weight->box.top) < 0.1;
   }
   EXPECT_TRUE(named);
+}
+
+bool HasText(const RecordingTarget& page, const std::string& part) {
+  const auto texts = page.Texts();
+  return std::any_of(texts.begin(), texts.end(),
+                     [&](const std::string& t) { return t.find(part) != std::string::npos; });
+}
+
+TEST(Report, ManualInputIsSaidOnlyWhereTypedFactorsAreUsed) {
+  Design d(SourceLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 1;
+  d.st.q1 = 5.0;
+  d.st.LateralTorsionalBuckling = 1;
+  d.st.CFactorManual = 1;
+  const auto said = [&d] {
+    Calculate(d);
+    return HasText(Drawn(d, Report::SectionAndStability), "   (Manual input);");
+  };
+  EXPECT_TRUE(said());
+  d.st.LtbSegments = 2;
+  EXPECT_FALSE(said());
+  d.st.LtbSegments = 0;
+  d.st.AnalysisMode = 0;
+  EXPECT_FALSE(said());
+}
+
+// The narrow bottom flange reduces most where it is compressed, though little moment acts there.
+TEST(Report, TheLeastDesignMomentStandsBesideAnother) {
+  Design d(SourceLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 22;
+  d.st.p22_b2 = 100.0;
+  d.st.L = 12.0;
+  d.st.AnalysisMode = 0;
+  d.st.My_end[1] = 100.0;
+  d.st.My_end[2] = -20.0;
+  d.st.LateralTorsionalBuckling = 1;
+  Calculate(d);
+  ASSERT_EQ(double(d.ltb.Mdb), double(d.ltb.Mdb_min));
+  EXPECT_FALSE(HasText(Drawn(d, Report::SectionAndStability), "Mdb_min"));
+  d.st.LtbSegments = 2;
+  Calculate(d);
+  ASSERT_NE(double(d.ltb.Mdb), double(d.ltb.Mdb_min));
+  EXPECT_TRUE(HasText(Drawn(d, Report::SectionAndStability), "Mdb_min = "));
+}
+
+TEST(Report, AFailingLineIsBoldAndMarked) {
+  Design d(SourceLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 1;
+  d.st.q1 = 5.0;
+  Calculate(d);
+  ASSERT_LT(d.checks.IRsection, 1);
+  EXPECT_EQ(Drawn(d, Report::SectionAndStability).Count("> "), 0);
+  d.st.q1 = 200.0;
+  Calculate(d);
+  ASSERT_GT(d.checks.IRsection, 1);
+  const RecordingTarget page = Drawn(d, Report::SectionAndStability);
+  EXPECT_GT(page.Count("> "), 0);
+  const CheckLine& line = d.checks.lineSection;
+  const RecordedShape* printed = page.FindText(line.formula + line.numbers);
+  ASSERT_NE(printed, nullptr);
+  EXPECT_TRUE(printed->style.bold);
+  EXPECT_TRUE(HasText(page, "fails: The greatest ratio"));
+}
+
+TEST(Report, LongNamesWrapAndLoseTheirEndOnlyWithDots) {
+  Design d = Designed({1, false, Report::SectionProperty});
+  d.st.iproj = "Extension of the assembly hall at the harbour, block B, phase 3";
+  const RecordingTarget page = Drawn(d, Report::SectionProperty);
+  EXPECT_EQ(page.Count(d.st.iproj), 0);
+  std::string whole;
+  for (const std::string& text : page.Texts()) {
+    if (d.st.iproj.find(text) != std::string::npos && text.size() > 5) whole += text;
+  }
+  EXPECT_EQ(whole, d.st.iproj);
+  d.st.iident = std::string(400, 'm');
+  const RecordingTarget cut = Drawn(d, Report::SectionProperty);
+  EXPECT_TRUE(HasText(cut, "mm..."));
+  for (const RecordedShape* s : cut.OfKind(ShapeKind::Text)) EXPECT_GE(s->style.size, 6) << s->text;
+}
+
+// Every load in use, each at the greatest size that forms are typed with, and far beyond it.
+TEST(Report, GreatLoadsStayInTheirColumnsAndOnThePage) {
+  for (const double factor : {1.0, 9999.9, 1E6}) {
+    for (const int family : {22, 27, 51}) {
+      Design d(SourceLibrary());
+      StartDesign(d);
+      d.st.ProfileType = family;
+      LoadFully(d.st);
+      for (float32* load : {&d.st.q1, &d.st.q2, &d.st.q3, &d.st.q4, &d.st.qt1_1, &d.st.qt1_2,
+                            &d.st.qt2_1, &d.st.qt2_2, &d.st.qt3_1, &d.st.qt3_2, &d.st.NV1}) {
+        *load = *load * factor;
+      }
+      for (int i = 1; i <= 8; ++i) d.st.pm[i] = d.st.pm[i] * -factor;
+      SCOPED_TRACE(family);
+      ASSERT_NO_THROW(Calculate(d)) << factor;
+      const RecordingTarget page = Drawn(d, Report::SectionAndStability);
+      const auto bounds = page.Bounds();
+      ASSERT_TRUE(bounds.has_value());
+      EXPECT_GE(bounds->left, 0) << family << " " << factor;
+      EXPECT_LE(bounds->right, kPageWidth - 20) << family << " " << factor;
+      EXPECT_LE(bounds->bottom, kPageHeight) << family << " " << factor;
+      for (const RecordedShape* s : page.OfKind(ShapeKind::Text)) {
+        EXPECT_TRUE(factor > 1E5 || s->style.size >= 5.99) << s->text;
+      }
+      if (factor > 1E5) continue;
+      for (const auto& [first, second] : page.OverlappingTexts(1.5)) {
+        ADD_FAILURE() << family << " " << factor << ": '" << first << "' over '" << second << "'";
+      }
+    }
+  }
+}
+
+TEST(Report, NumbersAreShortBeyondTwelveDigits) {
+  EXPECT_EQ(ShortNumbers("N = 999999999999.9 kN"), "N = 999999999999.9 kN");
+  EXPECT_EQ(ShortNumbers("= -1234567890123.4/12.5 +"), "= -1.235E+12/12.5 +");
+  EXPECT_EQ(ShortNumbers("0.12345678901234"), "0.12345678901234");
+  EXPECT_EQ(ShortNumbers(""), "");
+}
+
+TEST(Report, AnOverloadedFlangeIsTold) {
+  Design d(SourceLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 24;
+  d.st.q1 = 5.0;
+  Calculate(d);
+  EXPECT_FALSE(HasText(Drawn(d, Report::SectionProperty), "overloaded"));
+  // 1.5*5000/2*60 = 225,000 on a flange that carries 1.75*355/1.1*15^2/6 = 21,179.
+  d.st.q1 = 5000.0;
+  Calculate(d);
+  Calculate(d);
+  EXPECT_EQ(int(d.st.HsqKind), 1);
+  EXPECT_TRUE(HasText(Drawn(d, Report::SectionProperty), "(incl loadf) - removed: overloaded"));
+  d.st.q1 = 5.0;
+  Calculate(d);
+  EXPECT_FALSE(HasText(Drawn(d, Report::SectionProperty), "overloaded"));
 }
 
 }  // namespace

@@ -61,14 +61,19 @@ inline Blocks ReadChecker(const RecordingTarget& page) {
   return blocks;
 }
 
+/// The ratio of a line is in its colour; a failing line is bold as a whole.
+inline bool IsRatio(const RecordedShape& text) {
+  return text.style.bold && text.style.colour != Role::Ink;
+}
+
 /// The lines of both controls on the control report.
 inline std::vector<Line> ReadCheckLines(const RecordingTarget& page) {
   std::vector<Line> lines;
   std::string pending;
   for (const auto& print : LinesOfPrint(page)) {
     std::string text;
-    std::size_t i = 0;
-    while (i < print.size() && !print[i]->style.bold) text += print[i++]->text;
+    std::size_t i = print.front()->text == "> " ? 1 : 0;
+    while (i < print.size() && !IsRatio(*print[i])) text += print[i++]->text;
     if (text.rfind("IR =", 0) == 0 && i == print.size()) {
       pending = text;
       continue;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// korvane_soak ACTIONS SEED: so many random actions on the program without a window, on files of
-// a folder of its own. Fails when anything is thrown that a person must not meet, or when the
-// heap has grown between the half and the end.
+// korvane_soak ACTIONS SEED [PERSONS]: so many random actions on the program without a window, on
+// files of a folder of its own; of so many persons, each by the next seed. Fails when anything is
+// thrown that a person must not meet, when a field shows another value than the state's, or when
+// the heap has grown between the half and the end.
 #include <malloc.h>
 #include <unistd.h>
 
@@ -115,10 +116,10 @@ void Report(const SoakCounts& c, const Sample& half, const Sample& end, double s
               half.running, end.running, half.ended, end.ended);
 }
 
-int Soak(long actions, unsigned seed) {
+int Soak(const std::shared_ptr<const Library>& library, long actions, unsigned seed, bool alone) {
   const Folder folder;
   const SoakFiles files = folder.Files();
-  RandomPerson person(ReadLibrary(KORVANE_SOURCE_DIR "/data"), files, seed);
+  RandomPerson person(library, files, seed);
   const auto start = std::chrono::steady_clock::now();
   Sample half{};
   for (long k = 0; k < actions; ++k) {
@@ -132,6 +133,7 @@ int Soak(long actions, unsigned seed) {
   }
   const Sample end = Measure(person);
   const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+  if (!alone) return 0;
   Report(person.Counts(), half, end, time.count());
   if (std::labs(end.running - half.running) > kSessionSpread ||
       std::labs(end.ended - half.ended) > kSpread) {
@@ -146,5 +148,12 @@ int Soak(long actions, unsigned seed) {
 int main(int argc, char** argv) {
   const long actions = argc > 1 ? std::atol(argv[1]) : 5000;
   const unsigned seed = argc > 2 ? static_cast<unsigned>(std::atol(argv[2])) : 1;
-  return Soak(actions, seed);
+  const long persons = argc > 3 ? std::atol(argv[3]) : 1;
+  const auto library = ReadLibrary(KORVANE_SOURCE_DIR "/data");
+  for (long k = 0; k < persons; ++k) {
+    const int status = Soak(library, actions, seed + static_cast<unsigned>(k), persons == 1);
+    if (status != 0) return status;
+  }
+  if (persons > 1) std::printf("%ld persons with %ld actions each\n", persons, actions);
+  return 0;
 }

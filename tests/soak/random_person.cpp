@@ -58,8 +58,9 @@ RandomPerson::RandomPerson(std::shared_ptr<const Library> library, const SoakFil
 
 void RandomPerson::StartSession() {
   platform_ = std::make_unique<SoakPlatform>(dice_, files_, counts_);
-  session_ = std::make_unique<Session>(library_, *platform_, dice_.Chance(30),
-                                       Folders{library_->folder, files_.folder});
+  session_ = std::make_unique<NamedSession>(library_, *platform_, dice_.Chance(30),
+                                            Folders{library_->folder, files_.folder});
+  newProject_ = false;
   ++counts_.sessions;
   try {
     session_->Start();
@@ -120,7 +121,7 @@ void RandomPerson::Do() {
 }
 
 std::optional<RandomPerson::Target> RandomPerson::Find(std::initializer_list<Kind> kinds) {
-  const std::vector<std::string>& open = session_->OpenForms();
+  const std::vector<std::string> open = session_->OpenForms();
   const bool top = dice_.Chance(80);
   const std::string& name =
       top ? open.back()
@@ -187,8 +188,10 @@ void RandomPerson::Command() {
   for (const Control& c : main->controls) {
     if (c.kind == Kind::Menu) commands.push_back(&c);
   }
-  session_->Menu(
-      commands[static_cast<std::size_t>(dice_.Below(static_cast<int>(commands.size())))]->name);
+  const Control& command =
+      *commands[static_cast<std::size_t>(dice_.Below(static_cast<int>(commands.size())))];
+  newProject_ = newProject_ || &command == TheForms().onMain.mnunew;
+  session_->Menu(command.name);
 }
 
 /// Comes back to a form, or closes the one on top; the main window only now and then.
@@ -208,15 +211,16 @@ void RandomPerson::MoveBetweenForms() {
 void RandomPerson::UseFiles() {
   switch (dice_.Below(5)) {
     case 0:
-      return session_->OpenCommand();
+      return session_->files().Open();
     case 1:
-      return session_->SaveAsCommand();
+      return session_->files().SaveAs();
     case 2:
-      return session_->SaveCommand();
+      return session_->files().Save();
     case 3:
-      return session_->OpenRecent(dice_.Between(1, 4));
+      return session_->files().OpenRecent(dice_.Between(1, 4));
     default:
-      return session_->NewCommand();
+      newProject_ = true;
+      return session_->files().New();
   }
 }
 
@@ -237,7 +241,21 @@ void RandomPerson::LookAtForm() {
   }
 }
 
+void RandomPerson::CheckFields() const {
+  const Session& s = *session_;
+  for (const Form* form : s.OpenForms()) {
+    for (const Control& c : form->controls) {
+      if (!c.field.IsNumber() || c.text || &c == s.FocusedField() || !s.Visible(c)) continue;
+      const std::string state = s.Shown(ReadInput(s.st(), c.field.input), c.field.Format());
+      const std::string shown = s.Text(c);
+      if (shown == state || (newProject_ && form == TheForms().main && s.Marked(c))) continue;
+      throw std::logic_error(AddressOf(c) + " shows " + shown + " for " + state);
+    }
+  }
+}
+
 void RandomPerson::CheckWhatIsSeen() const {
+  CheckFields();
   if (!session_->Ended() && session_->OpenForms().empty()) throw std::logic_error("no form open");
   const Design& d = session_->design();
   for (const CheckLine* line : {&d.checks.lineSection, &d.checks.lineBucklingY}) {

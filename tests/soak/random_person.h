@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "../design/random_states.h"
-#include "front/session.h"
+#include "front/named_session.h"
 
 namespace korvane {
 
@@ -82,6 +82,9 @@ private:
   void UseFiles();
   void KeysInField();
   void CheckWhatIsSeen() const;
+  /// Each visible number of the open forms is the state's, but the one in use and those that New
+  /// has left.
+  void CheckFields() const;
 
   /// A control of one of the kinds on an open form, mostly the top one; none when there is none.
   std::optional<Target> Find(std::initializer_list<Kind> kinds);
@@ -92,7 +95,8 @@ private:
   Dice dice_;
   SoakCounts counts_;
   std::unique_ptr<SoakPlatform> platform_;
-  std::unique_ptr<Session> session_;
+  std::unique_ptr<NamedSession> session_;
+  bool newProject_ = false;  ///< New was chosen in this session
 };
 
 }  // namespace korvane

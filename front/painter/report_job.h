@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The sheets of a project as one job, so that the console program and the windows make the same
+// PDF.
+#pragma once
+
+#include "front/painter/paint_files.h"
+#include "presentation/aprint.h"
+
+namespace korvane {
+
+/// A project as it goes with its sheets.
+struct AttachedProject {
+  std::string name, bytes;
+};
+
+/// The design must outlive the job. The title is that of the last report, with project and
+/// identification; the notice stands at the head of each page.
+inline PaintJob ReportJob(const Design& design, const std::vector<Report>& reports,
+                          const ReportTime& time, AttachedProject project,
+                          const std::string& notice = {}) {
+  PaintJob job;
+  job.width = kPageWidth;
+  job.height = kPageHeight;
+  for (const Report report : reports) {
+    if (job.title.empty() || report != Report::Checker) job.title = ReportTitle(report);
+    job.pages.emplace_back([&design, report, time, notice](DrawingTarget& page) {
+      DrawReport(page, report, design, time, notice);
+    });
+  }
+  job.title += " - " + design.st.iproj + " - " + design.st.iident;
+  job.subject = "Design of a steel member to NS 3472";
+  job.attachmentName = std::move(project.name);
+  job.attachment = std::move(project.bytes);
+  return job;
+}
+
+}  // namespace korvane

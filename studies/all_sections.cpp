@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "studies/all_sections.h"
+
+#include <algorithm>
+
+#include "checks/results.h"
+#include "sections/names.h"
+#include "studies/member.h"
+#include "studies/result_columns.h"
+
+namespace korvane {
+
+namespace {
+
+std::vector<CatalogueSize> MakeSizes() {
+  std::vector<CatalogueSize> sizes;
+  for (const Family& family : AllFamilies()) {
+    for (const FamilyCatalogue& catalogue : family.catalogues) {
+      for (int row = 0; row < ListLength(catalogue.cat); ++row) {
+        sizes.push_back({&family, &catalogue, row, false});
+        if (CanBeTurned(catalogue)) sizes.push_back({&family, &catalogue, row, true});
+      }
+    }
+  }
+  return sizes;
+}
+
+/// "RHS 50x30x3" with h and b exchanged.
+std::string TurnedName(const std::string& name) {
+  const auto digit = name.find_first_of("0123456789");
+  const auto first = name.find('x', digit);
+  const auto second = name.find('x', first + 1);
+  if (second == std::string::npos) return name;
+  return name.substr(0, digit) + name.substr(first + 1, second - first - 1) + "x" +
+         name.substr(digit, first - digit) + name.substr(second);
+}
+
+/// Names without the blank that stands for the sign of each number.
+std::string NameOf(const ProjectState& st, const CatalogueSize& size, const Catalogues& cat) {
+  std::string name = SectionTitle(st, cat);
+  for (std::size_t at = name.find("x "); at != std::string::npos; at = name.find("x ", at)) {
+    name.erase(at + 1, 1);
+  }
+  for (std::size_t at = name.find("  "); at != std::string::npos; at = name.find("  ", at)) {
+    name.erase(at, 1);
+  }
+  return size.turned ? TurnedName(name) : name;
+}
+
+}  // namespace
+
+std::span<const CatalogueSize> AllSizes() {
+  static const std::vector<CatalogueSize> sizes = MakeSizes();
+  return sizes;
+}
+
+std::string SeriesWord(const CatalogueSize& size) {
+  if (size.family->search.name != nullptr) return size.family->search.name;
+  if (*size.catalogue->word != '\0') return size.catalogue->word;
+  return size.family->menuCaption;
+}
+
+ProjectState WithSize(const ProjectState& member, const CatalogueSize& size) {
+  ProjectState st = member;
+  TakeSize(size, st);
+  return st;
+}
+
+SizeResult DesignSize(const Design& started, const ProjectState& member, const CatalogueSize& size,
+                      Design& work) {
+  SizeResult result;
+  result.size = size;
+  const ProjectState input = WithSize(member, size);
+  const MemberRun run = DesignMember(started, input, work, Lines::None);
+  const Verdict verdict = VerdictOf(work);
+  result.name = NameOf(input, size, work.lib->catalogues);
+  result.standing = verdict.standing;
+  result.sls = verdict.sls;
+  result.h = work.rec.h.Single();
+  result.b = work.rec.b.Single();
+  result.weight = work.rec.S.Single();
+  result.surface = work.rec.g.Single();
+  result.totalWeight = float32(work.rec.S * member.L).Single();
+  result.totalSurface = float32(work.rec.g * member.L).Single();
+  if (run.fault) return result;
+  result.MaxIR = MaxIR(work.checks);
+  result.governing = GoverningLabel(verdict);
+  result.LoverZ = LengthOverDeflectionZ(work).value_or(0.0F);
+  result.LoverY = LengthOverDeflectionY(work).value_or(0.0F);
+  return result;
+}
+
+std::vector<SizeResult> DesignSizes(const Design& started, const ProjectState& member,
+                                    const std::function<bool(const CatalogueSize&)>& wanted) {
+  std::vector<SizeResult> results;
+  Design work = started;
+  for (const CatalogueSize& size : AllSizes()) {
+    if (!wanted || wanted(size)) results.push_back(DesignSize(started, member, size, work));
+  }
+  return results;
+}
+
+}  // namespace korvane
