@@ -92,10 +92,10 @@ void TrapezoidFlats(const Family& family, const Finished& d, NoteList& notes) {
 
 /// Second moment about z of web and flange alone, about their common centroid; the walls of a
 /// trapezoid stand apart.
-double StiffenerIz(const Finished& d) {
+double StiffenerIz(const Family& family, const Finished& d) {
   const SectionRecord& rec = d.rec;
   const double flange = rec.tf2 * std::pow(rec.b2, 3) / 12;
-  if (d.st.ProfileType == 55) {
+  if (family.outline == OutlineKind::PlateTrapez) {
     const double a = d.st.p55_a;
     const double thickness = rec.tw / std::cos(std::atan(a / d.st.p55_h));
     const double middle = (rec.cm + rec.b2) / 4;
@@ -116,7 +116,7 @@ void TrippingWithPlate(const Family& family, const Finished& d, double IR, NoteL
   const double Lmm = d.ltb.Lk * 1000;
   const LateralMethod method = family.lateral.method;
   const double used = PlateReduction(method, d.st, rec, Lmm).chiLT;
-  rec.Iz = StiffenerIz(d);
+  rec.Iz = StiffenerIz(family, d);
   const double own = PlateReduction(method, d.st, rec, Lmm).chiLT;
   if (!(own > 0) || !(own < used)) return;
   const double ratio = std::fabs(d.beam.My_gov / d.ltb.Mdb) * used / own;
@@ -191,11 +191,15 @@ void BucklingIgnored(const Family& family, const Finished& d, NoteList& notes) {
       if (differs(with, rec.class_)) return;
     }
   }
-  if (!(d.forces.N > 0) || family.routines.effective == nullptr) return;
+  if (family.routines.effective == nullptr) return;
   rec = d.rec;
   family.routines.effective(counted, rec);
-  if (rec.Aeff < d.rec.Aeff * 0.999) {
-    notes.Add({NoteCode::BucklingIgnored, {0, 0, d.rec.Aeff, rec.Aeff}, which});
+  if (d.forces.N > 0 && rec.Aeff < d.rec.Aeff * 0.999) {
+    notes.Add({NoteCode::BucklingIgnored, {0, 0, d.rec.Aeff, rec.Aeff}, which, "Aeff"});
+  } else if (d.checks.ClassGoverning == 4 && d.beam.MyAbsMax != 0 &&
+             rec.Weffy < d.rec.Weffy * 0.999) {
+    // Some families' class stays 4, and the option keeps the modulus whole.
+    notes.Add({NoteCode::BucklingIgnored, {0, 0, d.rec.Weffy, rec.Weffy}, which, "Weffy"});
   }
 }
 

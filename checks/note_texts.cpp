@@ -124,8 +124,10 @@ std::string IgnoredText(const Note& n) {
     return "Buckling of " + which + " is not taken into account: class " + F0(n.v[0]) +
            ", with it class " + F0(n.v[1]) + ".";
   }
-  return "Buckling of " + which + " is not taken into account: Aeff = " + F0(n.v[2]) +
-         " mm2, with it " + F0(n.v[3]) + " mm2.";
+  const std::string name = n.other;
+  const std::string unit = name == "Aeff" ? " mm2" : " mm3";
+  return "Buckling of " + which + " is not taken into account: " + name + " = " + F0(n.v[2]) +
+         unit + ", with it " + F0(n.v[3]) + unit + ".";
 }
 
 std::string DeflectionText(const Note& n) {
