@@ -51,10 +51,11 @@ std::size_t CompareAll(const std::string& folder, const char* table) {
   return count;
 }
 
+/// The projects of a folder.
 std::set<std::string> FilesIn(const std::string& folder) {
   std::set<std::string> names;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    names.insert(entry.path().filename().string());
+    if (entry.path().extension() == ".kvn") names.insert(entry.path().filename().string());
   }
   return names;
 }
