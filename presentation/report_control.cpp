@@ -362,12 +362,13 @@ std::string ModalModes(const Design& d) {
 constexpr double kNoteSize = 6.5;  ///< pt
 constexpr double kNoteStep = 0.8;  ///< lines
 
-/// The verdict's notes as lines of print, long ones wrapped.
+/// The verdict's notes of caution or worse as lines of print, long ones wrapped.
 std::vector<std::string> NoteLines(DrawingTarget& t, const Design& d) {
   const double size = t.FontSize;
   t.FontSize = kNoteSize;
   std::vector<std::string> lines;
   for (const Note& note : VerdictOf(d).notes) {
+    if (note.Weight() < Severity::Caution) continue;
     std::string text =
         std::string(SeverityWord(note.Weight())) + ": " + NoteText(note, d.lib->catalogues);
     text = ShortNumbers(text);
@@ -387,14 +388,13 @@ struct CheckBlock {
   View section, buckling;
   bool modal = false;
   std::vector<std::string> notes;
-  double Notes() const {
-    return notes.empty() ? 0 : 0.5 + kNoteStep * static_cast<double>(notes.size());
-  }
+  /// The verdict and its notes.
+  double Foot() const { return 1.5 + kNoteStep * static_cast<double>(notes.size()); }
   double Lines() const {
     double lines = 0;
     for (const ViewLine& row : section) lines += row.advance;
     for (const ViewLine& row : buckling) lines += row.advance;
-    return lines + (buckling.empty() ? 0 : 0.3) + (modal ? 2.4 : 0) + Notes();
+    return lines + (buckling.empty() ? 0 : 0.3) + (modal ? 2.4 : 0) + Foot();
   }
 };
 
@@ -411,6 +411,18 @@ CheckBlock ChecksOf(DrawingTarget& t, const Design& d) {
   return block;
 }
 
+void DrawVerdict(DrawingTarget& t, double line, const Design& d) {
+  t.CurrentX = kC1;
+  t.CurrentY = line;
+  for (const TextRun& run : VerdictLine(VerdictOf(d)).runs) {
+    t.FontBold = run.bold;
+    t.ForeColor = run.colour == 0 ? Role::Ink : RoleOfIndex(run.colour);
+    t.Print(run.text);
+  }
+  t.FontBold = false;
+  t.ForeColor = Role::Ink;
+}
+
 void DrawChecks(DrawingTarget& t, const CheckBlock& block, double line, const Design& d) {
   const double step = std::min(kLineStep, (kBottom - line) / block.Lines());
   line = DrawView(t, block.section, line, step);
@@ -425,6 +437,8 @@ void DrawChecks(DrawingTarget& t, const CheckBlock& block, double line, const De
     line += 2.1 * step;
   }
   line += 0.5 * step;
+  DrawVerdict(t, line, d);
+  line += step;
   const double size = t.FontSize;
   t.FontSize = std::max(kLeastSize, kNoteSize * step);
   for (const std::string& note : block.notes) {
@@ -432,19 +446,6 @@ void DrawChecks(DrawingTarget& t, const CheckBlock& block, double line, const De
     line += kNoteStep * step;
   }
   t.FontSize = size;
-}
-
-/// Below everything else, always at the same place.
-void DrawVerdict(DrawingTarget& t, const Design& d) {
-  t.CurrentX = kC1;
-  t.CurrentY = kBottom + 0.2;
-  for (const TextRun& run : VerdictLine(VerdictOf(d)).runs) {
-    t.FontBold = run.bold;
-    t.ForeColor = run.colour == 0 ? Role::Ink : RoleOfIndex(run.colour);
-    t.Print(run.text);
-  }
-  t.FontBold = false;
-  t.ForeColor = Role::Ink;
 }
 
 /// Loads below the section values, checks at the foot, diagrams between them.
@@ -486,7 +487,6 @@ void DrawControlReport(DrawingTarget& t, double line, const Design& d) {
              d.st.AnalysisMode == 1 ? "Loading/Moment: (kN/kNm/m)" : "Endforces: (kN/kNm/m)");
   DrawReportDiagrams(t, at.diagrams + 1.3, at.checks - 0.4, spare, d);
   DrawChecks(t, checks, at.checks, d);
-  DrawVerdict(t, d);
 }
 
 }  // namespace korvane

@@ -3,6 +3,8 @@
 // page, nothing lies over anything else, and every figure that the page should have is there.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "checks/results.h"
 #include "core/calculation.h"
 #include "core/text.h"
@@ -146,13 +148,22 @@ TEST_P(Reports, SayTheVerdictAtTheFoot) {
   EXPECT_EQ(standing->style.colour, v.Passes() ? Role::Pass : Role::Fail);
   const std::string ratio = "greatest IR = " + Format(v.IR, "0.00") + " (limit 1.00)";
   const std::vector<std::string> texts = page.Texts();
-  const std::string& last = texts.back();
-  EXPECT_NE(last.find(ratio), std::string::npos) << last;
-  EXPECT_NE(last.find(GoverningLabel(v)), std::string::npos) << last;
-  const RecordedShape* line = page.FindText(last);
-  for (const RecordedShape* shape : page.OfKind(ShapeKind::Text)) {
-    EXPECT_LE(shape->box.top, line->box.top) << shape->text;
+  const auto line = std::find_if(texts.begin(), texts.end(), [&](const std::string& text) {
+    return text.find(ratio) != std::string::npos;
+  });
+  ASSERT_NE(line, texts.end());
+  EXPECT_NE(line->find(GoverningLabel(v)), std::string::npos) << *line;
+  // Under it the notes of caution or worse, long ones on more lines, and nothing else.
+  std::ptrdiff_t notes = 0;
+  for (auto text = line + 1; text != texts.end(); ++text) {
+    const bool begins = text->starts_with("caution: ") || text->starts_with("fails: ") ||
+                        text->starts_with("not checked: ");
+    EXPECT_TRUE(begins || text->starts_with("    ")) << *text;
+    if (begins) ++notes;
   }
+  EXPECT_EQ(notes, std::count_if(v.notes.begin(), v.notes.end(), [](const Note& note) {
+              return note.Weight() >= Severity::Caution;
+            }));
 }
 
 std::vector<Page> AllPages() {
