@@ -54,6 +54,7 @@ TEST(CalculationFaults, NameTheStepWhereItStopped) {
        "Deflections"},
       {"too many points", [](ProjectState& st) { st.cp_mode = 1, st.cp_count = 40; },
        "AnalyseBeam"},
+      {"points below 0", [](ProjectState& st) { st.cp_mode = 1, st.cp_count = -1; }, "AnalyseBeam"},
   };
   for (const FaultCase& c : cases) {
     SCOPED_TRACE(c.name);

@@ -204,6 +204,17 @@ TEST(Toggles, LateralBucklingOffAndOnAgain) {
   EXPECT_EQ(r.st().k_ltb, float32(0.7));
 }
 
+TEST(Toggles, LateralBucklingOfATypedFactorTakesItAgain) {
+  Running r;
+  r.st().LateralBucklingCase = 5;
+  r.st().k_ltb = 0.85;
+  r.session.Click("ch_vipp");
+  EXPECT_EQ(r.st().k_ltb, float32(0.001));
+  r.session.Click("ch_vipp");
+  EXPECT_EQ(r.st().k_ltb, float32(0.85));
+  EXPECT_EQ(r.st().LateralTorsionalBuckling, 1);
+}
+
 TEST(Toggles, LateralBucklingShowsUncheckedAndDisabledForHollowSections) {
   Running r;
   r.session.Menu("mnup06");
