@@ -148,7 +148,7 @@ void SaveDatabase(Session& s) {
   const auto path = s.platform().AskSave("*.db", "db");
   if (!path) return;
   s.database().DbFile = *path;
-  WriteDatabase(*path, s.database());
+  s.files().WroteDatabase(WriteDatabase(*path, s.database()));
   s.files().SetTitle(s.st().FamilyName + ": " + *path);
 }
 
