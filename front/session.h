@@ -94,9 +94,11 @@ public:
   /// Keys were typed into the field in use, or its value was refused.
   bool Typed(const Control& field) const { return fields_.IsTyped(field); }
   /// The value of the field was refused, and can be taken back.
-  bool IsRefused(const Control& field) const {
-    return fields_.Refused() && fields_.Refused()->field == &field;
-  }
+  bool IsRefused(const Control& field) const { return Refused() == &field; }
+  /// The field whose value was refused and still stands, or nullptr.
+  const Control* Refused() const { return fields_.Refused() ? fields_.Refused()->field : nullptr; }
+  /// What TakeBack puts back, as it will be shown; empty where nothing was refused.
+  std::string LastAccepted() const;
   /// What the state holds of a field, as it would be shown.
   std::string StateText(const Control& field) const;
   std::vector<std::string> Items(const Control& list) const;

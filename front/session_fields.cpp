@@ -160,6 +160,13 @@ void Session::Return(const Control& control) {
   }
 }
 
+std::string Session::LastAccepted() const {
+  const auto& refused = fields_.Refused();
+  if (!refused) return {};
+  const FieldRule& rule = refused->field->field;
+  return Shown(ReadInput(refused->before, rule.input), rule.Format());
+}
+
 bool Session::TakeBack() {
   if (!fields_.Refused()) return false;
   const RefusedValue refused = *fields_.Refused();

@@ -3,11 +3,13 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <optional>
 
 #include "front/desktop/desktop.h"
@@ -265,6 +267,10 @@ bool FormBinder::FieldEvent(const Control& field, QLineEdit* edit, QEvent* event
     desktop_.Act([&] { s.TakeBack(); });
     return true;
   }
+  if (event->type() == QEvent::ContextMenu && s.IsRefused(field)) {
+    OfferLastAccepted(edit, static_cast<QContextMenuEvent*>(event)->globalPos());
+    return true;
+  }
   if (event->type() == QEvent::FocusIn) {
     FieldGainsFocus(field, edit, static_cast<QFocusEvent*>(event)->reason());
   }
@@ -280,6 +286,21 @@ bool FormBinder::FieldEvent(const Control& field, QLineEdit* edit, QEvent* event
     }
   }
   return false;
+}
+
+/// The menu of a refused field begins with the value that Escape puts back.
+void FormBinder::OfferLastAccepted(QLineEdit* edit, const QPoint& where) {
+  Session& s = desktop_.session();
+  QMenu* menu = edit->createStandardContextMenu();
+  menu->setObjectName(QStringLiteral("refusedfield"));
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  auto* back = new QAction(tr("Put back %1").arg(Q(s.LastAccepted())), menu);
+  back->setObjectName(QStringLiteral("putback"));
+  back->setShortcut(QKeySequence(Qt::Key_Escape));
+  connect(back, &QAction::triggered, this, [this, &s] { desktop_.Act([&s] { s.TakeBack(); }); });
+  menu->insertAction(menu->actions().value(0), back);
+  menu->insertSeparator(menu->actions().value(1));
+  menu->popup(where);
 }
 
 void FormBinder::FieldGainsFocus(const Control& field, QLineEdit* edit, Qt::FocusReason reason) {
