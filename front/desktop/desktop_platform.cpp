@@ -117,7 +117,7 @@ private:
 AttachedProject ProjectOf(const Design& design) {
   const std::string& path = design.st.CurrentFileName;
   const std::string own = ProjectText(design.st);
-  const std::string name = QFileInfo(QFile::decodeName(path.c_str())).fileName().toStdString();
+  const std::string name = QFileInfo(QString::fromStdString(path)).fileName().toStdString();
   Design read(design.lib);
   StartDesign(read);
   auto bytes = ReadWholeFile(path);
@@ -156,7 +156,7 @@ void DesktopPlatform::PrintToFile(const Design& design, const std::vector<Report
   const QString path = printer_->outputFileName();
   std::string bytes;
   std::string failed = PaintIntoMemory(job, bytes);
-  if (failed.empty()) failed = WriteFile(QFile::encodeName(path).toStdString(), bytes).why;
+  if (failed.empty()) failed = WriteFile(path.toStdString(), bytes).why;
   if (!failed.empty()) {
     Message(tr("The page could not be written to\n%1").arg(path).toStdString() + "\n" + failed);
   }

@@ -8,7 +8,6 @@
 #include <QTimer>
 #include <algorithm>
 #include <array>
-#include <csignal>
 #include <cstdio>
 
 #include "core/program.h"
@@ -22,6 +21,7 @@
 #include "front/desktop/theme.h"
 #include "front/locale.h"
 #include "front/named_session.h"
+#include "front/system.h"
 
 namespace {
 
@@ -153,7 +153,9 @@ int main(int argc, char** argv) {
         QStringLiteral("THEME")},
        shots,
        painted});
-  const QStringList arguments(argv, argv + argc);
+  QStringList arguments;
+  for (const std::string& word : CommandWords(argc, argv))
+    arguments << QString::fromStdString(word);
   if (parser.parse(arguments) && (parser.isSet(help) || parser.isSet(version))) {
     // What is only printed needs no display.
     QCoreApplication printer(argc, argv);
@@ -166,8 +168,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   parser.process(app);
   korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
-  // A limit on the size of files is told as a full disk.
-  std::signal(SIGXFSZ, SIG_IGN);
+  LeaveFailuresToUs();
   try {
     return Run(app, parser, parser.value(shots));
   } catch (const std::exception& error) {
