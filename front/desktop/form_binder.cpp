@@ -51,6 +51,11 @@ void ShowText(QLabel* label, const QString& text) {
   if (label->text() != text) label->setText(text);
 }
 
+void ShowAlarm(QLabel* label, bool alarm, QPalette palette) {
+  if (alarm) palette.setColor(QPalette::WindowText, ColourFor(Role::Fail, palette));
+  label->setPalette(palette);
+}
+
 bool IsReturn(const QEvent* event) {
   if (event->type() != QEvent::KeyPress) return false;
   const int pressed = static_cast<const QKeyEvent*>(event)->key();
@@ -100,7 +105,10 @@ void FormBinder::BindOne(const Control& control, QWidget* widget) {
   } else if (auto* label = qobject_cast<QLabel*>(widget)) {
     // A literal caption stays as it was made.
     if (c->text) {
-      bound.refresh = [this, label, c] { ShowText(label, Q(desktop_.session().Text(*c))); };
+      bound.refresh = [this, label, c] {
+        ShowText(label, Q(desktop_.session().Text(*c)));
+        if (c->alarm) ShowAlarm(label, c->alarm(desktop_.session()), root_->palette());
+      };
     }
   } else if (auto* pane = qobject_cast<Pane*>(widget)) {
     bound.refresh = [pane] { pane->Refresh(); };
