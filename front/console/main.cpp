@@ -8,12 +8,12 @@
 #include <iostream>
 
 #include "front/console/completion.h"
-#include "front/console/design_json.h"
+#include "front/design_json.h"
 #include "front/console/design_text.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
 #include "front/console/more_commands.h"
-#include "front/console/nearest.h"
+#include "front/nearest.h"
 #include "front/console/paint.h"
 #include "front/console/run_design.h"
 #include "front/console/script.h"

@@ -6,9 +6,9 @@
 #include <cstdlib>
 #include <deque>
 
-#include "front/console/design_json.h"
+#include "front/design_json.h"
 #include "front/console/exit_status.h"
-#include "front/console/nearest.h"
+#include "front/nearest.h"
 #include "front/named_session.h"
 
 namespace korvane {

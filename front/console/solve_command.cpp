@@ -6,8 +6,8 @@
 
 #include "core/text.h"
 #include "front/console/exit_status.h"
-#include "front/console/json_writer.h"
-#include "front/console/nearest.h"
+#include "front/json_writer.h"
+#include "front/nearest.h"
 #include "front/console/studies.h"
 #include "front/console/terminal.h"
 #include "studies/member.h"

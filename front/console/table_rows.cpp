@@ -9,8 +9,8 @@
 #include <set>
 #include <sstream>
 
-#include "front/console/json_writer.h"
-#include "front/console/nearest.h"
+#include "front/json_writer.h"
+#include "front/nearest.h"
 #include "front/console/terminal.h"
 #include "studies/member.h"
 
