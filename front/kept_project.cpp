@@ -22,10 +22,14 @@ using Values = std::map<std::string, std::string, std::less<>>;
 std::string OneLine(std::string_view text) {
   std::string line;
   for (const char c : text) {
-    if (c == '\\') line += "\\\\";
-    else if (c == '\n') line += "\\n";
-    else if (c == '\r') line += "\\r";
-    else line += c;
+    if (c == '\\')
+      line += "\\\\";
+    else if (c == '\n')
+      line += "\\n";
+    else if (c == '\r')
+      line += "\\r";
+    else
+      line += c;
   }
   return line;
 }

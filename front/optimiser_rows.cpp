@@ -45,7 +45,7 @@ void SearchAgain(Design& design, OptimiserRows& rows, int criterion,
 std::string WordsOf(const OptimiserRows& rows, int row) {
   const OptimiserRows::Row& one = rows.row[row];
   if (!one.included) return {};
-  std::string words = !one.searched              ? "not searched"
+  std::string words = !one.searched               ? "not searched"
                       : !rows.results.Passes[row] ? "none passes"
                       : LightestRow(rows) == row  ? "lightest"
                                                   : "";

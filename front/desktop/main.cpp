@@ -130,9 +130,8 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
   });
   if (!screenshots.isEmpty()) return WriteScreenshots(desktop, session, screenshots) ? 0 : 1;
   Recovery recovery(desktop, QDir(own).filePath(QStringLiteral("kept")));
-  QObject::connect(&recovery, &Recovery::StartAgain, &app, [&parser](QStringList arguments) {
-    StartAgain(parser, std::move(arguments));
-  });
+  QObject::connect(&recovery, &Recovery::StartAgain, &app,
+                   [&parser](QStringList arguments) { StartAgain(parser, std::move(arguments)); });
   const bool painted = parser.isSet(QStringLiteral("until-painted"));
   if (painted) desktop.window().installEventFilter(new FirstPaint(&desktop));
   const QString kept = parser.value(QStringLiteral("recover"));

@@ -40,8 +40,7 @@ std::optional<KeptProject> Read(const QString& path, const ProjectState& fresh) 
 
 }  // namespace
 
-Recovery::Recovery(Desktop& desktop, const QString& folder)
-    : desktop_(desktop), folder_(folder) {
+Recovery::Recovery(Desktop& desktop, const QString& folder) : desktop_(desktop), folder_(folder) {
   QDir().mkpath(folder_);
   path_ = QDir(folder_).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) +
                                  QStringLiteral(".kvn"));
@@ -89,7 +88,8 @@ void Recovery::Keep() {
 
 QStringList Recovery::LeftBehind() const {
   QStringList paths;
-  const auto files = QDir(folder_).entryInfoList({QStringLiteral("*.kvn")}, QDir::Files, QDir::Time);
+  const auto files =
+      QDir(folder_).entryInfoList({QStringLiteral("*.kvn")}, QDir::Files, QDir::Time);
   for (const QFileInfo& file : files) {
     const QString path = file.absoluteFilePath();
     if (path == path_) continue;
@@ -156,9 +156,8 @@ void Recovery::Report(const FailureReport& report) {
   box.exec();
   lock_.reset();
   if (again == nullptr || box.clickedButton() != again) return;
-  emit StartAgain(report.ownDefaults
-                      ? QStringList{QStringLiteral("--program-defaults")}
-                      : QStringList{QStringLiteral("--recover"), path_});
+  emit StartAgain(report.ownDefaults ? QStringList{QStringLiteral("--program-defaults")}
+                                     : QStringList{QStringLiteral("--recover"), path_});
 }
 
 }  // namespace korvane

@@ -199,9 +199,8 @@ void AddClassLabel(const Family& family, Form& form) {
 /// section before. Kept.
 void AddWarpingConstant(const Family& family, std::string_view symbol, Form& form) {
   if (family.outline != OutlineKind::Hollow || symbol != "Iz") return;
-  Control c = TextLabel("ostiw", [](const Session& s) {
-    return s.Shown(s.design().rec.Iw, "0.000E+0") + " mm6";
-  });
+  Control c = TextLabel(
+      "ostiw", [](const Session& s) { return s.Shown(s.design().rec.Iw, "0.000E+0") + " mm6"; });
   c.caption = "Iw =";
   c.block = Block::Properties;
   Put(form, std::move(c));

@@ -52,10 +52,9 @@ OptimiserControls::Row AddRow(Form& form, int row) {
   on.surface = Put(form, RowField("osurface", row, &OptimiserRowView::surface));
   on.ir = Put(form, OfFailing(row, RowField("oir", row, &OptimiserRowView::ir)));
   on.deflection = Put(form, RowField("odefl", row, &OptimiserRowView::deflection));
-  on.words =
-      Put(form, OfFailing(row, TextLabel("owords" + std::to_string(row), [row](const Session& s) {
-                            return WordsOf(s.rows(), row);
-                          })));
+  on.words = Put(
+      form, OfFailing(row, TextLabel("owords" + std::to_string(row),
+                                     [row](const Session& s) { return WordsOf(s.rows(), row); })));
   return on;
 }
 

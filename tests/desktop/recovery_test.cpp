@@ -116,8 +116,7 @@ TEST_F(RecoveryTest, NextStartOffersWhatWasLeftBehind) {
         << told_.toStdString();
     EXPECT_EQ(double(next.session.st().L), 7);
     EXPECT_EQ(next.session.Text("korvane.iproj"), "Bridge");
-    EXPECT_EQ(next.desktop->window().windowTitle().toStdString(),
-              "KORVANE-NS3472: " + path + " *");
+    EXPECT_EQ(next.desktop->window().windowTitle().toStdString(), "KORVANE-NS3472: " + path + " *");
     EXPECT_EQ(next.session.NotCalculated(), "");
     // It is its own now, also where this program ends uncleanly.
     EXPECT_EQ(Kept().size(), 1);
@@ -190,7 +189,8 @@ TEST_F(RecoveryTest, OwnDefaultsThatMakeEachStartFailHaveAWayOut) {
   Answer("Start with the program's defaults");
   desktop_->Activated(*TheForms().main);
   EXPECT_TRUE(session.Ended());
-  EXPECT_TRUE(told_.contains("Your own default values make each start fail")) << told_.toStdString();
+  EXPECT_TRUE(told_.contains("Your own default values make each start fail"))
+      << told_.toStdString();
   ASSERT_EQ(startedAgain_.size(), 1);
   EXPECT_EQ(startedAgain_[0], QStringList({"--program-defaults"}));
   recovery_.reset();

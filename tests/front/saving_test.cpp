@@ -146,8 +146,7 @@ TEST(UnreadFile, IsKeptWhereAnotherProjectIsSavedOverIt) {
   EXPECT_TRUE(r.session.files().Modified());
   r.session.Menu("mnusave");
   EXPECT_EQ(Read(path + ".bak"), "390\r\nBridge\r\n");
-  EXPECT_EQ(Words(r),
-            "saved 14:05, the file that could not be read is kept as " + path + ".bak");
+  EXPECT_EQ(Words(r), "saved 14:05, the file that could not be read is kept as " + path + ".bak");
   ProjectState read = r.st();
   EXPECT_EQ(OpenProject(path, read), FileResult::Ok);
   // From now on it is the project's own.
@@ -266,8 +265,7 @@ TEST(Modified, FollowsWhatTheFileHolds) {
 
 TEST(Modified, IsNoProjectThatWasOnlyOpened) {
   int opened = 0;
-  for (const auto& entry :
-       std::filesystem::directory_iterator(KORVANE_SOURCE_DIR "/examples")) {
+  for (const auto& entry : std::filesystem::directory_iterator(KORVANE_SOURCE_DIR "/examples")) {
     if (entry.path().extension() != ".kvn") continue;
     Running r;
     r.session.files().OpenPath(entry.path().string());
