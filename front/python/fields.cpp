@@ -195,6 +195,16 @@ void SetFields(Member& member, const py::dict& values) {
   member.st = std::move(changed);
 }
 
+bool HaveSameInput(const ProjectState& a, const ProjectState& b) {
+  for (const std::string& name : FieldNames()) {
+    if (IsWorkedOut(name, a) && IsWorkedOut(name, b)) continue;
+    const bool same =
+        std::visit([&](auto field) { return a.*field == b.*field; }, FindInputField(name)->member);
+    if (!same) return false;
+  }
+  return true;
+}
+
 namespace {
 
 py::object Raw(const int16& v) {

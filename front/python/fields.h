@@ -23,6 +23,10 @@ py::object GetField(const Member& member, const std::string& name);
 /// Sets several at once, all or none. Raises KeyError, InputRefused, TypeError.
 void SetFields(Member& member, const py::dict& values);
 
+/// Whether two members have the same input: what a calculation works out, files and windows don't
+/// count.
+bool HaveSameInput(const ProjectState& a, const ProjectState& b);
+
 /// Every field of the record as it stands, for pickles, and back.
 py::dict RawFields(const ProjectState& st);
 void SetRawFields(const py::dict& fields, ProjectState& st);

@@ -4,8 +4,6 @@
 #include <pybind11/pybind11.h>
 #include <pybind11/stl.h>
 
-#include <ctime>
-
 #include "checks/results.h"
 #include "core/project_file.h"
 #include "front/design_json.h"
@@ -13,10 +11,10 @@
 #include "front/painter/drawing_job.h"
 #include "front/painter/report_job.h"
 #include "front/painter/svg_page.h"
+#include "front/painter_module.h"
 #include "front/python/convert.h"
 #include "front/python/engine.h"
 #include "front/python/fields.h"
-#include "front/python/painter.h"
 #include "front/python/tables.h"
 #include "studies/all_sections.h"
 #include "studies/result_columns.h"
@@ -166,13 +164,6 @@ py::object Group(const py::object& self, const char* name) {
 
 // --- Pictures and pages -------------------------------------------------------------------------
 
-ReportTime Now() {
-  const std::time_t now = std::time(nullptr);
-  std::tm local{};
-  localtime_r(&now, &local);
-  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min};
-}
-
 PaintJob SheetsJob(Outcome& outcome, const std::string& kind) {
   const Sheets* sheets = FindSheets(kind);
   if (sheets == nullptr) {
@@ -180,7 +171,7 @@ PaintJob SheetsJob(Outcome& outcome, const std::string& kind) {
     for (const Sheets& known : AllSheets()) words.emplace_back(known.word);
     RaiseUnknown("kind of report", kind, words);
   }
-  return ReportJob(outcome.WithLines(), sheets->reports, Now(),
+  return ReportJob(outcome.WithLines(), sheets->reports, TimeOfPrint(),
                    {"project.kvn", ProjectText(outcome.input)});
 }
 
@@ -196,7 +187,8 @@ py::list SheetsSvg(Outcome& outcome, const std::string& kind) {
 py::bytes SheetsPdf(Outcome& outcome, const std::string& kind,
                     const std::vector<std::string>& folders) {
   std::string bytes;
-  const std::string error = PaintByModule(SheetsJob(outcome, kind), folders, bytes);
+  const std::string error =
+      PaintByModule(SheetsJob(outcome, kind), {folders.begin(), folders.end()}, bytes);
   if (!error.empty()) throw std::runtime_error(error + "; a report that ends in .svg needs none");
   return bytes;
 }
@@ -316,10 +308,7 @@ void BindDesign(py::module_& m) {
              if (!py::isinstance<Member>(other)) {
                return py::reinterpret_borrow<py::object>(Py_NotImplemented);
              }
-             ProjectState same = other.cast<const Member&>().st;
-             same.CurrentFileName = self.st.CurrentFileName;
-             same.CurrentDir = self.st.CurrentDir;
-             return py::bool_(same == self.st);
+             return py::bool_(HaveSameInput(self.st, other.cast<const Member&>().st));
            })
       .def("_outcome", &OutcomeOf)
       .def("__repr__",

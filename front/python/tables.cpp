@@ -322,8 +322,15 @@ std::string WordsOf(const Solved& s) {
   if (s.answer.intervals.empty()) {
     return name + ": nothing passes from " + Six(s.question.low) + " to " + with(s.question.high);
   }
-  if (own == nullptr) return name + " = " + with(s.question.present) + " does not pass";
   std::string words;
+  if (own == nullptr) {
+    words = name + " = " + with(s.question.present) +
+            (s.answer.present.passes ? " passes" : " does not pass");
+    for (const PassingInterval& interval : s.answer.intervals) {
+      words += ", from " + Six(interval.low) + " to " + with(interval.high) + " passes";
+    }
+    return words;
+  }
   if (own->above) {
     words = name + " up to " + with(own->high) + ": " + own->above->failing.check;
   }
