@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QTimer>
@@ -19,7 +20,6 @@
 #include "front/desktop/own_folder.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
-#include "front/locale.h"
 #include "front/named_session.h"
 #include "front/system.h"
 
@@ -97,7 +97,7 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
   const auto library =
       ReadLibrary(FindDataFolder(parser.value(QStringLiteral("data")).toStdString()));
   DesktopPlatform platform;
-  NamedSession session(library, platform, LocaleWritesComma(),
+  NamedSession session(library, platform, WritesComma(QLocale::system()),
                        FoldersOf(library->folder, QStandardPaths::writableLocation(
                                                       QStandardPaths::AppDataLocation)));
   session.Start();
