@@ -33,6 +33,10 @@ QString RecentKey(const std::string& key) {
 
 }  // namespace
 
+bool WritesComma(const QLocale& locale) {
+  return locale.decimalPoint() == QLatin1String(",");
+}
+
 DesktopPlatform::DesktopPlatform() = default;
 
 std::string DesktopPlatform::Setting(const std::string& key) {

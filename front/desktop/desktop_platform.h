@@ -2,6 +2,7 @@
 // The platform of the windows: settings, dialogs, message boxes, printer and clock of Qt.
 #pragma once
 
+#include <QLocale>
 #include <QObject>
 #include <QPointer>
 #include <QPrinter>
@@ -13,6 +14,9 @@
 #include "presentation/aprint.h"
 
 namespace korvane {
+
+/// Whether fields show a decimal comma under a locale.
+bool WritesComma(const QLocale& locale);
 
 class DesktopPlatform : public QObject, public Platform {
   Q_OBJECT

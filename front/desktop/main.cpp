@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
@@ -22,7 +23,6 @@
 #include "front/desktop/recovery.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
-#include "front/locale.h"
 #include "front/named_session.h"
 #include "front/system.h"
 
@@ -114,7 +114,7 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
   const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
   Folders folders = FoldersOf(library->folder, own);
   folders.ownDefaults = !parser.isSet(QStringLiteral("program-defaults"));
-  NamedSession session(library, platform, LocaleWritesComma(), folders);
+  NamedSession session(library, platform, WritesComma(QLocale::system()), folders);
   session.Start();
   Desktop desktop(session);
   platform.SetWindow(&desktop.window());

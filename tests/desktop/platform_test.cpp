@@ -21,6 +21,14 @@ TEST(DesktopPlatformTest, SettingsStandInTheSectionRecentFiles) {
   EXPECT_EQ(store.value("Recent Files/RecentFile9").toString(), "/a/b.kvn");
 }
 
+TEST(DesktopPlatformTest, DecimalMarkIsThatOfTheLocale) {
+  EXPECT_TRUE(WritesComma(QLocale("nb_NO")));
+  EXPECT_TRUE(WritesComma(QLocale("de_DE")));
+  EXPECT_FALSE(WritesComma(QLocale("de_CH")));
+  EXPECT_FALSE(WritesComma(QLocale("en_GB")));
+  EXPECT_FALSE(WritesComma(QLocale::c()));
+}
+
 TEST(DesktopPlatformTest, ClockTellsADate) {
   DesktopPlatform platform;
   const DateTime now = platform.Now();
