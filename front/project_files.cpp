@@ -65,11 +65,12 @@ void ProjectFiles::New() {
   NewProject(session_.st(), session_.folders().program);
   ResetDatabase(session_.database());
   ForgetFormerInput(session_.design());
+  session_.Calculate();
+  // Where that fails the file before is still the one to go on with.
   record_.path.clear();
   record_.disk.reset();
   record_.savedAt.reset();
   record_.projectFailed.clear();
-  session_.Calculate();
   Settle();
 }
 
@@ -186,6 +187,7 @@ void ProjectFiles::TakeTexts() {
 void ProjectFiles::SavePathAs(const std::string& path) {
   TakeTexts();
   session_.st().CurrentFileName = path;
+  if (session_.calculated_) session_.calculated_->CurrentFileName = path;
   title_ = TitleOf(path);
   if (!Write(path)) return;
   session_.st().CurrentDir = FolderOf(path);

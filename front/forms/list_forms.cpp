@@ -14,9 +14,8 @@ std::string TwoDigits(int n) {
 /// Runs a search under the wait cursor, with its progress.
 template <class Run>
 void Search(Session& s, Run&& run) {
-  s.platform().WaitCursor(true);
+  const Waiting waiting(s.platform());
   run([&s](int done, int all) { s.platform().Progress(done, all); });
-  s.platform().WaitCursor(false);
 }
 
 Control RowField(const std::string& name, int row, std::string OptimiserRowView::*member) {
