@@ -98,6 +98,17 @@ void Session::Calculate() {
   TellMessages();
 }
 
+void Session::TakeSection(const std::function<void()>& take) {
+  const ProjectState before = st();
+  try {
+    take();
+  } catch (const ArithmeticFault&) {
+    platform_.Beep();
+    st() = before;
+    Calculate();
+  }
+}
+
 void Session::ComposeResults() {
   korvane::ComposeResults(design_);
   calculated_ = design_.st;

@@ -44,6 +44,7 @@ std::string NameOf(const ProjectState& st, const CatalogueSize& size, const Cata
   for (std::size_t at = name.find("  "); at != std::string::npos; at = name.find("  ", at)) {
     name.erase(at, 1);
   }
+  while (name.ends_with(' ')) name.pop_back();
   return size.turned ? TurnedName(name) : name;
 }
 
@@ -58,6 +59,10 @@ std::string SeriesWord(const CatalogueSize& size) {
   if (size.family->search.name != nullptr) return size.family->search.name;
   if (*size.catalogue->word != '\0') return size.catalogue->word;
   return size.family->menuCaption;
+}
+
+bool Passes(const SizeResult& r, bool sls) {
+  return r.standing == Standing::Passes && !(sls && r.sls == Serviceability::Fails);
 }
 
 ProjectState WithSize(const ProjectState& member, const CatalogueSize& size) {

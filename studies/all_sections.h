@@ -37,6 +37,9 @@ struct SizeResult {
   Serviceability sls = Serviceability::None;
 };
 
+/// Passes the ultimate limit state; with sls the deflection limit, where there is one, as well.
+bool Passes(const SizeResult& result, bool sls);
+
 /// The member with that size in force.
 ProjectState WithSize(const ProjectState& member, const CatalogueSize& size);
 
