@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QPixmap>
 #include <QScreen>
+#include <QTabWidget>
 
 #include "front/desktop/desktop.h"
 #include "front/desktop/form_window.h"
@@ -129,7 +130,7 @@ bool ShootForms(Desktop& desktop, NamedSession& s, const QDir& folder, const QSt
 /// The windows of the studies, each opened by its button.
 bool ShootStudies(Desktop& desktop, const QDir& folder, const QString& theme) {
   bool ok = true;
-  for (const char* name : {"sections"}) {
+  for (const char* name : {"sections", "whatif"}) {
     const QString window = QString::fromUtf8(name);
     auto* button = desktop.window().findChild<QAbstractButton*>(QStringLiteral("open_") + window);
     if (button == nullptr) return false;
@@ -137,6 +138,11 @@ bool ShootStudies(Desktop& desktop, const QDir& folder, const QString& theme) {
     auto* opened = desktop.window().findChild<QWidget*>(window);
     if (opened == nullptr) return false;
     ok = Shoot(*opened, folder, QStringLiteral("study-%1-%2").arg(window, theme)) && ok;
+    if (auto* tabs = opened->findChild<QTabWidget*>()) {
+      tabs->setCurrentIndex(1);
+      ok = Shoot(*opened, folder, QStringLiteral("study-interaction-%1").arg(theme)) && ok;
+      tabs->setCurrentIndex(0);
+    }
     opened->close();
   }
   return ok;

@@ -7,6 +7,7 @@
 #include "front/desktop/desktop.h"
 #include "front/desktop/main_window.h"
 #include "front/desktop/sections_window.h"
+#include "front/desktop/what_if_window.h"
 
 namespace korvane {
 
@@ -34,6 +35,8 @@ void AddButton(Desktop& desktop, QBoxLayout* row, const char* name, const QStrin
 void AddStudyButtons(Desktop& desktop, QBoxLayout* row) {
   AddButton<SectionsWindow>(desktop, row, "open_sections", QObject::tr("Sections"),
                             QObject::tr("Every size of all catalogues for this member"));
+  AddButton<WhatIfWindow>(desktop, row, "open_whatif", QObject::tr("What if"),
+                          QObject::tr("Curves over a varied input: how far it can go"));
 }
 
 }  // namespace korvane
