@@ -260,9 +260,19 @@ private:
         for (const Point& p : part) points.push_back(At(p));
         Pen(line.colour, line.strong ? kStrong : kCurve, line.dash);
         target_.Polyline(points);
-        if (!line.strong) labels.Avoid(points);
+        if (!line.strong) labels.Avoid(Thinned(points));
       }
     }
+  }
+
+  /// As many points as labels need to see where a curve runs.
+  static std::vector<Point> Thinned(const std::vector<Point>& points) {
+    constexpr std::size_t enough = 40;
+    const std::size_t step = points.size() / enough + 1;
+    std::vector<Point> some;
+    for (std::size_t i = 0; i < points.size(); i += step) some.push_back(points[i]);
+    if ((points.size() - 1) % step != 0) some.push_back(points.back());
+    return some;
   }
 
   /// The names of the curves at their right ends, none over another.

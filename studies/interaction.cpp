@@ -124,8 +124,9 @@ std::vector<EnvelopePoint> InteractionEnvelope(const Design& started, const Proj
   if (!alongA || !alongB) return envelope;
   for (int i = 0; i < directions; ++i) {
     const double angle = 2 * kPi * i / directions;
-    const double a = *alongA * std::cos(angle);
-    const double b = *alongB * std::sin(angle);
+    // On an axis the other force is none at all.
+    const double a = *alongA * (4 * i % (2 * directions) == directions ? 0 : std::cos(angle));
+    const double b = *alongB * (2 * i % directions == 0 ? 0 : std::sin(angle));
     if (const auto reach = Reach(ratio, limit, a, b)) {
       envelope.push_back({*reach * a, *reach * b});
     }

@@ -1,51 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/console/paint.h"
 
-#include <dlfcn.h>
-
 #include <CLI/CLI.hpp>
 #include <array>
 #include <ctime>
 #include <filesystem>
 #include <iostream>
-#include <optional>
 
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
+#include "front/console/pictures.h"
 #include "front/console/run_design.h"
 #include "front/console/terminal.h"
 #include "front/data_folder.h"
-#include "front/painter/paint_files.h"
 #include "front/painter/report_job.h"
 #include "presentation/aprint.h"
 #include "presentation/figures.h"
 #include "presentation/grafik.h"
-#include "presentation/svg_target.h"
 
 namespace korvane {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Paints through the loadable module beside the program or in the library folder. Returns an
-/// empty text, or what went wrong.
-std::string PaintByModule(const PaintJob& job, std::string& bytes) {
-  std::error_code ignored;
-  const fs::path here = fs::read_symlink("/proc/self/exe", ignored).parent_path();
-  for (const fs::path& folder : {here, here / KORVANE_MODULE_FROM_BIN}) {
-    const fs::path module = folder / kPaintModule;
-    if (!fs::exists(module, ignored)) continue;
-    void* handle = dlopen(module.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (handle == nullptr) return std::string("can't load the painter: ") + dlerror();
-    const auto entry = reinterpret_cast<PaintEntry>(dlsym(handle, kPaintEntry));
-    if (entry == nullptr) return std::string("can't load the painter: ") + dlerror();
-    std::string error;
-    entry(&job, &bytes, &error);
-    return error;
-  }
-  return std::string("the painter ") + kPaintModule + " is not installed";
-}
 
 ReportTime Now() {
   const std::time_t now = std::time(nullptr);
@@ -57,44 +34,6 @@ ReportTime Now() {
 struct Arguments {
   std::string file, kind = "control", what, output, format, data;
 };
-
-enum class Format { Pdf, Svg, Png };
-
-struct FormatWord {
-  const char* word;
-  Format format;
-};
-
-constexpr std::array kFormats{FormatWord{"pdf", Format::Pdf}, FormatWord{"svg", Format::Svg},
-                              FormatWord{"png", Format::Png}};
-
-/// The format asked for, else that of the output's ending; nothing for any other ending.
-std::optional<Format> FormatOf(const Arguments& a, Format onStandardOutput) {
-  std::string word = a.format;
-  if (word.empty()) {
-    if (a.output == kStandardStream) return onStandardOutput;
-    word = fs::path(a.output).extension().string();
-    word.erase(0, 1);
-    for (char& c : word)
-      if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  for (const FormatWord& format : kFormats)
-    if (word == format.word) return format.format;
-  return std::nullopt;
-}
-
-/// One file that a command has made.
-struct Made {
-  std::string path, bytes;
-};
-
-/// OUT-N.EXT for a page of several.
-std::string PagePath(const std::string& path, std::size_t number) {
-  const fs::path whole(path);
-  const std::string name =
-      whole.stem().string() + "-" + std::to_string(number) + whole.extension().string();
-  return (whole.parent_path() / name).string();
-}
 
 /// The design of the file, or the exit status that says why there is none. bytes gets the file as
 /// it was read.
@@ -113,57 +52,10 @@ int Prepare(const Arguments& a, Design& design, std::string* bytes = nullptr) {
   return kAllPass;
 }
 
-/// One page in its format. Returns an empty text, or what went wrong.
-std::string PaintPage(const PaintJob& job, Format format, std::size_t page, std::string& bytes) {
-  if (format == Format::Svg) {
-    SvgTarget target(job.width, job.height, job.title, Palette::Light());
-    job.pages.at(page)(target);
-    bytes = target.Document();
-    return {};
-  }
-  PaintJob one = job;
-  one.format = PaintFormat::Png;
-  one.pages = {job.pages.at(page)};
-  return PaintByModule(one, bytes);
-}
-
-/// Paints everything before anything is written: a PDF holds all pages, a picture one.
-std::string PaintAll(const PaintJob& job, Format format, const std::string& output,
-                     std::vector<Made>& made) {
-  if (format == Format::Pdf) return PaintByModule(job, made.emplace_back(Made{output, {}}).bytes);
-  const bool several = job.pages.size() > 1;
-  for (std::size_t page = 0; page < job.pages.size(); ++page) {
-    Made& file = made.emplace_back(Made{several ? PagePath(output, page + 1) : output, {}});
-    const std::string error = PaintPage(job, format, page, file.bytes);
-    if (!error.empty()) return error;
-  }
-  return {};
-}
-
 /// Paints and writes. Returns the exit status, after a word where something failed.
-int Finish(const PaintJob& job, const Arguments& a, Format onStandardOutput) {
-  const auto format = FormatOf(a, onStandardOutput);
-  if (!format) {
-    std::cerr << "the output must end in .pdf, .svg or .png - " << NameOnErrors(a.output) << "\n";
-    return kBadInput;
-  }
-  if (*format != Format::Pdf && job.pages.size() > 1 && a.output == kStandardStream) {
-    std::cerr << "several pictures need several files - name them with -o\n";
-    return kBadInput;
-  }
-  std::vector<Made> made;
-  const std::string error = PaintAll(job, *format, a.output, made);
-  if (!error.empty()) {
-    std::cerr << error << "\n";
-    return kBadInput;
-  }
-  const WriteRules rules{{a.file}};
-  for (const Made& file : made)
-    if (const int status = SaveOutput(file.path, file.bytes, rules, std::cout, std::cerr))
-      return status;
-  if (made.size() > 1)
-    for (const Made& file : made) std::cout << file.path << "\n";
-  return kAllPass;
+int Finish(const PaintJob& job, const Arguments& a, PictureFormat onStandardOutput) {
+  return WritePictures(job, {a.output, a.format}, onStandardOutput, {{a.file}}, std::cout,
+                       std::cerr);
 }
 
 /// The sheets behind a word.
@@ -197,7 +89,7 @@ int RunReport(const Arguments& a) {
   const std::string name =
       a.file == kStandardStream ? "project.kvn" : fs::path(a.file).filename().string();
   const PaintJob job = ReportJob(design, ReportsOf(a.kind), Now(), {name, std::move(bytes)});
-  if (const int status = Finish(job, a, Format::Pdf)) return status;
+  if (const int status = Finish(job, a, PictureFormat::Pdf)) return status;
   return StatusOf(VerdictOf(design));
 }
 
@@ -264,7 +156,7 @@ int RunDraw(const Arguments& a) {
       DrawSectionFigure(t, Box{margin, margin, job.width - margin, job.height - margin},
                         Destination::Page, design.st, design.rec, FigureOptions{});
     });
-    return Finish(job, a, Format::Svg);
+    return Finish(job, a, PictureFormat::Svg);
   }
   constexpr double scale = 6;  // points per grid unit
   const auto kinds = ForMode(drawing->diagrams, design.st.AnalysisMode == 1);
@@ -280,7 +172,7 @@ int RunDraw(const Arguments& a) {
       top += height;
     }
   });
-  return Finish(job, a, Format::Svg);
+  return Finish(job, a, PictureFormat::Svg);
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include "front/console/studies.h"
 #include "front/console/table_rows.h"
 #include "front/console/terminal.h"
+#include "front/console/vary.h"
 #include "studies/all_sections.h"
 #include "studies/member.h"
 
@@ -24,12 +25,6 @@ namespace {
 
 constexpr std::size_t kRowsPerPiece = 256;
 constexpr std::size_t kMostValues = 1000000;
-
-/// A varied input with its values as they are written.
-struct Axis {
-  TableColumn column;
-  std::vector<std::string> values;
-};
 
 bool ParseNumber(std::string_view text, double& value) {
   const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -84,8 +79,10 @@ bool ParseFamily(const std::string& text, const Library& library,
   return !values.empty();
 }
 
-std::optional<Axis> ParseAxis(const std::string& set, const ProjectState& st,
-                              const Library& library, std::ostream& errors) {
+}  // namespace
+
+std::optional<VaryAxis> ParseAxis(const std::string& set, const ProjectState& st,
+                                  const Library& library, std::ostream& errors) {
   const auto equals = set.find('=');
   const std::string name = set.substr(0, equals);
   const auto input = FindMemberInput(name, st);
@@ -94,7 +91,7 @@ std::optional<Axis> ParseAxis(const std::string& set, const ProjectState& st,
            << " (nearest: " << NearestWord(name, MemberInputNames()) << ")\n";
     return std::nullopt;
   }
-  Axis axis{{name, input}, {}};
+  VaryAxis axis{{name, input}, {}};
   const std::string list = equals == std::string::npos ? "" : set.substr(equals + 1);
   const bool number = input->kind == InputKind::Field || input->kind == InputKind::Loads;
   const bool parsed =
@@ -117,8 +114,10 @@ std::optional<Axis> ParseAxis(const std::string& set, const ProjectState& st,
   return axis;
 }
 
+namespace {
+
 /// The grid's rows first..last-1; the last input varies fastest.
-void WriteRows(const std::vector<Axis>& axes, std::size_t first, std::size_t last,
+void WriteRows(const std::vector<VaryAxis>& axes, std::size_t first, std::size_t last,
                std::string& rows) {
   const CsvManner manner;
   for (std::size_t row = first; row < last; ++row) {
@@ -147,7 +146,7 @@ int RunVary(std::shared_ptr<const Library> library, const VaryOptions& options,
   auto results = ResultsOf(options.columns, errors);
   if (!results) return kBadInput;
   plan.results = std::move(*results);
-  std::vector<Axis> axes;
+  std::vector<VaryAxis> axes;
   std::size_t all = 1;
   for (const std::string& set : options.sets) {
     auto axis = ParseAxis(set, plan.base, *library, errors);
@@ -160,6 +159,11 @@ int RunVary(std::shared_ptr<const Library> library, const VaryOptions& options,
     plan.kept.push_back(axes.size());
     plan.columns.push_back(axis->column);
     axes.push_back(std::move(*axis));
+  }
+  if (!options.plot.empty()) {
+    const int status = PlotGrid(library, started, plan.base, axes, options, output, errors);
+    // The table is written where a place for it was named.
+    if (status != kAllPass || options.csv.empty()) return status;
   }
   const bool toFile = !options.csv.empty() && options.csv != kStandardStream;
   const WriteRules rules{{options.file}};
