@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/console/pictures.h"
 
-#include <dlfcn.h>
-
 #include <array>
 #include <filesystem>
 #include <ostream>
 #include <vector>
 
+#include "core/file_path.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
+#include "front/console/painter_module.h"
 #include "front/console/terminal.h"
-#include "presentation/svg_target.h"
+#include "front/painter/svg_page.h"
 
 namespace korvane {
 
@@ -19,23 +19,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Paints through the loadable module beside the program or in the library folder. Returns an
-/// empty text, or what went wrong.
+/// Paints through the loadable module. Returns an empty text, or what went wrong.
 std::string PaintByModule(const PaintJob& job, std::string& bytes) {
-  std::error_code ignored;
-  const fs::path here = fs::read_symlink("/proc/self/exe", ignored).parent_path();
-  for (const fs::path& folder : {here, here / KORVANE_MODULE_FROM_BIN}) {
-    const fs::path module = folder / kPaintModule;
-    if (!fs::exists(module, ignored)) continue;
-    void* handle = dlopen(module.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (handle == nullptr) return std::string("can't load the painter: ") + dlerror();
-    const auto entry = reinterpret_cast<PaintEntry>(dlsym(handle, kPaintEntry));
-    if (entry == nullptr) return std::string("can't load the painter: ") + dlerror();
-    std::string error;
-    entry(&job, &bytes, &error);
-    return error;
-  }
-  return std::string("the painter ") + kPaintModule + " is not installed";
+  std::string error;
+  if (const PaintEntry paint = LoadPainter(error)) paint(&job, &bytes, &error);
+  return error;
 }
 
 struct FormatWord {
@@ -54,19 +42,17 @@ struct Made {
 
 /// OUT-N.EXT for a page of several.
 std::string PagePath(const std::string& path, std::size_t number) {
-  const fs::path whole(path);
+  const fs::path whole = FilePath(path);
   const std::string name =
-      whole.stem().string() + "-" + std::to_string(number) + whole.extension().string();
-  return (whole.parent_path() / name).string();
+      FileName(whole.stem()) + "-" + std::to_string(number) + FileName(whole.extension());
+  return FileName(whole.parent_path() / FilePath(name));
 }
 
 /// One page in its format. Returns an empty text, or what went wrong.
 std::string PaintPage(const PaintJob& job, PictureFormat format, std::size_t page,
                       std::string& bytes) {
   if (format == PictureFormat::Svg) {
-    SvgTarget target(job.width, job.height, job.title, Palette::Light());
-    job.pages.at(page)(target);
-    bytes = target.Document();
+    bytes = SvgPage(job, page);
     return {};
   }
   PaintJob one = job;
@@ -78,9 +64,8 @@ std::string PaintPage(const PaintJob& job, PictureFormat format, std::size_t pag
 /// Paints everything before anything is written: a PDF holds all pages, a picture one.
 std::string PaintAll(const PaintJob& job, PictureFormat format, const std::string& output,
                      std::vector<Made>& made) {
-  if (format == PictureFormat::Pdf) {
+  if (format == PictureFormat::Pdf)
     return PaintByModule(job, made.emplace_back(Made{output, {}}).bytes);
-  }
   const bool several = job.pages.size() > 1;
   for (std::size_t page = 0; page < job.pages.size(); ++page) {
     Made& file = made.emplace_back(Made{several ? PagePath(output, page + 1) : output, {}});
@@ -96,7 +81,7 @@ std::optional<PictureFormat> FormatOf(const PictureOutput& to, PictureFormat onS
   std::string word = to.format;
   if (word.empty()) {
     if (to.path == kStandardStream) return onStandardOutput;
-    word = fs::path(to.path).extension().string();
+    word = FileName(FilePath(to.path).extension());
     word.erase(0, 1);
     for (char& c : word)
       if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');

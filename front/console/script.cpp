@@ -6,10 +6,10 @@
 #include <cstdlib>
 #include <deque>
 
-#include "front/console/design_json.h"
 #include "front/console/exit_status.h"
-#include "front/console/nearest.h"
+#include "front/design_json.h"
 #include "front/named_session.h"
+#include "front/nearest.h"
 
 namespace korvane {
 
@@ -255,7 +255,7 @@ int RunScript(std::shared_ptr<const Library> library, bool decimalComma, std::is
       err << where << error.what() << "\n";
       return kBadInput;
     } catch (const CalculationFault& fault) {
-      err << where << "arithmetic failure in " << fault.what() << "\n";
+      err << where << FaultText(fault.what()) << "\n";
       return kArithmeticFailure;
     } catch (const ArithmeticFault& fault) {
       err << where << "arithmetic failure: " << fault.what() << "\n";

@@ -9,10 +9,10 @@
 #include "front/console/csv.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
-#include "front/console/json_writer.h"
 #include "front/console/pictures.h"
 #include "front/console/terminal.h"
 #include "front/console/vary.h"
+#include "front/json_writer.h"
 #include "presentation/study_charts.h"
 #include "studies/member.h"
 
