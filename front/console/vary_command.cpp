@@ -135,6 +135,44 @@ void WriteRows(const std::vector<VaryAxis>& axes, std::size_t first, std::size_t
   }
 }
 
+/// What is designed.
+struct Grid {
+  const TablePlan& plan;
+  const std::vector<VaryAxis>& axes;
+  const Design& started;
+  int jobs = 0;
+  std::size_t all = 0;
+};
+
+void DesignGrid(const Grid& grid, const MemberInputs& inputs, std::ostream& out,
+                std::ostream& errors, bool showProgress, TableCounts& counts) {
+  ProgressBar bar(errors, showProgress, "designs");
+  out << TableHeader(grid.plan);
+  std::size_t next = 0;
+  WorkInOrder<TablePiece>(
+      ThreadsFor(grid.jobs, grid.all),
+      [&](TablePiece& piece) {
+        piece = {};
+        piece.first = next + 2;
+        const std::size_t last = std::min(grid.all, next + kRowsPerPiece);
+        if (next == last || StopSignal::Received() != 0) return false;
+        WriteRows(grid.axes, next, last, piece.rows);
+        next = last;
+        return true;
+      },
+      [&] {
+        return [designer = RowDesigner(grid.plan, inputs, grid.started)](
+                   TablePiece& piece) mutable { designer.DesignRows(piece); };
+      },
+      [&](const TablePiece& piece) {
+        out << piece.lines;
+        counts.Add(piece.counts);
+        bar.Update(counts.All(), grid.all);
+        return bool(out);
+      });
+  bar.Finish();
+}
+
 }  // namespace
 
 int RunVary(std::shared_ptr<const Library> library, const VaryOptions& options,
@@ -165,52 +203,21 @@ int RunVary(std::shared_ptr<const Library> library, const VaryOptions& options,
     // The table is written where a place for it was named.
     if (status != kAllPass || options.csv.empty()) return status;
   }
-  const bool toFile = !options.csv.empty() && options.csv != kStandardStream;
-  const WriteRules rules{{options.file}};
-  if (const WriteResult refused = toFile ? CheckWritable(options.csv, rules) : WriteResult();
-      !refused) {
-    TellNotSaved(options.csv, refused, errors);
-    return kBadInput;
-  }
   const StopSignal stop;
-  std::ostringstream made;
-  std::ostream& out = toFile ? made : output;
   const MemberInputs inputs(library);
   TableCounts counts;
-  ProgressBar bar(errors, showProgress, "designs");
-  out << TableHeader(plan);
-  std::size_t next = 0;
-  WorkInOrder<TablePiece>(
-      ThreadsFor(options.jobs, all),
-      [&](TablePiece& piece) {
-        piece = {};
-        piece.first = next + 2;
-        const std::size_t last = std::min(all, next + kRowsPerPiece);
-        if (next == last || StopSignal::Received() != 0) return false;
-        WriteRows(axes, next, last, piece.rows);
-        next = last;
-        return true;
-      },
-      [&] {
-        return [designer = RowDesigner(plan, inputs, started)](TablePiece& piece) mutable {
-          designer.DesignRows(piece);
-        };
-      },
-      [&](const TablePiece& piece) {
-        out << piece.lines;
-        counts.Add(piece.counts);
-        bar.Update(counts.All(), all);
-        return bool(out);
-      });
-  bar.Finish();
-  output.flush();
+  const WriteRules rules{{options.file}};
+  const WriteResult written = WriteAsMade(options.csv, rules, output, [&](std::ostream& to) {
+    DesignGrid({plan, axes, started, options.jobs, all}, inputs, to, errors, showProgress, counts);
+    return StopSignal::Received() == 0 || counts.All() == all;
+  });
   if (const int signal = StopSignal::Received(); signal != 0 && counts.All() < all) {
     errors << "stopped after " << counts.All() << " of " << all << " designs\n";
     return kStoppedBySignal + signal;
   }
-  if (toFile) {
-    const int failed = SaveOutput(options.csv, made.view(), rules, output, errors);
-    if (failed != kAllPass) return failed;
+  if (!written) {
+    TellNotSaved(options.csv, written, errors);
+    return kBadInput;
   }
   errors << Totals(counts, "designs");
   return counts.ExitStatus();

@@ -141,6 +141,103 @@ TEST(Table, SharesPutTogetherAreTheWhole) {
   }
 }
 
+/// Counts what is read of a text.
+class CountingBuffer : public std::stringbuf {
+public:
+  explicit CountingBuffer(const std::string& text) : std::stringbuf(text, std::ios::in) {}
+  std::size_t bytes = 0;
+
+protected:
+  std::streamsize xsgetn(char* to, std::streamsize size) override {
+    const std::streamsize n = std::stringbuf::xsgetn(to, size);
+    bytes += static_cast<std::size_t>(n);
+    return n;
+  }
+};
+
+/// Rows with a long comment; every 1009th is refused, and every so many have a comment in quotes
+/// with a line end in it, where that is asked for.
+std::string ManyRows(int count, int quoted) {
+  std::string table = "mark,L,q1,comment\n";
+  for (int i = 0; i < count; ++i) {
+    const bool quotes = quoted > 0 && i % quoted == 0;
+    table += "m" + std::to_string(i) + "," + (i % 1009 == 500 ? "-1" : "4.5") + ",3," +
+             (quotes ? "\"a \"\"word\"\"\nand " : "") + std::string(220, 'c') +
+             (quotes ? "\"" : "") + "\n";
+  }
+  return table;
+}
+
+TEST(Table, AShareReadsNothingThatStandsFarAheadOfIt) {
+  const TempFolder folder;
+  const std::string text = ManyRows(30000, 0);
+  ASSERT_GT(text.size(), std::size_t{6} << 20U);
+  PutFile(folder / "t.csv", text);
+  std::string whole, parts;
+  for (int shard = 0; shard <= 4; ++shard) {
+    TableOptions options;
+    options.members = folder / "t.csv";
+    options.columns = "standing,notes";
+    options.shard = std::max(1, shard);
+    options.shards = shard == 0 ? 1 : 4;
+    CountingBuffer buffer(text);
+    std::istream in(&buffer);
+    std::ostringstream out, err;
+    TableCounts counts;
+    ASSERT_EQ(DesignTable(SourceLibrary(), options, in, text.size(), out, err, false, counts), 0)
+        << err.str();
+    (shard == 0 ? whole : parts) += out.str();
+    // Its own quarter, the longest row before it, and what is read at once.
+    if (shard > 0) {
+      EXPECT_LT(buffer.bytes, text.size() / 4 + (std::size_t{3} << 19U)) << shard;
+    }
+  }
+  // Refused rows tell the number that they have in the whole table: 28 * 1009 + 500 behind the
+  // headings.
+  EXPECT_NE(whole.find("row 28754: "), std::string::npos);
+  EXPECT_EQ(parts, whole);
+}
+
+TEST(Table, SharesOfQuotedLinesPutTogetherAreTheWhole) {
+  const TempFolder folder;
+  for (const int quoted : {7, 9000}) {
+    PutFile(folder / "t.csv", ManyRows(16000, quoted));
+    const auto run = [&](int shard, int shards) {
+      TableOptions options;
+      options.members = folder / "t.csv";
+      options.columns = "standing,notes";
+      options.shard = shard;
+      options.shards = shards;
+      std::ostringstream out, err;
+      RunTable(SourceLibrary(), options, out, err, false);
+      return out.str();
+    };
+    std::string parts;
+    for (int shard = 1; shard <= 5; ++shard) parts += run(shard, 5);
+    EXPECT_EQ(parts, run(1, 1)) << quoted;
+  }
+}
+
+TEST(Table, AFileIsWrittenInPiecesAndStandsWholeAtItsEnd) {
+  const TempFolder folder;
+  PutFile(folder / "t.csv", ManyRows(3000, 7));
+  PutFile(folder / "out.csv", "old");
+  TableOptions options;
+  options.members = folder / "t.csv";
+  std::ostringstream whole, out, err;
+  RunTable(SourceLibrary(), options, whole, err, false);
+  options.output = folder / "out.csv";
+  RunTable(SourceLibrary(), options, out, err, false);
+  EXPECT_EQ(out.str(), "");
+  EXPECT_EQ(GetFile(folder / "out.csv"), whole.str());
+  // An unknown heading leaves it as it was, and nothing beside it.
+  PutFile(folder / "t.csv", "mark,nothing\n1,2\n");
+  EXPECT_EQ(RunTable(SourceLibrary(), options, out, err, false), 2);
+  EXPECT_EQ(GetFile(folder / "out.csv"), whole.str());
+  const auto files = std::filesystem::directory_iterator(folder.Path());
+  EXPECT_EQ(std::distance(begin(files), end(files)), 2);
+}
+
 TEST(Table, AnEmptyCellKeepsTheBasesValue) {
   const Ran ran = Design("section,L\nHEA200,\n,5\nHEA200,5\n", Columns("MaxIR"));
   const Strings lines = Lines(ran.output);
