@@ -24,11 +24,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-ReportTime Now() {
-  const std::tm local = LocalTime(std::time(nullptr));
-  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min};
-}
-
 struct Arguments {
   std::string file, kind = "control", what, output, format, data;
 };
@@ -63,7 +58,7 @@ int RunReport(const Arguments& a) {
   const std::string name =
       a.file == kStandardStream ? "project.kvn" : FileName(FilePath(a.file).filename());
   const PaintJob job =
-      ReportJob(design, FindSheets(a.kind)->reports, Now(), {name, std::move(bytes)});
+      ReportJob(design, FindSheets(a.kind)->reports, TimeOfPrint(), {name, std::move(bytes)});
   if (const int status = Finish(job, a, PictureFormat::Pdf)) return status;
   return StatusOf(VerdictOf(design));
 }

@@ -2,16 +2,19 @@
 #include "front/console/pictures.h"
 
 #include <array>
+#include <exception>
 #include <filesystem>
 #include <ostream>
+#include <utility>
 #include <vector>
 
 #include "core/file_path.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
-#include "front/console/painter_module.h"
 #include "front/console/terminal.h"
 #include "front/painter/svg_page.h"
+#include "front/painter_module.h"
+#include "front/system.h"
 
 namespace korvane {
 
@@ -19,10 +22,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Paints through the loadable module. Returns an empty text, or what went wrong.
-std::string PaintByModule(const PaintJob& job, std::string& bytes) {
-  std::string error;
-  if (const PaintEntry paint = LoadPainter(error)) paint(&job, &bytes, &error);
+/// Paints through the module beside the program or in the library folder.
+std::string Paint(const PaintJob& job, std::string& bytes) {
+  const fs::path here = ProgramFolder();
+  // No exception of ours goes through the module, which has the language's library to itself.
+  std::exception_ptr failed;
+  PaintJob guarded = job;
+  for (auto& page : guarded.pages) {
+    page = [&failed, draw = std::move(page)](DrawingTarget& target) {
+      try {
+        if (!failed) draw(target);
+      } catch (...) {
+        failed = std::current_exception();
+      }
+    };
+  }
+  const std::string error = PaintByModule(guarded, {here, here / KORVANE_MODULE_FROM_BIN}, bytes);
+  if (failed) std::rethrow_exception(failed);
   return error;
 }
 
@@ -58,14 +74,13 @@ std::string PaintPage(const PaintJob& job, PictureFormat format, std::size_t pag
   PaintJob one = job;
   one.format = PaintFormat::Png;
   one.pages = {job.pages.at(page)};
-  return PaintByModule(one, bytes);
+  return Paint(one, bytes);
 }
 
 /// Paints everything before anything is written: a PDF holds all pages, a picture one.
 std::string PaintAll(const PaintJob& job, PictureFormat format, const std::string& output,
                      std::vector<Made>& made) {
-  if (format == PictureFormat::Pdf)
-    return PaintByModule(job, made.emplace_back(Made{output, {}}).bytes);
+  if (format == PictureFormat::Pdf) return Paint(job, made.emplace_back(Made{output, {}}).bytes);
   const bool several = job.pages.size() > 1;
   for (std::size_t page = 0; page < job.pages.size(); ++page) {
     Made& file = made.emplace_back(Made{several ? PagePath(output, page + 1) : output, {}});

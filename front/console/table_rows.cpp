@@ -247,8 +247,12 @@ void RowDesigner::DesignRows(TablePiece& piece) {
   }
 }
 
+std::size_t RowDesigner::InWhole(std::size_t number) const {
+  return number + (plan_.rowsBefore ? plan_.rowsBefore() : 0);
+}
+
 std::string RowDesigner::RowName(std::size_t number) const {
-  return "row " + std::to_string(number + (plan_.rowsBefore ? plan_.rowsBefore() : 0));
+  return "row " + std::to_string(InWhole(number));
 }
 
 std::optional<std::string> RowDesigner::SetInputs(std::size_t number) {
@@ -260,10 +264,8 @@ std::optional<std::string> RowDesigner::SetInputs(std::size_t number) {
     if (plan_.columns[i].input) set_.push_back({&*plan_.columns[i].input, cells_[i]});
   }
   input_ = plan_.base;
-  auto refused = inputs_.Set(set_, plan_.manner.decimalComma, input_);
-  // "column q1: ..." as "column q1, row 17: ...".
-  if (refused) refused->insert(refused->find(": "), ", " + RowName(number));
-  return refused;
+  const auto refused = inputs_.Put(set_, plan_.manner.decimalComma, input_);
+  return refused ? std::optional(refused->InColumn(InWhole(number))) : std::nullopt;
 }
 
 void RowDesigner::DesignRow(std::size_t number, TablePiece& piece) {

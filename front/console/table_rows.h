@@ -77,9 +77,9 @@ public:
   std::size_t Rows() const { return rows_; }
   void Skip(std::size_t bytes);
   /// Goes to the beginning of the row that the byte ahead of the place belongs to, without reading
-  /// what stands far ahead of it, and counts rows anew from there. False, and nothing changed, where
-  /// the longest row before the place doesn't tell: it holds a quote or no line end. first: where
-  /// the rows begin.
+  /// what stands far ahead of it, and counts rows anew from there. False, and nothing changed,
+  /// where the longest row before the place doesn't tell: it holds a quote or no line end. first:
+  /// where the rows begin.
   bool Seek(std::size_t first, std::size_t place);
 
 private:
@@ -101,7 +101,8 @@ public:
 private:
   void DesignRow(std::size_t number, TablePiece& piece);
   std::optional<std::string> SetInputs(std::size_t number);
-  /// "row 17", as the whole table counts.
+  /// The number of a row in the whole table, and "row 17" of it.
+  std::size_t InWhole(std::size_t number) const;
   std::string RowName(std::size_t number) const;
   void AppendRow(const std::string* refused, std::string& lines);
   void Count(const std::string* refused, TableCounts& counts) const;
