@@ -38,8 +38,10 @@ const pages = [
   ["files.html", "Files", "Tools"],
   ["console.html", "The console program", "Tools"],
   ["tables.html", "Tables of members and studies", "Tools"],
+  ["trust.html", "Before you trust a result", "When in doubt"],
   ["fails.html", "It fails, what now?", "When in doubt"],
   ["notes.html", "Verdict and notes", "When in doubt"],
   ["messages.html", "Messages and what to do", "When in doubt"],
+  ["verification.html", "Verification", "When in doubt"],
   ["glossary.html", "Symbols and words, English and Norwegian", "When in doubt"],
 ];
