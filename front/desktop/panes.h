@@ -2,6 +2,7 @@
 // The painted panes of the windows: section figure, result lines, verdict, mode shapes.
 #pragma once
 
+#include <QImage>
 #include <QLabel>
 #include <QWidget>
 
@@ -9,6 +10,8 @@
 #include "front/headline.h"
 #include "front/session.h"
 #include "presentation/drawing_target.h"
+
+class QMenu;
 
 namespace korvane {
 
@@ -22,6 +25,13 @@ public:
   virtual void Refresh() { update(); }
   /// A paled pane shows that what it draws doesn't hold at present.
   void SetPaled(bool paled);
+  /// The pane as it is copied and saved, without the marks of pointer and focus; a notice at the
+  /// head where the results aren't those of the state in force.
+  QImage Picture();
+  /// What the pane shows as a table for the clipboard; empty where it is none.
+  virtual QString Table() const { return {}; }
+  /// The copy key: picture and table, whichever the other program takes.
+  virtual void Copy();
 
 signals:
   void Clicked();
@@ -31,11 +41,15 @@ protected:
   void mouseReleaseEvent(QMouseEvent* event) override;
   /// A frame tells that the Tab key has come here.
   void focusInEvent(QFocusEvent* event) override;
-  /// The space bar is a click.
+  /// The space bar is a click, and the copy key copies.
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   /// Draws the pane; an arithmetic failure leaves it empty from there on.
   virtual void Draw(QPainter& painter) = 0;
+  /// What only the screen shows on top.
+  virtual void DrawMarks(QPainter&) {}
+  /// The entries of the context menu.
+  virtual void AddActions(QMenu& menu);
   /// Name of the file that an export proposes.
   virtual QString ExportName() const { return objectName(); }
 
@@ -43,6 +57,11 @@ protected:
   QPalette::ColorRole ground_ = QPalette::Base;
 
 private:
+  QString Notice() const;
+  QSize PictureSize() const;
+  void PaintPicture(QPainter& painter);
+  void PaintContent(QPainter& painter);
+  void CopyPicture();
   void Export(bool vector);
   bool paled_ = false;
   bool framed_ = false;
@@ -87,7 +106,8 @@ public:
   void Refresh() override;
   /// The lines as text, as the context menu copies them.
   QStringList Lines() const;
-  void Copy() const;
+  void Copy() override;
+  QString Table() const override;
   /// Marks the first line with this ratio until the lines change. Its place in the pane, empty
   /// where no line has it.
   QRect MarkRatio(const QString& ratio);
@@ -95,8 +115,7 @@ public:
 
 protected:
   void Draw(QPainter& painter) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
+  void AddActions(QMenu& menu) override;
   void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -2,13 +2,12 @@
 // The result lines: runs of text in their styles, a bar beside each ratio.
 #include <QApplication>
 #include <QClipboard>
-#include <QContextMenuEvent>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <algorithm>
 
 #include "core/text.h"
+#include "front/copied_tables.h"
 #include "front/desktop/panes.h"
 #include "front/desktop/theme.h"
 
@@ -249,26 +248,18 @@ void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
                           thick / 2, thick / 2);
 }
 
-void ResultPane::contextMenuEvent(QContextMenuEvent* event) {
-  QMenu menu;
+void ResultPane::AddActions(QMenu& menu) {
   menu.addAction(tr("Copy result lines"), QKeySequence::Copy, this, [this] { Copy(); });
-  menu.exec(event->globalPos());
+  Pane::AddActions(menu);
 }
 
-void ResultPane::keyPressEvent(QKeyEvent* event) {
-  if (event->matches(QKeySequence::Copy)) {
-    Copy();
-  } else {
-    Pane::keyPressEvent(event);
-  }
+QString ResultPane::Table() const {
+  return QString::fromStdString(CheckTable(session_));
 }
 
-void ResultPane::Copy() const {
-  QStringList lines = Lines();
-  if (const std::string why = session_.NotCalculated(); !why.empty()) {
-    lines.prepend(QString::fromStdString(why));
-  }
-  QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+void ResultPane::Copy() {
+  const std::string lines = Lines().join(QLatin1Char('\n')).toStdString();
+  QApplication::clipboard()->setText(QString::fromStdString(WithNotice(session_, lines)));
 }
 
 }  // namespace korvane

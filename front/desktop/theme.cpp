@@ -58,6 +58,10 @@ void ApplyTheme(Theme theme) {
   QApplication::setPalette(Made(dark ? kDark : kLight));
 }
 
+QPalette PaperPalette() {
+  return Made(kLight);
+}
+
 bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() <
          palette.color(QPalette::WindowText).lightness();

@@ -4,9 +4,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QStatusBar>
 #include <QWheelEvent>
 
 #include "front/desktop/diagram_pane.h"
@@ -201,17 +201,26 @@ TEST_F(DesktopTest, CopyKeyTakesTheResultLines) {
 
 TEST_F(DesktopTest, ArrowKeysWalkAlongTheDiagram) {
   Load("10");
+  Main().activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
   auto& box = On<DiagramBox>(Main(), "picmy");
+  const auto* tag = box.parentWidget()->findChild<QLabel*>("pointer_tag");
+  ASSERT_NE(tag, nullptr);
+  EXPECT_FALSE(tag->isVisible());
   box.setFocus();
+  EXPECT_TRUE(QTest::qWaitFor([&box] { return box.hasFocus(); }));
   QTest::keyClick(&box, Qt::Key_Home);
-  EXPECT_EQ(Main().statusBar()->currentMessage().simplified(),
-            "x = 0.000 m My = 0.0 kNm Vz = 30.0 kN");
+  EXPECT_TRUE(tag->isVisible());
+  EXPECT_EQ(tag->text(), "x = 0.000 m\nMy = 0.0 kNm\nVz = 30.0 kN");
   for (int k = 0; k < 25; ++k) QTest::keyClick(&box, Qt::Key_Right);
   // 1.2 * 10 * 5^2 / 8 at the middle
-  EXPECT_EQ(Main().statusBar()->currentMessage().simplified(),
-            "x = 2.500 m My = 37.5 kNm Vz = 0.0 kN");
+  EXPECT_EQ(tag->text(), "x = 2.500 m\nMy = 37.5 kNm\nVz = 0.0 kN");
   QTest::keyClick(&box, Qt::Key_End);
-  EXPECT_TRUE(Main().statusBar()->currentMessage().contains("x = 5.000 m"));
+  EXPECT_EQ(tag->text(), "x = 5.000 m\nMy = 0.0 kNm\nVz = -30.0 kN");
+  // Beside the hairline, within the plane.
+  EXPECT_TRUE(box.parentWidget()->rect().contains(tag->geometry()));
+  Field("il").setFocus();
+  EXPECT_FALSE(tag->isVisible());
 }
 
 }  // namespace
