@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollArea>
 #include <optional>
 
 #include "front/desktop/desktop.h"
@@ -47,6 +48,13 @@ private:
 
 void ShowText(QLabel* label, const QString& text) {
   if (label->text() != text) label->setText(text);
+}
+
+/// Brings a widget into sight wherever it stands in something that scrolls.
+void ScrollTo(QWidget& widget) {
+  for (QWidget* above = widget.parentWidget(); above != nullptr; above = above->parentWidget()) {
+    if (auto* scroll = qobject_cast<QScrollArea*>(above)) scroll->ensureWidgetVisible(&widget);
+  }
 }
 
 bool IsReturn(const QEvent* event) {
@@ -238,6 +246,7 @@ void FormBinder::TakeFocus(const Control& control) {
     return;
   }
   widget->setFocus(Qt::OtherFocusReason);
+  ScrollTo(*widget);
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
 }
 

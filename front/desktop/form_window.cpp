@@ -3,6 +3,8 @@
 
 #include <QCloseEvent>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -39,7 +41,16 @@ FormWindow::FormWindow(Desktop& desktop, const Form& form, QWidget* parent)
   setObjectName(QString::fromStdString(form.name));
   setModal(form.modal);
   WidgetMaker maker(form, desktop.session());
-  LayOutOf(form)(maker, this);
+  auto* controls = new QWidget;
+  LayOutOf(form)(maker, controls);
+  scroll_ = new QScrollArea;
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setWidgetResizable(true);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setWidget(controls);
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(0, 0, 0, 0);
+  all->addWidget(scroll_);
   binder_ = new FormBinder(desktop, maker, this);
   // Drawings that are no control of the form follow the session too.
   connect(&desktop, &Desktop::Refreshed, this, [this] {
@@ -55,6 +66,16 @@ FormWindow::FormWindow(Desktop& desktop, const Form& form, QWidget* parent)
       value->setForegroundRole(awaits ? QPalette::Mid : QPalette::WindowText);
     }
   });
+}
+
+QSize FormWindow::sizeHint() const {
+  const QSize whole = scroll_->widget()->sizeHint();
+  const QSize room = screen()->availableSize() - kWindowFrame;
+  QSize fits = whole.boundedTo(room);
+  // A bar takes room of its own from what is seen.
+  if (fits.height() < whole.height()) fits.rwidth() += scroll_->verticalScrollBar()->width();
+  if (fits.width() < whole.width()) fits.rheight() += scroll_->horizontalScrollBar()->height();
+  return fits.boundedTo(room);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

@@ -6,6 +6,8 @@
 
 #include "front/form_table.h"
 
+class QScrollArea;
+
 namespace korvane {
 
 class Desktop;
@@ -20,6 +22,8 @@ public:
   FormBinder& binder() { return *binder_; }
   /// Escape closes as the frame's button does.
   void reject() override { close(); }
+  /// What the controls ask for, within the screen: what has no room there is scrolled to.
+  QSize sizeHint() const override;
 
 protected:
   void closeEvent(QCloseEvent* event) override;
@@ -32,6 +36,7 @@ private:
   Desktop& desktop_;
   const Form& form_;
   FormBinder* binder_;
+  QScrollArea* scroll_;
   bool placed_ = false;
 };
 

@@ -33,6 +33,13 @@ QSettings Store() {
                    QStringLiteral("Korvane_ns"));
 }
 
+/// The first time most of the screen is taken, on a small one all that it has for a window.
+QSize FirstSize(const QSize& room) {
+  return QSize(1760, 990)
+      .boundedTo(room * 9 / 10)
+      .expandedTo(QSize(1280, 720).boundedTo(room - kWindowFrame));
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
@@ -54,10 +61,6 @@ MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
   progress_->setMaximumHeight(Ems(this, 1.2));
   progress_->hide();
   statusBar()->addPermanentWidget(progress_);
-  for (DiagramPane* plane : planes_) {
-    connect(plane, &DiagramPane::Pointed, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
-  }
   binder_ = new FormBinder(desktop_, maker, this);
   connect(&desktop_, &Desktop::Refreshed, this, &MainWindow::Refresh);
   // The field in use has been left by then: the binder hears the button first.
@@ -139,7 +142,7 @@ void MainWindow::RefreshMenus() {
 void MainWindow::Refresh() {
   setWindowTitle(QString::fromStdString(desktop_.session().Title(*TheForms().main)));
   RefreshMenus();
-  for (DiagramPane* plane : planes_) plane->Refresh();
+  RefreshPlanes();
   // The verdict is no control of the form.
   verdict_->Refresh();
   // No result may be taken for one of a section that it was not calculated with.
@@ -218,9 +221,8 @@ void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
 
 void MainWindow::RestoreSizes() {
   const QSettings store = Store();
-  // The first time most of the screen is taken, and never less than the smallest one offers.
-  const QSize room = screen()->availableSize() * 9 / 10;
-  resize(QSize(1760, 990).boundedTo(room).expandedTo(QSize(1280, 720)));
+  resize(FirstSize(screen()->availableSize()));
+  splitters_.back()->setSizes({inputWidth_, width() - inputWidth_});
   restoreGeometry(store.value(QStringLiteral("Window/geometry")).toByteArray());
   for (QSplitter* splitter : splitters_) {
     splitter->restoreState(

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <vector>
 
+class QLayout;
 class QProgressBar;
 class QSplitter;
 
@@ -45,7 +46,9 @@ private:
   void Refresh();
   QWidget* InputColumn(WidgetMaker& maker);
   QWidget* ResultSide(WidgetMaker& maker);
-  QWidget* Plane(WidgetMaker& maker, const Control* frame, std::vector<std::string> boxes);
+  QLayout* Head(WidgetMaker& maker);
+  QWidget* Plane(WidgetMaker& maker, const Control* frame);
+  void RefreshPlanes();
   QWidget* OptimiserPanel(WidgetMaker& maker);
   void RestoreSizes();
   void SaveSizes() const;
@@ -56,6 +59,7 @@ private:
   std::vector<std::pair<const Control*, QAction*>> actions_;
   std::vector<DiagramPane*> planes_;
   std::vector<QSplitter*> splitters_;
+  int inputWidth_ = 0;  ///< of the inputs without scrolling to the side
   QProgressBar* progress_ = nullptr;
 };
 

@@ -359,8 +359,13 @@ void AddFrames(Form& form, MainControls& on) {
                         Offers(&FamilyOptions::bending)));
   on.fr15 = Put(form, FrameOf("fr15", "Section class 4", OffersClassFour));
   on.fr31 = Put(form, FrameOf("fr31", "Results (ULS)"));
-  on.fr21 = Put(form, FrameOf("fr21", "Loading/Moment/Shear/Deflection - Z-axis  "));
-  on.fr22 = Put(form, FrameOf("fr22", "Loading/Moment/Shear/Deflection - Y-axis  "));
+  const auto plane = [&](const char* name, const char* caption, Plane which) {
+    Control frame = FrameOf(name, caption);
+    frame.visible = [which](const Session& s) { return !PlaneFolds(s.design(), which); };
+    return Put(form, std::move(frame));
+  };
+  on.fr21 = plane("fr21", "Loading/Moment/Shear/Deflection - Z-axis  ", Plane::Z);
+  on.fr22 = plane("fr22", "Loading/Moment/Shear/Deflection - Y-axis  ", Plane::Y);
 }
 
 void AddLabels(Form& form, MainControls& on) {
