@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What is the same on every system: sentences and names. The file calls stand in files_posix.
+// What is the same on every system: sentences and names. The file calls stand in files_posix
+// and files_windows.
 #include "core/files.h"
 
 #include <algorithm>
@@ -25,6 +26,7 @@ constexpr std::array kSentences{
     Sentence{WriteStatus::NotAFile, "A device or a pipe has this name; - is the standard output."},
     Sentence{WriteStatus::IsInput, "The same command reads this file."},
     Sentence{WriteStatus::ReadOnly, "The file is read-only."},
+    Sentence{WriteStatus::InUse, "Another program has the file open."},
     Sentence{WriteStatus::NotAllowed, "The folder may not be written to."},
     Sentence{WriteStatus::DiskFull, "The disk is full; nothing has changed on it."},
     Sentence{WriteStatus::Failed, "The disk did not take it; nothing has changed on it."},

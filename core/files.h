@@ -19,6 +19,7 @@ enum class WriteStatus {
   NotAFile,    ///< a device, a pipe or a socket has this name
   IsInput,     ///< the same command reads this file
   ReadOnly,    ///< the file is write-protected
+  InUse,       ///< another program holds the file; only some systems know this
   NotAllowed,  ///< the folder or the disk may not be written to
   DiskFull,    ///< no room, or beyond a limit on sizes
   Failed,      ///< anything else
@@ -47,7 +48,7 @@ std::optional<std::string> ReadWholeFile(const std::string& path, bool* notFound
 /// A file with several names, or whose owner or access can't be given to a new one, is written in
 /// place, after its content was flushed to a copy beside it that is removed at the end, and from
 /// which it is restored after a failure. Temporary files of killed processes in the folder are
-/// removed after a day.
+/// removed after a day. On Windows the names of devices are refused in every folder.
 WriteResult WriteFile(const std::string& path, std::string_view bytes,
                       const WriteRules& rules = {});
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/data_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
 
+#include "core/file_path.h"
+#include "front/system.h"
 #include "sections/readprofiles.h"
 
 namespace korvane {
@@ -11,13 +12,6 @@ namespace korvane {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Folder of the running program, empty when the system doesn't tell.
-fs::path ProgramFolder() {
-  std::error_code error;
-  const fs::path self = fs::read_symlink("/proc/self/exe", error);
-  return error ? fs::path{} : self.parent_path();
-}
 
 bool HasAnyCatalogue(const fs::path& folder) {
   std::error_code error;
@@ -36,17 +30,15 @@ std::string Checked(const std::string& folder) {
 
 std::string FindDataFolder(const std::string& asked) {
   if (!asked.empty()) return Checked(asked);
-  if (const char* env = std::getenv("KORVANE_DATA"); env != nullptr && *env != '\0') {
-    return Checked(env);
-  }
+  if (const auto named = Environment("KORVANE_DATA")) return Checked(*named);
   const fs::path here = ProgramFolder();
   if (!here.empty()) {
     // Installed beside the program's prefix, or run from a build folder inside the sources.
     for (const fs::path& candidate : {here / KORVANE_DATA_FROM_BIN, here / "data"}) {
-      if (HasAnyCatalogue(candidate)) return Checked(candidate.lexically_normal().string());
+      if (HasAnyCatalogue(candidate)) return Checked(FileName(candidate.lexically_normal()));
     }
     for (fs::path up = here; up.has_relative_path(); up = up.parent_path()) {
-      if (HasAnyCatalogue(up / "data")) return Checked((up / "data").string());
+      if (HasAnyCatalogue(up / "data")) return Checked(FileName(up / "data"));
     }
   }
   return Checked(KORVANE_BUILD_DATA);

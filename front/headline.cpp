@@ -54,7 +54,10 @@ Headline HeadlineOf(const Session& s) {
     h.notes.push_back(std::string(SeverityWord(KindOf(note.code).severity)) + ": " +
                       s.OnScreen(NoteText(note, d.lib->catalogues)));
   }
-  if (v.governing != Governing::None) h.figure = s.Shown(v.IR, "#0.00");
+  if (v.governing != Governing::None) {
+    h.ratio = v.IR;
+    h.figure = s.Shown(v.IR, "#0.00");
+  }
   AddServiceability(s, v, h);
   switch (v.standing) {
     case Standing::Passes:

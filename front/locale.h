@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How the locale of the environment writes numbers.
+// How the person's system writes numbers.
 #pragma once
 
 namespace korvane {
 
-/// Whether the environment's locale (LC_ALL, LC_NUMERIC, LANG) writes a decimal comma.
+/// Whether a decimal comma is written: by the environment's locale (LC_ALL, LC_NUMERIC, LANG), on
+/// Windows by the formats that the person has chosen.
 bool LocaleWritesComma();
 
 }  // namespace korvane

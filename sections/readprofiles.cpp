@@ -9,6 +9,7 @@
 #include <string>
 #include <system_error>
 
+#include "core/file_path.h"
 #include "core/files.h"
 
 namespace korvane {
@@ -119,7 +120,7 @@ std::vector<std::string> MissingCatalogues(const std::string& folder) {
   for (std::size_t i = 0; i < kCatalogues; ++i) {
     const auto cat = static_cast<Cat>(i);
     std::error_code ignored;
-    if (!std::filesystem::is_regular_file(PathOf(folder, cat), ignored)) {
+    if (!std::filesystem::is_regular_file(FilePath(PathOf(folder, cat)), ignored)) {
       missing.emplace_back(ShapeOf(cat).file);
     }
   }

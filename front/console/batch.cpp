@@ -11,6 +11,7 @@
 #include <system_error>
 #include <utility>
 
+#include "core/file_path.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
 #include "front/console/in_order.h"
@@ -42,7 +43,7 @@ void DesignChunk(const std::vector<std::string>& files, const Design& started, b
 }
 
 bool IsProjectName(const fs::path& path) {
-  std::string extension = path.extension().string();
+  std::string extension = FileName(path.extension());
   for (char& c : extension)
     if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
   return extension == ".kvn";
@@ -57,10 +58,10 @@ void AddProjectsBelow(const fs::path& folder, std::vector<std::string>& found) {
       // A link to a folder may lead back up.
       if (!it->is_symlink(unknown)) AddProjectsBelow(it->path(), found);
     } else if (IsProjectName(it->path())) {
-      found.push_back(it->path().string());
+      found.push_back(FileName(it->path()));
     }
   }
-  if (failed) found.push_back(folder.string());
+  if (failed) found.push_back(FileName(folder));
 }
 
 std::vector<std::string> ProjectsBelow(const fs::path& folder) {
@@ -102,11 +103,11 @@ std::vector<std::string> FindProjects(const std::vector<std::string>& inputs) {
   std::vector<std::string> files;
   for (const std::string& input : inputs) {
     std::error_code unknown;
-    if (!fs::is_directory(input, unknown)) {
+    if (!fs::is_directory(FilePath(input), unknown)) {
       files.push_back(input);
       continue;
     }
-    for (std::string& file : ProjectsBelow(input)) files.push_back(std::move(file));
+    for (std::string& file : ProjectsBelow(FilePath(input))) files.push_back(std::move(file));
   }
   return files;
 }

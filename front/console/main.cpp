@@ -2,11 +2,11 @@
 // The console program: designs of members for scripts and batches.
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <csignal>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
 
+#include "core/file_path.h"
 #include "front/console/completion.h"
 #include "front/console/design_json.h"
 #include "front/console/design_text.h"
@@ -21,6 +21,7 @@
 #include "front/console/terminal.h"
 #include "front/data_folder.h"
 #include "front/locale.h"
+#include "front/system.h"
 #include "sections/names.h"
 #include "sections/profile_table.h"
 
@@ -42,7 +43,7 @@ int RunDesign(const std::string& file, const std::string& data, bool json) {
   }
   for (const std::string& remark : run.remarks) std::cerr << remark << "\n";
   for (const std::string& message : design.messages) std::cerr << message << "\n";
-  if (run.fault) std::cerr << "arithmetic failure in " << run.what << "\n";
+  if (run.fault) std::cerr << FaultText(run.what) << "\n";
   if (json) {
     std::cout << DesignJson(design, run.fault) << "\n";
   } else {
@@ -105,7 +106,7 @@ int RunSession(const std::string& script, const std::string& decimal, const std:
   const bool comma = decimal.empty() ? LocaleWritesComma() : decimal == "comma";
   if (script.empty() || script == kStandardStream)
     return RunScript(library, comma, std::cin, std::cout, std::cerr);
-  std::ifstream file(script);
+  std::ifstream file(FilePath(script));
   file.peek();  // a folder opens, but can't be read
   if (!file.is_open() || file.bad()) {
     std::cerr << "can't find file - " << NameOnErrors(script) << "\n";
@@ -130,7 +131,12 @@ bool TellUnknownCommand(const CLI::App& app, const std::string& word) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  const StandardStreams streams;
+  LeaveFailuresToUs();
+  const std::vector<std::string> words = CommandWords(argc, argv);
   CLI::App app{"Design of one steel member, a column or a beam, to NS 3472, 3rd edition"};
+  // A word that begins with a slash is a path on every system. The commands inherit it.
+  app.allow_windows_style_options(false);
   app.set_version_flag("--version", "korvane-cli " KORVANE_VERSION);
   app.require_subcommand(1);
   std::string data;
@@ -172,11 +178,11 @@ int main(int argc, char** argv) {
   AddPaintCommands(app, status);
   AddCompletionCommand(app);
 
-  // A limit on the size of files is told as a full disk.
-  std::signal(SIGXFSZ, SIG_IGN);
-  if (argc > 1 && !TellUnknownCommand(app, argv[1])) return kBadInput;
+  if (words.size() > 1 && !TellUnknownCommand(app, words[1])) return kBadInput;
   try {
-    app.parse(argc, argv);
+    std::vector<const char*> pointers;
+    for (const std::string& word : words) pointers.push_back(word.c_str());
+    app.parse(static_cast<int>(pointers.size()), pointers.data());
   } catch (const CLI::ParseError& error) {
     const int code = app.exit(error);
     return code == 0 ? kAllPass : kBadInput;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/console/paint.h"
 
-#include <dlfcn.h>
-
 #include <CLI/CLI.hpp>
 #include <array>
 #include <ctime>
@@ -10,13 +8,15 @@
 #include <iostream>
 #include <optional>
 
+#include "core/file_path.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
+#include "front/console/painter_module.h"
 #include "front/console/run_design.h"
 #include "front/console/terminal.h"
 #include "front/data_folder.h"
-#include "front/painter/paint_files.h"
 #include "front/painter/report_job.h"
+#include "front/system.h"
 #include "presentation/aprint.h"
 #include "presentation/figures.h"
 #include "presentation/grafik.h"
@@ -28,29 +28,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Paints through the loadable module beside the program or in the library folder. Returns an
-/// empty text, or what went wrong.
+/// Paints through the loadable module. Returns an empty text, or what went wrong.
 std::string PaintByModule(const PaintJob& job, std::string& bytes) {
-  std::error_code ignored;
-  const fs::path here = fs::read_symlink("/proc/self/exe", ignored).parent_path();
-  for (const fs::path& folder : {here, here / KORVANE_MODULE_FROM_BIN}) {
-    const fs::path module = folder / kPaintModule;
-    if (!fs::exists(module, ignored)) continue;
-    void* handle = dlopen(module.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (handle == nullptr) return std::string("can't load the painter: ") + dlerror();
-    const auto entry = reinterpret_cast<PaintEntry>(dlsym(handle, kPaintEntry));
-    if (entry == nullptr) return std::string("can't load the painter: ") + dlerror();
-    std::string error;
-    entry(&job, &bytes, &error);
-    return error;
-  }
-  return std::string("the painter ") + kPaintModule + " is not installed";
+  std::string error;
+  if (const PaintEntry paint = LoadPainter(error)) paint(&job, &bytes, &error);
+  return error;
 }
 
 ReportTime Now() {
-  const std::time_t now = std::time(nullptr);
-  std::tm local{};
-  localtime_r(&now, &local);
+  const std::tm local = LocalTime(std::time(nullptr));
   return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min};
 }
 
@@ -73,7 +59,7 @@ std::optional<Format> FormatOf(const Arguments& a, Format onStandardOutput) {
   std::string word = a.format;
   if (word.empty()) {
     if (a.output == kStandardStream) return onStandardOutput;
-    word = fs::path(a.output).extension().string();
+    word = FileName(FilePath(a.output).extension());
     word.erase(0, 1);
     for (char& c : word)
       if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
@@ -90,10 +76,10 @@ struct Made {
 
 /// OUT-N.EXT for a page of several.
 std::string PagePath(const std::string& path, std::size_t number) {
-  const fs::path whole(path);
+  const fs::path whole = FilePath(path);
   const std::string name =
-      whole.stem().string() + "-" + std::to_string(number) + whole.extension().string();
-  return (whole.parent_path() / name).string();
+      FileName(whole.stem()) + "-" + std::to_string(number) + FileName(whole.extension());
+  return FileName(whole.parent_path() / FilePath(name));
 }
 
 /// The design of the file, or the exit status that says why there is none. bytes gets the file as
@@ -107,7 +93,7 @@ int Prepare(const Arguments& a, Design& design, std::string* bytes = nullptr) {
   }
   for (const std::string& remark : run.remarks) std::cerr << remark << "\n";
   if (run.fault) {
-    std::cerr << "arithmetic failure in " << run.what << "\n";
+    std::cerr << FaultText(run.what) << "\n";
     return kArithmeticFailure;
   }
   return kAllPass;
@@ -195,7 +181,7 @@ int RunReport(const Arguments& a) {
   std::string bytes;
   if (const int status = Prepare(a, design, &bytes)) return status;
   const std::string name =
-      a.file == kStandardStream ? "project.kvn" : fs::path(a.file).filename().string();
+      a.file == kStandardStream ? "project.kvn" : FileName(FilePath(a.file).filename());
   const PaintJob job = ReportJob(design, ReportsOf(a.kind), Now(), {name, std::move(bytes)});
   if (const int status = Finish(job, a, Format::Pdf)) return status;
   return StatusOf(VerdictOf(design));

@@ -2,13 +2,13 @@
 // Lets a long command end in order when it is interrupted.
 #pragma once
 
-#include <array>
-#include <csignal>
+#include <memory>
 
 namespace korvane {
 
 /// While one stands, SIGINT and SIGTERM are noted rather than obeyed; a second one of the same
-/// kind ends the program at once. What was ignored before stays ignored.
+/// kind ends the program at once. What was ignored before stays ignored. On Windows the keys
+/// Ctrl+C and Ctrl+Break come as these two.
 class StopSignal {
 public:
   StopSignal();
@@ -20,7 +20,8 @@ public:
   static int Received();
 
 private:
-  std::array<struct sigaction, 2> before_{};
+  struct Before;
+  std::unique_ptr<Before> before_;
 };
 
 }  // namespace korvane

@@ -10,6 +10,7 @@
 #include <sstream>
 #include <utility>
 
+#include "core/file_path.h"
 #include "core/supports.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
@@ -184,8 +185,8 @@ int RunTable(std::shared_ptr<const Library> library, const TableOptions& options
   std::size_t size = 0;
   if (!standard) {
     std::error_code failed;
-    size = std::filesystem::file_size(options.members, failed);
-    if (!failed) file.open(options.members, std::ios::binary);
+    size = std::filesystem::file_size(FilePath(options.members), failed);
+    if (!failed) file.open(FilePath(options.members), std::ios::binary);
     if (failed || !file) {
       errors << "can't read file - " << NameOnErrors(options.members) << '\n';
       return kBadInput;

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What is the same on every terminal. The calls of the system stand in terminal_posix and
+// terminal_windows.
 #include "front/console/terminal.h"
-
-#include <sys/ioctl.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -11,12 +10,13 @@
 #include <cstdlib>
 #include <utility>
 
+#include "front/console/terminal_system.h"
+
 namespace korvane {
 namespace {
 
 constexpr std::size_t kBarWidth = 24;
 constexpr std::size_t kNarrowTerminal = 20;
-constexpr std::size_t kUsualTerminal = 80;
 constexpr auto kRedrawInterval = std::chrono::milliseconds(100);
 
 std::string Duration(double seconds) {
@@ -26,26 +26,11 @@ std::string Duration(double seconds) {
   return std::to_string(s / 3600) + " h " + std::to_string(s % 3600 / 60) + " min";
 }
 
-/// Columns of the terminal behind the standard error output; 80 where it doesn't tell.
-std::size_t ColumnsOfErrors() {
-  winsize size{};
-  if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return kUsualTerminal;
-  return size.ws_col;
-}
-
 bool IsControl(unsigned char c) {
   return c < 0x20 || c == 0x7F;
 }
 
 }  // namespace
-
-bool OutputIsTerminal() {
-  return isatty(STDOUT_FILENO) == 1;
-}
-
-bool ErrorsAreTerminal() {
-  return isatty(STDERR_FILENO) == 1;
-}
 
 bool ColourWanted() {
   const char* off = std::getenv("NO_COLOR");

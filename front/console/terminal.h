@@ -10,6 +10,18 @@
 
 namespace korvane {
 
+/// While one stands, the standard streams carry UTF-8, byte for byte as they are written.
+class StandardStreams {
+public:
+  StandardStreams();
+  ~StandardStreams();
+  StandardStreams(const StandardStreams&) = delete;
+  StandardStreams& operator=(const StandardStreams&) = delete;
+
+private:
+  [[maybe_unused]] unsigned outputBefore_ = 0, inputBefore_ = 0;  ///< code pages of the console
+};
+
 /// Whether the standard output, or the standard error output, is a terminal.
 bool OutputIsTerminal();
 bool ErrorsAreTerminal();

@@ -8,9 +8,9 @@
 #include <QTimer>
 #include <algorithm>
 #include <array>
-#include <csignal>
 #include <cstdio>
 
+#include "core/program.h"
 #include "front/data_folder.h"
 #include "front/desktop/desktop.h"
 #include "front/desktop/desktop_platform.h"
@@ -21,6 +21,7 @@
 #include "front/desktop/theme.h"
 #include "front/locale.h"
 #include "front/named_session.h"
+#include "front/system.h"
 
 namespace {
 
@@ -133,7 +134,7 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
 }  // namespace
 
 int main(int argc, char** argv) {
-  QCoreApplication::setApplicationName(QStringLiteral("Korvane_ns"));
+  QCoreApplication::setApplicationName(QString::fromLatin1(kSettingsName));
   // No display name: it would be appended to the title of each window.
   QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral("korvane"));
@@ -152,7 +153,9 @@ int main(int argc, char** argv) {
         QStringLiteral("THEME")},
        shots,
        painted});
-  const QStringList arguments(argv, argv + argc);
+  QStringList arguments;
+  for (const std::string& word : CommandWords(argc, argv))
+    arguments << QString::fromStdString(word);
   if (parser.parse(arguments) && (parser.isSet(help) || parser.isSet(version))) {
     // What is only printed needs no display.
     QCoreApplication printer(argc, argv);
@@ -165,8 +168,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   parser.process(app);
   korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
-  // A limit on the size of files is told as a full disk.
-  std::signal(SIGXFSZ, SIG_IGN);
+  LeaveFailuresToUs();
   try {
     return Run(app, parser, parser.value(shots));
   } catch (const std::exception& error) {

@@ -21,17 +21,13 @@
 #include "front/desktop/desktop.h"
 #include "front/desktop/diagram_pane.h"
 #include "front/desktop/form_binder.h"
+#include "front/desktop/own_folder.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
 
 namespace korvane {
 
 namespace {
-
-QSettings Store() {
-  return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Korvane_ns"),
-                   QStringLiteral("Korvane_ns"));
-}
 
 /// The first time most of the screen is taken, on a small one all that it has for a window.
 QSize FirstSize(const QSize& room) {
@@ -56,6 +52,11 @@ MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
   split->setStretchFactor(1, 1);
   splitters_.push_back(split);
   setCentralWidget(split);
+  news_ = new QLabel;
+  news_->setObjectName(QStringLiteral("news"));
+  // A long sentence makes no window wider; the tip has it whole.
+  news_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  statusBar()->addWidget(news_, 1);
   progress_ = new QProgressBar;
   progress_->setMaximumWidth(Ems(this, 18));
   progress_->setMaximumHeight(Ems(this, 1.2));
@@ -142,6 +143,9 @@ void MainWindow::RefreshMenus() {
 void MainWindow::Refresh() {
   setWindowTitle(QString::fromStdString(desktop_.session().Title(*TheForms().main)));
   RefreshMenus();
+  const QString news = QString::fromStdString(desktop_.session().News());
+  news_->setText(news);
+  news_->setToolTip(news);
   RefreshPlanes();
   // The verdict is no control of the form.
   verdict_->Refresh();
@@ -162,7 +166,7 @@ void MainWindow::ShowProgress(int done, int all) {
 
 void MainWindow::ShowNotes() {
   auto* lines = static_cast<ResultPane*>(binder_->WidgetOf(*TheForms().onMain.pic31));
-  if (const QRect place = lines->MarkRatio(verdict_->Figure()); !place.isEmpty()) {
+  if (const QRect place = lines->MarkRatio(verdict_->headline().ratio); !place.isEmpty()) {
     auto* scroll = qobject_cast<QScrollArea*>(lines->parentWidget()->parentWidget());
     if (scroll != nullptr) {
       scroll->ensureVisible(0, place.top(), 0, 0);
@@ -220,7 +224,7 @@ void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void MainWindow::RestoreSizes() {
-  const QSettings store = Store();
+  const QSettings store = UserSettings();
   resize(FirstSize(screen()->availableSize()));
   splitters_.back()->setSizes({inputWidth_, width() - inputWidth_});
   restoreGeometry(store.value(QStringLiteral("Window/geometry")).toByteArray());
@@ -231,7 +235,7 @@ void MainWindow::RestoreSizes() {
 }
 
 void MainWindow::SaveSizes() const {
-  QSettings store = Store();
+  QSettings store = UserSettings();
   store.setValue(QStringLiteral("Window/geometry"), saveGeometry());
   for (const QSplitter* splitter : splitters_) {
     store.setValue(QStringLiteral("Window/") + splitter->objectName(), splitter->saveState());

@@ -105,8 +105,7 @@ void Pane::Export(bool vector) {
   } else {
     Picture().save(&bytes, "PNG");
   }
-  const QByteArray name = QFile::encodeName(path);
-  const WriteResult written = WriteFile(name.toStdString(), bytes.data().toStdString());
+  const WriteResult written = WriteFile(path.toStdString(), bytes.data().toStdString());
   if (written) return;
   QMessageBox::warning(this, QString(),
                        tr("The picture could not be written to\n%1").arg(path) + QLatin1Char('\n') +

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QWidget>
+#include <optional>
 
 #include "checks/results.h"
 #include "front/headline.h"
@@ -110,7 +111,9 @@ public:
   QString Table() const override;
   /// Marks the first line with this ratio until the lines change. Its place in the pane, empty
   /// where no line has it.
-  QRect MarkRatio(const QString& ratio);
+  QRect MarkRatio(double ratio);
+  /// The line that is marked; empty where none is.
+  QString MarkedLine() const;
   QSize sizeHint() const override;
 
 protected:
@@ -127,6 +130,7 @@ private:
   /// Calls visit(line, y) for each line with its upper end in the pane.
   template <class Visit>
   void EachLine(Visit&& visit) const;
+  const ViewLine* LineWith(double ratio) const;
   void DrawLine(QPainter& painter, const ViewLine& line, double y);
   double RowHeight() const;
   QFont FontOf(const TextRun& run, bool fails) const;
@@ -134,9 +138,9 @@ private:
   double WidthOf(const ViewLine& line) const;
   Length length_;
   View view_;
-  double rows_ = 1;  ///< height of the lines, in rows
-  double bars_ = 0;  ///< left end of the bars
-  QString marked_;   ///< ratio of the line that is marked
+  double rows_ = 1;               ///< height of the lines, in rows
+  double bars_ = 0;               ///< left end of the bars
+  std::optional<double> marked_;  ///< ratio of the line that is marked
 };
 
 /// The headline: the greatest ratio in big figures with the word beside it, and the serviceability

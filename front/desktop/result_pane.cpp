@@ -5,8 +5,8 @@
 #include <QMenu>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
-#include "core/text.h"
 #include "front/copied_tables.h"
 #include "front/desktop/panes.h"
 #include "front/desktop/theme.h"
@@ -15,21 +15,16 @@ namespace korvane {
 
 namespace {
 
-/// The coloured run of a line is its value.
+/// The value of a check in its line; nullptr where the line tells no ratio.
 const TextRun* ValueOf(const ViewLine& line) {
   const auto it = std::find_if(line.runs.begin(), line.runs.end(),
-                               [](const TextRun& run) { return run.colour != 0; });
+                               [](const TextRun& run) { return run.ratio.has_value(); });
   return it == line.runs.end() ? nullptr : &*it;
 }
 
 bool Fails(const ViewLine& line) {
   return std::any_of(line.runs.begin(), line.runs.end(),
                      [](const TextRun& run) { return RoleOfIndex(run.colour) == Role::Fail; });
-}
-
-bool HasRatio(const ViewLine& line) {
-  return std::any_of(line.runs.begin(), line.runs.end(),
-                     [](const TextRun& run) { return run.text == kIRPrefix; });
 }
 
 QString TextOf(const ViewLine& line) {
@@ -105,7 +100,7 @@ void ResultPane::Measure() {
   FitLetters();
   bars_ = 0;
   for (const ViewLine& line : view_) {
-    if (HasRatio(line)) bars_ = std::max(bars_, WidthOf(line));
+    if (ValueOf(line) != nullptr) bars_ = std::max(bars_, WidthOf(line));
   }
   bars_ += Ems(this, 1.2);
   double widest = 0;
@@ -132,7 +127,7 @@ void ResultPane::FitLetters() {
 void ResultPane::Refresh() {
   const QStringList before = Lines();
   Measure();
-  if (Lines() != before) marked_.clear();
+  if (Lines() != before) marked_.reset();
   QStringList tips;
   for (const ViewLine& line : view_) {
     if (Fails(line)) tips << tr("FAILS: %1").arg(TextOf(line).simplified());
@@ -165,15 +160,28 @@ void ResultPane::EachLine(Visit&& visit) const {
   }
 }
 
-QRect ResultPane::MarkRatio(const QString& ratio) {
-  marked_.clear();
+const ViewLine* ResultPane::LineWith(double ratio) const {
+  // A record rounds what its check gave.
+  const auto has = [ratio](const ViewLine& line) {
+    const TextRun* value = ValueOf(line);
+    return value != nullptr && std::abs(*value->ratio - ratio) <= 1e-6 * std::max(1.0, ratio);
+  };
+  const auto it = std::find_if(view_.begin(), view_.end(), has);
+  return it == view_.end() ? nullptr : &*it;
+}
+
+QString ResultPane::MarkedLine() const {
+  const ViewLine* line = marked_ ? LineWith(*marked_) : nullptr;
+  return line == nullptr ? QString() : TextOf(*line);
+}
+
+QRect ResultPane::MarkRatio(double ratio) {
+  marked_ = ratio;
+  const ViewLine* marked = LineWith(ratio);
+  if (marked == nullptr) marked_.reset();
   QRect place;
   EachLine([&](const ViewLine& line, double y) {
-    const TextRun* value = ValueOf(line);
-    if (!marked_.isEmpty() || value == nullptr || !HasRatio(line)) return;
-    if (QString::fromStdString(value->text).trimmed() != ratio) return;
-    marked_ = ratio;
-    place = QRectF(0, y, width(), RowHeight()).toAlignedRect();
+    if (&line == marked) place = QRectF(0, y, width(), RowHeight()).toAlignedRect();
   });
   update();
   return place;
@@ -181,13 +189,14 @@ QRect ResultPane::MarkRatio(const QString& ratio) {
 
 void ResultPane::Draw(QPainter& painter) {
   painter.setRenderHint(QPainter::Antialiasing);
-  bool marks = !marked_.isEmpty();
+  const ViewLine* marked = marked_ ? LineWith(*marked_) : nullptr;
   EachLine([&](const ViewLine& line, double y) {
-    const TextRun* value = ValueOf(line);
-    if (marks && value != nullptr && HasRatio(line) &&
-        QString::fromStdString(value->text).trimmed() == marked_) {
-      painter.fillRect(QRectF(0, y, width(), RowHeight()), palette().color(QPalette::Midlight));
-      marks = false;
+    if (&line == marked) {
+      const QRectF place(0, y, width(), RowHeight());
+      painter.fillRect(place, palette().color(QPalette::Midlight));
+      // Not by colour alone.
+      painter.fillRect(QRectF(0, y, Ems(this, 0.35), RowHeight()),
+                       palette().color(QPalette::Highlight));
     }
     DrawLine(painter, line, y);
   });
@@ -222,19 +231,18 @@ void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
     const QFontMetricsF metrics(style);
     if (run.atTab) x = TabAfter(x);
     painter.setFont(style);
-    painter.setPen(run.colour == 0 ? palette().color(QPalette::Text)
-                                   : ColourFor(RoleOfIndex(run.colour), palette()));
+    painter.setPen(run.colour == kBlack ? palette().color(QPalette::Text)
+                                        : ColourFor(RoleOfIndex(run.colour), palette()));
     const QString text = QString::fromStdString(run.text);
     painter.drawText(QPointF(x, y + metrics.ascent()), text);
     x += metrics.horizontalAdvance(text);
   }
   const TextRun* value = ValueOf(line);
-  if (value == nullptr || !HasRatio(line)) return;
+  if (value == nullptr) return;
   const double start = bars_;
   const double bar = std::min(width() - start - Ems(this, 0.9), Ems(this, kMostBarEms) * 1.0);
   if (length_ == Length::Long || bar < Ems(this, kBarEms) || start < x) return;
-  const auto ratio = ParseNumber(value->text, false);
-  const double share = std::clamp(ratio ? double(*ratio) / session_.st().iufa : 0.0, 0.0, 1.0);
+  const double share = std::clamp(*value->ratio / session_.st().iufa, 0.0, 1.0);
   const QFontMetricsF metrics(font());
   const double thick = std::max(4.0, metrics.height() * 0.32);
   const QRectF track(start, y + metrics.height() * 0.5 - thick / 2, bar, thick);

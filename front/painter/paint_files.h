@@ -32,6 +32,5 @@ std::string PaintIntoMemory(const PaintJob& job, std::string& bytes);
 /// The entry of the loadable module.
 using PaintEntry = void (*)(const PaintJob*, std::string* bytes, std::string* error);
 inline constexpr const char* kPaintEntry = "korvane_paint";
-inline constexpr const char* kPaintModule = "korvane_paint.so";
 
 }  // namespace korvane

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "front/locale.h"
-
 #include <langinfo.h>
 #include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is of POSIX
 
@@ -8,6 +6,8 @@
 #include <array>
 #include <cstdlib>
 #include <string>
+
+#include "front/locale.h"
 
 namespace korvane {
 

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <array>
+#include <csignal>
+
 #include "front/console/stop_signal.h"
 
 namespace korvane {
@@ -15,11 +18,15 @@ void Note(int signal) {
 
 }  // namespace
 
-StopSignal::StopSignal() {
+struct StopSignal::Before {
+  std::array<struct sigaction, kSignals.size()> actions{};
+};
+
+StopSignal::StopSignal() : before_(std::make_unique<Before>()) {
   received = 0;
   for (std::size_t i = 0; i < kSignals.size(); ++i) {
-    sigaction(kSignals[i], nullptr, &before_[i]);
-    if (before_[i].sa_handler == SIG_IGN) continue;
+    sigaction(kSignals[i], nullptr, &before_->actions[i]);
+    if (before_->actions[i].sa_handler == SIG_IGN) continue;
     struct sigaction note {};
     note.sa_handler = Note;
     note.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
@@ -29,7 +36,7 @@ StopSignal::StopSignal() {
 
 StopSignal::~StopSignal() {
   for (std::size_t i = 0; i < kSignals.size(); ++i) {
-    sigaction(kSignals[i], &before_[i], nullptr);
+    sigaction(kSignals[i], &before_->actions[i], nullptr);
   }
   received = 0;
 }
