@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "front/news.h"
 
 namespace korvane {
 
@@ -87,6 +88,7 @@ std::string Session::Title(const Form& form) const {
 void Session::Calculate() {
   ++calculations_;
   calculated_.reset();
+  const ProjectState before = st();
   try {
     korvane::Calculate(design_);
   } catch (const CalculationFault& fault) {
@@ -95,7 +97,19 @@ void Session::Calculate() {
     throw;
   }
   calculated_ = design_.st;
+  TellRemoved(before, true);
   TellMessages();
+}
+
+void Session::Tell(const std::string& news) {
+  const DateTime now = platform_.Now();
+  news_ = Format(now.hour, "00") + ":" + Format(now.minute, "00") + "  " + news;
+}
+
+void Session::TellRemoved(const ProjectState& before, bool byFamily) {
+  if (const std::string words = RemovedWords(*this, before, st(), byFamily); !words.empty()) {
+    Tell(words);
+  }
 }
 
 void Session::ComposeResults() {

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <vector>
 
+class QLabel;
 class QLayout;
 class QProgressBar;
 class QSplitter;
@@ -61,6 +62,7 @@ private:
   std::vector<QSplitter*> splitters_;
   int inputWidth_ = 0;  ///< of the inputs without scrolling to the side
   QProgressBar* progress_ = nullptr;
+  QLabel* news_ = nullptr;
 };
 
 }  // namespace korvane

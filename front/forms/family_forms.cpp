@@ -234,6 +234,9 @@ void AddValues(const Family& family, Form& form) {
 void AddToList(Session& s) {
   AddToDatabase(s.st(), s.database());
   s.databaseSelection = s.database().DbRow;
+  const Database& db = s.database();
+  const std::string entry = DatabaseEntry(db.DbTable[db.DbRow], s.design().lib->catalogues);
+  s.Tell("Added " + entry + " to the database (" + std::to_string(db.DbLast + 1) + ")");
   ++s.databaseVersion;
 }
 

@@ -130,7 +130,9 @@ void AddItems(Form& form, LoadingControls& on) {
 
 /// Tidies the loads; a load that can't stand keeps the form open with the focus on its field.
 bool CheckOnClosing(Session& s) {
+  const ProjectState before = s.st();
   const auto message = NormaliseLoads(s.st());
+  s.TellRemoved(before, false);
   if (!message) return true;
   s.platform().Message(message->text);
   s.FocusField(*FieldOf(*TheForms().loading, InputOf(message->field)));

@@ -114,7 +114,10 @@ bool OptimiserIsOpen(const Session& s) {
 
 /// Tidies the loads; what can't stand is told.
 void CheckLoads(Session& s) {
-  if (const auto message = NormaliseLoads(s.st())) s.platform().Message(message->text);
+  const ProjectState before = s.st();
+  const auto message = NormaliseLoads(s.st());
+  s.TellRemoved(before, false);
+  if (message) s.platform().Message(message->text);
 }
 
 void ClickSupport(Session& s, const Support& support) {
