@@ -10,6 +10,7 @@
 #include <map>
 
 #include "front/copied_tables.h"
+#include "front/desktop/diagram_names.h"
 #include "front/desktop/member_strip.h"
 #include "front/desktop/station_table.h"
 #include "front/desktop/theme.h"
@@ -63,9 +64,15 @@ DiagramData DataOf(const Session& s) {
 
 DiagramBox::DiagramBox(const Session& session, DiagramKind kind, QWidget* parent)
     : Pane(session, parent), kind_(kind) {
+  NameDiagramsWhenAsked();
   setMouseTracking(true);
   setFocusPolicy(Qt::TabFocus);
   setObjectName(QString::fromUtf8(InfoOf(kind).control));
+}
+
+QString DiagramBox::Texts() const {
+  return QString::fromStdString(
+      session_.OnScreen(PaneText(session_.design(), objectName().toStdString())));
 }
 
 void DiagramBox::SetScale(double unit, double letters) {
@@ -163,9 +170,7 @@ void DiagramPane::Refresh() {
                                [](DiagramKind k, const DiagramBox* b) { return b->kind() == k; });
   if (!same) Rebuild(kinds);
   for (DiagramBox* box : boxes_) {
-    const std::string control = box->objectName().toStdString();
-    box->setAccessibleName(
-        QString::fromStdString(session_.OnScreen(PaneText(session_.design(), control))));
+    TellNewName(*box);
     box->Refresh();
   }
   strip_->Refresh();

@@ -24,6 +24,7 @@
 #include "front/desktop/own_folder.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
+#include "front/save_words.h"
 
 namespace korvane {
 
@@ -62,6 +63,9 @@ MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
   progress_->setMaximumHeight(Ems(this, 1.2));
   progress_->hide();
   statusBar()->addPermanentWidget(progress_);
+  saving_ = new QLabel;
+  saving_->setObjectName(QStringLiteral("saving"));
+  statusBar()->addPermanentWidget(saving_);
   binder_ = new FormBinder(desktop_, maker, this);
   connect(&desktop_, &Desktop::Refreshed, this, &MainWindow::Refresh);
   // The field in use has been left by then: the binder hears the button first.
@@ -140,8 +144,19 @@ void MainWindow::RefreshMenus() {
   }
 }
 
+void MainWindow::RefreshSaving() {
+  const Session& s = desktop_.session();
+  const QString mark = s.files().Modified() ? QStringLiteral(" *") : QString();
+  setWindowTitle(QString::fromStdString(s.Title(*TheForms().main)) + mark);
+  const SaveWords words = SaveWordsOf(s);
+  saving_->setText(QString::fromStdString(words.text));
+  QPalette colours = palette();
+  if (words.failed) colours.setColor(QPalette::WindowText, ColourFor(Role::Fail, palette()));
+  saving_->setPalette(colours);
+}
+
 void MainWindow::Refresh() {
-  setWindowTitle(QString::fromStdString(desktop_.session().Title(*TheForms().main)));
+  RefreshSaving();
   RefreshMenus();
   const QString news = QString::fromStdString(desktop_.session().News());
   news_->setText(news);

@@ -44,6 +44,7 @@ private:
   void MakeMenus();
   void AddKeys();
   void RefreshMenus();
+  void RefreshSaving();
   void Refresh();
   QWidget* InputColumn(WidgetMaker& maker);
   QWidget* ResultSide(WidgetMaker& maker);
@@ -63,6 +64,7 @@ private:
   int inputWidth_ = 0;  ///< of the inputs without scrolling to the side
   QProgressBar* progress_ = nullptr;
   QLabel* news_ = nullptr;
+  QLabel* saving_ = nullptr;
 };
 
 }  // namespace korvane

@@ -3,10 +3,48 @@
 // PDF.
 #pragma once
 
+#include <algorithm>
+#include <ctime>
+#include <span>
+#include <string_view>
+
 #include "front/painter/paint_files.h"
+#include "front/system.h"
 #include "presentation/aprint.h"
 
 namespace korvane {
+
+/// The sheets behind a word of the command line.
+struct Sheets {
+  const char* word;
+  std::vector<Report> reports;
+};
+
+inline std::span<const Sheets> AllSheets() {
+  using enum Report;
+  static const std::vector<Sheets> all{
+      {"section", {SectionProperty}},
+      {"control", {SectionAndStability}},
+      {"checker", {Checker}},
+      {"both", {SectionProperty, SectionAndStability}},
+      {"all", {SectionProperty, SectionAndStability, Checker}},
+  };
+  return all;
+}
+
+/// The sheets of a word, or nullptr.
+inline const Sheets* FindSheets(std::string_view word) {
+  const auto all = AllSheets();
+  const auto found =
+      std::find_if(all.begin(), all.end(), [&](const Sheets& s) { return word == s.word; });
+  return found == all.end() ? nullptr : &*found;
+}
+
+/// The moment of a print.
+inline ReportTime TimeOfPrint() {
+  const std::tm local = LocalTime(std::time(nullptr));
+  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min};
+}
 
 /// A project as it goes with its sheets.
 struct AttachedProject {
