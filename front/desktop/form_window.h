@@ -26,6 +26,10 @@ public:
   QSize sizeHint() const override;
 
 protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
   bool event(QEvent* event) override;
@@ -33,11 +37,17 @@ protected:
 private:
   /// Where the window stands when it is shown for the first time.
   void Place();
+  /// Its key in the settings.
+  QString PlaceKey() const;
+  /// The values of a family's form go to the clipboard.
+  void CopyValues();
   Desktop& desktop_;
   const Form& form_;
   FormBinder* binder_;
   QScrollArea* scroll_;
   bool placed_ = false;
+  QPoint placedAt_;  ///< where it stood at first: kept only when a person moves it
+  QSize placedSize_;
 };
 
 // Layouts of forms that have one of their own; all others are stacked.

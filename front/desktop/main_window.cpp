@@ -6,15 +6,18 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QDialog>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -41,6 +44,7 @@ QSize FirstSize(const QSize& room) {
 
 MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
   setObjectName(QString::fromStdString(TheForms().main->name));
+  setAcceptDrops(true);
   MakeMenus();
   AddKeys();
   WidgetMaker maker(*TheForms().main, desktop_.session());
@@ -140,6 +144,10 @@ void MainWindow::RefreshMenus() {
   const Session& s = desktop_.session();
   for (const auto& [control, action] : actions_) {
     if (control->visible) action->setVisible(s.Visible(*control));
+    if (control->checked) {
+      action->setCheckable(true);
+      action->setChecked(s.Checked(*control));
+    }
     if (control->text) action->setText(QString::fromStdString(s.Text(*control)));
   }
 }
@@ -201,6 +209,30 @@ void MainWindow::ShowNotes() {
   const QPoint corner = verdict_->mapToGlobal(QPoint(verdict_->width(), verdict_->height()));
   popup->move(corner - QPoint(popup->width(), 0));
   popup->show();
+}
+
+namespace {
+
+/// The project that is dragged; empty where it is none.
+QString ProjectIn(const QMimeData* dragged) {
+  for (const QUrl& url : dragged->urls()) {
+    const QString path = url.toLocalFile();
+    if (path.endsWith(QStringLiteral(".kvn"), Qt::CaseInsensitive)) return path;
+  }
+  return {};
+}
+
+}  // namespace
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!ProjectIn(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QString path = ProjectIn(event->mimeData());
+  if (path.isEmpty() || !desktop_.Commit()) return;
+  event->acceptProposedAction();
+  desktop_.OpenFile(path);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -36,6 +36,8 @@ public:
   void RaiseDiagrams();
 
 protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   bool event(QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;

@@ -14,6 +14,7 @@
 
 #include "core/files.h"
 #include "front/desktop/panes.h"
+#include "front/desktop/project_place.h"
 #include "front/desktop/theme.h"
 
 namespace korvane {
@@ -91,7 +92,9 @@ void Pane::contextMenuEvent(QContextMenuEvent* event) {
 void Pane::Export(bool vector) {
   const QString ending = vector ? QStringLiteral("svg") : QStringLiteral("png");
   const QString path = QFileDialog::getSaveFileName(
-      this, QString(), ExportName() + QStringLiteral(".") + ending, QStringLiteral("*.") + ending);
+      this, QString(),
+      BesideProject(session_, QLatin1Char('-') + ExportName() + QLatin1Char('.') + ending),
+      QStringLiteral("*.") + ending);
   if (path.isEmpty()) return;
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);

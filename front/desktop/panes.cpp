@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/desktop/panes.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -83,6 +84,14 @@ ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent), unit_(new QLabel(paren
 void ValueLabel::ShowValue(const QString& text, const QString& unit) {
   if (this->text() != text) setText(text);
   if (unit_->text() != unit) unit_->setText(unit);
+}
+
+void ValueLabel::contextMenuEvent(QContextMenuEvent* event) {
+  if (hasSelectedText()) {
+    QLabel::contextMenuEvent(event);
+  } else {
+    event->ignore();
+  }
 }
 
 // --- Figure -------------------------------------------------------------------------------------

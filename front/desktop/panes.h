@@ -77,6 +77,10 @@ public:
   void ShowValue(const QString& text, const QString& unit);
   QLabel* unit() { return unit_; }
 
+protected:
+  /// Without a marked text the form's menu comes up.
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
 private:
   QLabel* unit_;
 };

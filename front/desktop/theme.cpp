@@ -86,6 +86,8 @@ QPalette FieldPalette(const QPalette& window, bool green) {
     p.setColor(group, QPalette::Highlight, QColor(kLight.accent));
     p.setColor(group, QPalette::HighlightedText, QColor(kLight.onAccent));
   }
+  // A locked field shows a value that is in force: to be read, but not written in.
+  p.setColor(QPalette::Disabled, QPalette::Text, window.color(QPalette::PlaceholderText));
   return p;
 }
 

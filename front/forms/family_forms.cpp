@@ -23,6 +23,7 @@ Control SizeControl(const Family& family) {
   Control c;
   c.name = IsAngle(family.code) ? "cbo" : "Cbo";
   c.kind = Kind::List;
+  c.spoken = "Size";
   const auto catalogue = [&family](const Session& s) { return CatalogueOf(family, s.st()); };
   c.items = [catalogue](const Session& s) {
     const Cat cat = catalogue(s)->cat;
