@@ -27,7 +27,8 @@ QString Cleaned(QString name) {
 QString ProjectFolder(const Session& s) {
   const QString path = PathOf(s);
   if (!path.isEmpty()) return QFileInfo(path).absolutePath();
-  return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
 QString BesideProject(const Session& s, const QString& suffix) {

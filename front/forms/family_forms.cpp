@@ -192,6 +192,7 @@ void AddClassLabel(const Family& family, Form& form) {
   Control c = TextLabel(
       "osclass", [words](const Session& s) { return words + ClassText(s.st(), s.design().rec); });
   c.caption = words.empty() ? "Sectionclass:" : " ";
+  c.spoken = "Section class";
   c.block = Block::Capacities;
   Put(form, std::move(c));
 }

@@ -265,10 +265,10 @@ void AddStiffeners(Forms& forms) {
   Form& form = forms.Add("endstiff", Fixed("Support/Webstiffener"));
   forms.stiffeners = &form;
   form.input = true;
-  Put(form, FrameOf("frend", "Support stiffener"));
+  Put(form, FrameOf("frend", "At the supports"));
   Put(form, ValueOption("oendstiff0", "Weak Support stiffener", &S::EndStiffener, 0));
   Put(form, ValueOption("oendstiff1", "Stiff Support stiffener", &S::EndStiffener, 1));
-  Put(form, FrameOf("frweb", "Web stiffeners"));
+  Put(form, FrameOf("frweb", "Along the member"));
   Put(form, ValueOption("cwebstiff0", "No web stiffeners", &S::WebStiffener, 0));
   Put(form, ValueOption("cwebstiff1", "Web stiffeners", &S::WebStiffener, 1));
   const auto ofWeb = [&](Control control) {

@@ -121,7 +121,7 @@ TEST_F(DesktopTest, CategoryButtonStepsItsText) {
   QTest::mouseClick(&toggle, Qt::LeftButton);
   EXPECT_EQ(toggle.text(), "Variable 1");
   QTest::mouseClick(&toggle, Qt::LeftButton);
-  EXPECT_EQ(toggle.text(), "V2");
+  EXPECT_EQ(toggle.text(), "Variable 2");
 }
 
 TEST_F(DesktopTest, RefusedPositionBecomesZero) {
