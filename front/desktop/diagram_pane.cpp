@@ -117,6 +117,7 @@ DiagramPane::DiagramPane(const Session& session, std::vector<std::string> contro
     : QWidget(parent),
       session_(session),
       controls_(std::move(controls)),
+      usualHeight_(kUsualHeight),
       strip_(new MemberStrip(session, this)),
       tag_(new QLabel(this)) {
   setAutoFillBackground(true);
@@ -133,7 +134,13 @@ DiagramPane::DiagramPane(const Session& session, std::vector<std::string> contro
 }
 
 QSize DiagramPane::sizeHint() const {
-  return {Ems(this, kUsualWidth), Ems(this, kUsualHeight)};
+  return {Ems(this, kUsualWidth), Ems(this, usualHeight_)};
+}
+
+void DiagramPane::ShowLoadsOf(Plane plane, double usualHeight) {
+  loadsOf_ = plane;
+  usualHeight_ = usualHeight;
+  strip_->hide();
 }
 
 std::vector<DiagramKind> DiagramPane::Wanted() const {
@@ -165,6 +172,7 @@ void DiagramPane::Rebuild(const std::vector<DiagramKind>& kinds) {
 }
 
 void DiagramPane::Refresh() {
+  if (loadsOf_) setVisible(!PlaneFolds(session_.design(), *loadsOf_));
   const std::vector<DiagramKind> kinds = Wanted();
   const bool same = std::equal(kinds.begin(), kinds.end(), boxes_.begin(), boxes_.end(),
                                [](DiagramKind k, const DiagramBox* b) { return b->kind() == k; });
@@ -204,7 +212,7 @@ void DiagramPane::Arrange() {
   const double letters = Letters();
   std::vector<double> plot, text;
   double plots = 0, texts = 0;
-  const int strip = MemberStrip::HeightFor(letters);
+  const int strip = loadsOf_ ? 0 : MemberStrip::HeightFor(letters);
   for (const DiagramBox* box : boxes_) {
     const double h1 = DiagramHeight(box->kind(), diagrams, {2, 1});
     const double h2 = DiagramHeight(box->kind(), diagrams, {4, 1});

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QPointer>
+#include <optional>
 #include <vector>
 
 #include "front/desktop/panes.h"
@@ -53,6 +54,8 @@ public:
   /// controls: the picture boxes of the plane, from the top.
   DiagramPane(const Session& session, std::vector<std::string> controls, QWidget* parent);
   void Refresh();
+  /// A small pane of the loads of one plane: it comes and goes with them, without the member.
+  void ShowLoadsOf(Plane plane, double usualHeight);
   /// Shows other picture boxes from the next refresh on.
   void SetBoxes(std::vector<std::string> controls) { controls_ = std::move(controls); }
   QSize sizeHint() const override;
@@ -83,6 +86,8 @@ private:
   const Session& session_;
   std::vector<std::string> controls_;
   std::vector<DiagramBox*> boxes_;
+  std::optional<Plane> loadsOf_;
+  double usualHeight_;  ///< ems
   MemberStrip* strip_;
   QLabel* tag_;                   ///< the values beside the pointer
   QPointer<DiagramBox> pointed_;  ///< on which the hairline was put, and how high in the pane

@@ -150,7 +150,8 @@ void FormBinder::BindEdit(Bound& bound, QLineEdit* edit) {
       if (!edit->hasFocus()) edit->setCursorPosition(0);
     }
     if (auto* field = qobject_cast<FieldEdit*>(edit)) {
-      const bool marked = s.Marked(*c);
+      // Names are read on saving, as they stand in their fields.
+      const bool marked = c->field.IsNumber() && s.Marked(*c);
       if (field->Marked() != marked) {
         field->SetMarked(marked);
         edit->setAccessibleDescription(marked ? Q(MarkWords(s, *c)) : QString());
@@ -330,7 +331,8 @@ bool FormBinder::FieldEvent(const Control& field, QLineEdit* edit, QEvent* event
     // A limit may follow another input.
     QString tip = Q(s.Tip(field)).trimmed();
     if (tip.isEmpty()) tip = edit->accessibleName();
-    if (s.Marked(field)) tip = Q(MarkWords(s, field)) + QLatin1Char('\n') + tip;
+    if (field.field.IsNumber() && s.Marked(field))
+      tip = Q(MarkWords(s, field)) + QLatin1Char('\n') + tip;
     edit->setToolTip(tip);
   }
   if (IsEscape(event) && s.IsRefused(field)) {

@@ -57,6 +57,7 @@ FormWindow::FormWindow(Desktop& desktop, const Form& form, QWidget* parent)
   scroll_->setWidgetResizable(true);
   scroll_->setFocusPolicy(Qt::NoFocus);
   scroll_->setWidget(controls);
+  controls->installEventFilter(this);
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(0, 0, 0, 0);
   all->addWidget(scroll_);
@@ -106,7 +107,22 @@ void FormWindow::CopyValues() {
   QApplication::clipboard()->setText(QString::fromStdString(ValueTable(desktop_.session(), form_)));
 }
 
+void FormWindow::FitContent() {
+  // A person who made the window smaller wants it so.
+  if (!placed_ || size().width() < fitted_.width() || size().height() < fitted_.height()) return;
+  const QSize room = screen()->availableSize() - kWindowFrame;
+  fitted_ = scroll_->widget()->minimumSizeHint().boundedTo(room);
+  if (const QSize wanted = size().expandedTo(fitted_); wanted != size()) resize(wanted);
+}
+
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == scroll_->widget()) {
+    // Values come and go with the section, and need their room.
+    if (event->type() == QEvent::LayoutRequest) {
+      QMetaObject::invokeMethod(this, &FormWindow::FitContent, Qt::QueuedConnection);
+    }
+    return false;
+  }
   // The list of sizes would copy the name of the marked one.
   if (event->type() == QEvent::KeyPress &&
       static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
@@ -122,7 +138,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void FormWindow::hideEvent(QHideEvent* event) {
-  if (!event->spontaneous() && (pos() != placedAt_ || size() != placedSize_)) {
+  if (!event->spontaneous() && pos() != placedAt_) {
     QSettings store = UserSettings();
     store.setValue(PlaceKey(), saveGeometry());
   }
@@ -149,7 +165,7 @@ void FormWindow::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (!first) return;
   placedAt_ = pos();
-  placedSize_ = size();
+  FitContent();
 }
 
 void FormWindow::Place() {

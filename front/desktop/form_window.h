@@ -39,6 +39,8 @@ private:
   void Place();
   /// Its key in the settings.
   QString PlaceKey() const;
+  /// The window grows with what its controls need, within the screen.
+  void FitContent();
   /// The values of a family's form go to the clipboard.
   void CopyValues();
   Desktop& desktop_;
@@ -47,7 +49,7 @@ private:
   QScrollArea* scroll_;
   bool placed_ = false;
   QPoint placedAt_;  ///< where it stood at first: kept only when a person moves it
-  QSize placedSize_;
+  QSize fitted_;     ///< least size that the controls were given
 };
 
 // Layouts of forms that have one of their own; all others are stacked.

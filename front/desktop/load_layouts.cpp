@@ -155,13 +155,14 @@ QGroupBox* Loads(WidgetMaker& maker) {
 }
 
 /// The loads of both planes, drawn as they are typed.
-QLayout* DrawnLoads(WidgetMaker& maker, QWidget* window) {
-  auto* column = new QVBoxLayout;
-  column->addWidget(new DiagramPane(maker.session(),
-                                    {"picloadpn", "picloadvn", "picloadzp", "picloadzv"}, window),
-                    3);
-  column->addWidget(new DiagramPane(maker.session(), {"picloadyp", "picloadyv"}, window), 2);
-  return column;
+void AddDrawnLoads(WidgetMaker& maker, QBoxLayout* into, QWidget* window) {
+  const auto add = [&](std::vector<std::string> boxes, Plane plane, double height) {
+    auto* pane = new DiagramPane(maker.session(), std::move(boxes), window);
+    pane->ShowLoadsOf(plane, height);
+    into->addWidget(pane, qRound(height));
+  };
+  add({"picloadpn", "picloadvn", "picloadzp", "picloadzv"}, Plane::Z, 9);
+  add({"picloadyp", "picloadyv"}, Plane::Y, 6);
 }
 
 }  // namespace
@@ -181,8 +182,8 @@ void LayOutLoading(WidgetMaker& maker, QWidget* window) {
   (new QVBoxLayout(lines))->setContentsMargins(0, 0, 0, 0);
   lines->layout()->addWidget(new ResultPane(maker.session(), ResultPane::Length::Short));
   lines->setMinimumSize(Ems(window, 26), Ems(window, 10));
-  right->addWidget(lines, 1);
-  right->addLayout(DrawnLoads(maker, window), 2);
+  right->addWidget(lines, 10);
+  AddDrawnLoads(maker, right, window);
   columns->addLayout(left);
   columns->addLayout(right, 1);
   all->addLayout(columns);

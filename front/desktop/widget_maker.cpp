@@ -86,7 +86,7 @@ QToolButton* WidgetMaker::NewPicture(const Control& control) {
     button->setIconSize(QSize(qRound(height * kPictureRatio), height));
   } else {
     button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    button->setFixedWidth(Ems(button, control.words ? 6.6 : 2.9));
+    button->setFixedWidth(Ems(button, control.words ? 7.1 : 2.9));
   }
   return button;
 }
