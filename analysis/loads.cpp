@@ -106,6 +106,18 @@ double AxialForceUls(const ProjectState& st) {
   return st.lfp_uls * st.NP + st.lfv1_uls * st.NV1 + st.lfv2_uls * st.NV2;
 }
 
+void TakeLoads(const ProjectState& from, ProjectState& to) {
+  const auto take = [&](auto... member) { ((to.*member = from.*member), ...); };
+  take(&ProjectState::NP, &ProjectState::NV1, &ProjectState::NV2);
+  for (const LineLoad& l : kLineLoads) take(l.q, l.pv, l.yz);
+  for (int t = 1; t <= 3; ++t) {
+    const Trapezoid& one = TrapezoidOf(t);
+    take(one.q1, one.q2, one.x1, one.x2, one.pv, one.yz);
+  }
+  take(&ProjectState::pm_pm, &ProjectState::pm, &ProjectState::pmx, &ProjectState::pm_pv,
+       &ProjectState::pm_yz);
+}
+
 double FlangeLineLoad(const ProjectState& st) {
   const GroupFactors f = UlsFactors(st);
   double q = 0;

@@ -68,6 +68,10 @@ double ModalLineLoad(const ProjectState& st);
 /// for good; trapezoid 3 is deliberately left as it stands. Other types are not touched.
 void StripForPlateTypes(ProjectState& st);
 
+/// All loads of the load form, with their groups, directions and positions, as another state has
+/// them; end forces and factors stay.
+void TakeLoads(const ProjectState& from, ProjectState& to);
+
 /// What NormaliseLoads has to say when it fails.
 struct LoadMessage {
   std::string text;              ///< literal message

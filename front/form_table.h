@@ -72,11 +72,15 @@ struct Control {
   std::function<void(Session&)> click;
   std::function<void(Session&, int)> select;
   std::function<void(Session&)> returnKey;  ///< of a picture that knows the Return key
+  std::function<void(Session&)> deleteKey;  ///< of a list whose entries can go
   std::function<bool(const Session&)> enabled;
   std::function<bool(const Session&)> visible;
   std::function<bool(const Session&)> alarm;  ///< of a label: in red, as its words say too
   std::string unit;
   std::string tip;
+  std::string spoken;  ///< what a screen reader says where caption and tip don't name it
+  /// What a window writes in place of a text that is a code.
+  std::function<std::string(const Session&)> words;
   std::string letter;  ///< of a dimension, as the figure writes it
   std::string parent;  ///< menu entry above this one
   Sign sign;

@@ -74,7 +74,10 @@ Headline HeadlineOf(const Session& s) {
     h.notes.push_back(std::string(SeverityWord(KindOf(note.code).severity)) + ": " +
                       s.OnScreen(NoteText(note, d.lib->catalogues)));
   }
-  if (v.governing != Governing::None) h.figure = s.Shown(v.IR, "#0.00");
+  if (v.governing != Governing::None) {
+    h.ratio = v.IR;
+    h.figure = s.Shown(v.IR, "#0.00");
+  }
   AddServiceability(s, v, h);
   const StandingSaid said = SaidOf(v.standing, v.governing != Governing::None);
   h.word = said.word;

@@ -14,6 +14,7 @@ class Session;
 struct Headline {
   enum class Tone { Quiet, Pass, Fail };
   std::string figure;  ///< greatest ratio, "-" where there is none that holds
+  double ratio = 0;    ///< that ratio, where there is one
   std::string word;    ///< "passes", "FAILS", "not checked", "not calculated"
   Tone tone = Tone::Quiet;
   std::string below;  ///< of the serviceability limit state, or the reason of the word

@@ -27,7 +27,8 @@ std::string PathOf(const Control& command) {
 
 std::string FieldWords(const Session& s, const Control& field) {
   const std::string unit = field.unit.empty() ? "" : " " + field.unit;
-  return Plain(field.caption) + " " + s.StateText(field) + unit;
+  const std::string name = Plain(field.spoken.empty() ? field.caption : field.spoken);
+  return name + " " + s.StateText(field) + unit;
 }
 
 }  // namespace
@@ -45,6 +46,23 @@ std::string InputWords(const Session& s, const Control& c) {
     default:
       return Plain(c.caption.empty() ? c.tip : c.caption);
   }
+}
+
+std::string SpokenName(const Control& c) {
+  for (const std::string& words : {c.spoken, Plain(c.caption), Plain(c.tip)}) {
+    if (!words.empty()) return words;
+  }
+  return c.name;
+}
+
+std::string MarkWords(const Session& s, const Control& field) {
+  const std::string stored = s.StateText(field) + (field.unit.empty() ? "" : " " + field.unit);
+  if (!s.IsRefused(field)) {
+    return "The calculation uses " + (stored.empty() ? "no text" : stored) + ", not this text";
+  }
+  const std::string last = s.LastAccepted();
+  return "Refused: " + stored + " is stored, nothing is calculated with it" +
+         (last.empty() ? "" : "; Escape puts " + last + " back");
 }
 
 std::string FailureWords(const Design& design) {

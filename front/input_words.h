@@ -13,6 +13,12 @@ struct Design;
 /// A control with what was put in: "gm1 = 0.00", "Profiles, IPE", "Web stiffeners".
 std::string InputWords(const Session& session, const Control& control);
 
+/// What a screen reader calls a control.
+std::string SpokenName(const Control& control);
+
+/// What the mark on a field means: the value that is stored and used, or that is refused.
+std::string MarkWords(const Session& session, const Control& field);
+
 /// Where the last calculation stopped, and the input that it hangs on where there is one:
 /// "it stopped in the material values: the material factor is 0".
 std::string FailureWords(const Design& design);

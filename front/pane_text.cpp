@@ -16,6 +16,12 @@ DiagramData DiagramDataOf(const Design& d) {
   return {d.st, d.beam, d.deflections, d.forces.N};
 }
 
+bool PlaneFolds(const Design& d, Plane plane) {
+  const bool z = PlaneIsEmpty(d.st, d.beam, Plane::Z);
+  const bool y = PlaneIsEmpty(d.st, d.beam, Plane::Y);
+  return plane == Plane::Y ? y : z && !y;
+}
+
 std::string PaneText(const Design& design, const std::string& pane) {
   const auto kind = DiagramOfPane(design.st, pane);
   if (!kind) return {};

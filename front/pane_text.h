@@ -24,4 +24,8 @@ std::string PaneText(const Design& design, const std::string& pane);
 /// position (0 to 1); empty where there are no stations.
 std::string ValueUnderPointer(const Design& design, const std::string& pane, double relative);
 
+/// Whether the diagrams of a plane give their room to those of the other one: nothing acts there,
+/// or there alone. Without any load the plane of My stays.
+bool PlaneFolds(const Design& design, Plane plane);
+
 }  // namespace korvane

@@ -54,6 +54,8 @@ public:
   /// What needs no box: windows show it by the state, a script prints it.
   virtual void Remark(const std::string&) {}
   virtual void Beep() {}
+  /// What the next AskPrint is about, for a preview and a proposed name: design, report, notice.
+  virtual void PreparePrint(const Design&, int, const std::string&) {}
   virtual std::optional<PrintJob> AskPrint() { return std::nullopt; }
   /// Prints report 0 (section property and capacity) or 1 (section and stability control).
   virtual void Print(const Design&, int, const PrintJob&) {}

@@ -6,6 +6,7 @@
 
 #include "core/text.h"
 #include "front/input_words.h"
+#include "front/news.h"
 #include "front/state_compare.h"
 
 namespace korvane {
@@ -98,6 +99,7 @@ std::string Session::Title(const Form& form) const {
 
 void Session::Calculate() {
   ++calculations_;
+  const ProjectState before = st();
   try {
     korvane::Calculate(design_);
   } catch (const CalculationFault& fault) {
@@ -109,6 +111,7 @@ void Session::Calculate() {
   failedStep_.clear();
   mending_ = false;
   calculated_ = design_.st;
+  TellRemoved(before, true);
   TellMessages();
 }
 
@@ -123,10 +126,23 @@ void Session::TakeSection(const std::function<void()>& take) {
   }
 }
 
+void Session::Tell(const std::string& news) {
+  const DateTime now = platform_.Now();
+  news_ = Format(now.hour, "00") + ":" + Format(now.minute, "00") + "  " + news;
+}
+
+void Session::TellRemoved(const ProjectState& before, bool byFamily) {
+  if (const std::string words = RemovedWords(*this, before, st(), byFamily); !words.empty()) {
+    Tell(words);
+  }
+}
+
 void Session::BeginProject() {
   calculated_.reset();
   failedStep_.clear();
   mending_ = true;
+  news_.clear();
+  removedLoads.reset();
 }
 
 void Session::Guard(const std::function<void()>& action) {

@@ -155,8 +155,14 @@ public:
   void Fill(const Control& field) { fields_.Fill(field); }
   void FillMainWindow();
   void End() { ended_ = true; }
-  int databaseSelection = -1;  ///< selected entry of the database list
-  int databaseVersion = 0;     ///< counts the changes of the list
+  /// Tells something in the status bar, with the time in front; it stands until the next one.
+  void Tell(const std::string& news);
+  const std::string& News() const { return news_; }
+  /// Tells what an action took away between a former state and now.
+  void TellRemoved(const ProjectState& before, bool byFamily);
+  std::optional<ProjectState> removedLoads;  ///< what stood before all loads were removed
+  int databaseSelection = -1;                ///< selected entry of the database list
+  int databaseVersion = 0;                   ///< counts the changes of the list
 
 private:
   friend class ProjectFiles;
@@ -186,6 +192,7 @@ private:
   std::string failedStep_;  ///< of the last calculation; empty where it succeeded
   bool mending_ = false;
   const Control* lastInput_ = nullptr;
+  std::string news_;
   int calculations_ = 0;
   int focusings_ = 0;
   bool ended_ = false;

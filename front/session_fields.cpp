@@ -44,9 +44,11 @@ void Session::KeepTexts() {
     if (c.kind == Kind::Input && &c != on.ifyk && &c != on.ispring) fields_.Keep(c, Text(c));
   }
   fields_.ForgetRefused();
+  removedLoads.reset();
 }
 
 void Session::FillMainWindow() {
+  removedLoads.reset();
   fields_.FillAll();
 }
 

@@ -19,8 +19,9 @@ constexpr double kArrowMore = 4;     // what the greatest point load has above t
 constexpr double kMomentMore = 0.9;  // what the greatest moment's radius has above the least
 constexpr double kMomentGap = 0.5;   // between two moments' arrows
 constexpr double kSupport = 2.8;
-constexpr double kHeadShare = 0.7;  // greatest part of an arrow that is its head
-constexpr double kRise = 1.2;       // from the arrows to a row of values that had to move apart
+constexpr double kWall = 0.6 * kSupport;  // what a fixed support has above the member
+constexpr double kHeadShare = 0.7;        // greatest part of an arrow that is its head
+constexpr double kRise = 1.2;  // from the arrows to a row of values that had to move apart
 
 const char* TitleOf(Plane plane, bool variable) {
   constexpr const char* titles[2][2] = {
@@ -97,7 +98,8 @@ Layout LayoutOf(const LoadItems& items, const DiagramStyle& style) {
   const int layers = std::max({1, items.layersAbove, items.layersBelow});
   layout.band = std::max(std::min(kBandMost, kBandTotal / layers), LeastHead(style) / kHeadShare);
   layout.layer = layout.band + LineOf(style) + 0.3;
-  layout.above = std::max(0.6, SideRoom(items, layout, false, style));
+  // The wall of a fixed support reaches above the member too: the title stays clear of it.
+  layout.above = std::max(kWall + 0.5, SideRoom(items, layout, false, style));
   layout.below = std::max(kSupport + 0.6, SideRoom(items, layout, true, style));
   layout.positions = PositionRowHeight(items.Positions().size(), style.text);
   return layout;

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/text.h"
+#include "presentation/load_items.h"
 
 namespace korvane {
 namespace {
@@ -132,6 +133,13 @@ std::vector<DiagramKind> DiagramsOfMode(const ProjectState& st) {
   return kinds;
 }
 
+bool PlaneIsEmpty(const ProjectState& st, const BeamResults& beam, Plane plane) {
+  const PlaneForces& f = plane == Plane::Z ? beam.z : beam.y;
+  if (f.M_max != 0 || f.M_min != 0 || f.V_max != 0 || f.V_min != 0) return false;
+  if (st.AnalysisMode == 0) return true;
+  return CollectLoads(st, plane, false).Empty() && CollectLoads(st, plane, true).Empty();
+}
+
 double DiagramHeight(DiagramKind kind, const DiagramData& data, const DiagramStyle& style) {
   return EntryOf(kind).height(data, style);
 }
@@ -147,6 +155,20 @@ void DrawDiagramIn(DrawingTarget& target, DiagramKind kind, const Box& place,
   const Box fitted = target.FitInside(place, kPictureWidth, height);
   const ScopedFrame frame(target, fitted, Box::At(0, 0, kPictureWidth, height));
   DrawDiagram(target, kind, {0, 0, destination}, data, style);
+}
+
+bool HasStations(DiagramKind kind) {
+  switch (kind) {
+    case DiagramKind::MomentShearZ:
+    case DiagramKind::MomentShearY:
+    case DiagramKind::EndMomentZ:
+    case DiagramKind::EndMomentY:
+    case DiagramKind::DeflectionZ:
+    case DiagramKind::DeflectionY:
+      return true;
+    default:
+      return false;
+  }
 }
 
 std::string ValueUnderPointer(DiagramKind kind, double relative, const DiagramData& data) {

@@ -76,6 +76,9 @@ struct DiagramData {
 /// only where such a load is not 0.
 std::vector<DiagramKind> DiagramsOfMode(const ProjectState& st);
 
+/// Nothing acts in a plane: no load stands there, and no moment and no shear.
+bool PlaneIsEmpty(const ProjectState& st, const BeamResults& beam, Plane plane);
+
 /// Height of a diagram in grid units; it follows from the data. The width is kPictureWidth.
 double DiagramHeight(DiagramKind kind, const DiagramData& data, const DiagramStyle& style);
 
@@ -87,7 +90,10 @@ void DrawDiagram(DrawingTarget& target, DiagramKind kind, const DiagramOrigin& o
 void DrawDiagramIn(DrawingTarget& target, DiagramKind kind, const Box& place,
                    Destination destination, const DiagramData& data, const DiagramStyle& style);
 
-/// What a status line says for the pointer at a relative position of a diagram: the values of
+/// Whether a diagram has values at the stations.
+bool HasStations(DiagramKind kind);
+
+/// What is said for the pointer at a relative position of a diagram: the values of
 /// the nearest station; empty for diagrams without stations.
 std::string ValueUnderPointer(DiagramKind kind, double relative, const DiagramData& data);
 

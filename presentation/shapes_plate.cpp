@@ -27,7 +27,7 @@ static Plate PlateOf(const Source& s, double width) {
   p.shape.yAxis = p.shape.H - rec.ezel;
   p.shape.zAxis = p.cx;
   Add(p.shape, "b1", {left, p.shape.H}, {left + b1, p.shape.H}, DimensionSide::Above);
-  AddHeight(p.shape, "h", 0, p.shape.H);
+  AddHeight(p.shape, "h", 0, p.under);
   AddFlange(p.shape, "tf1", left + b1, p.under, p.shape.H);
   return p;
 }

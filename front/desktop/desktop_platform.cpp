@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QSettings>
@@ -19,6 +20,7 @@
 #include "core/files.h"
 #include "core/project_file.h"
 #include "front/desktop/own_folder.h"
+#include "front/desktop/project_place.h"
 #include "front/painter/paint_files.h"
 #include "front/painter/painter_target.h"
 #include "front/painter/report_job.h"
@@ -61,6 +63,11 @@ std::optional<std::string> DesktopPlatform::AskFile(bool save, const std::string
   dialog.setDefaultSuffix(QString::fromStdString(extension));
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  if (session_ != nullptr) {
+    dialog.setDirectory(ProjectFolder(*session_));
+    const QString ending = QLatin1Char('.') + QString::fromStdString(extension);
+    if (save) dialog.selectFile(QFileInfo(BesideProject(*session_, ending)).fileName());
+  }
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return dialog.selectedFiles().first().toStdString();
 }
@@ -118,13 +125,19 @@ public:
     setWindowTitle(tr("Sheets"));
     box_->setObjectName(QStringLiteral("withchecker"));
     box_->setChecked(withChecker);
+    preview_ = new QPushButton(tr("Preview..."), this);
+    preview_->setObjectName(QStringLiteral("preview"));
+    preview_->setAutoDefault(false);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(box_);
+    layout->addWidget(preview_, 0, Qt::AlignLeft);
     layout->addStretch();
   }
   bool WithChecker() const { return box_->isChecked(); }
+  QPushButton* Preview() { return preview_; }
 
 private:
+  QPushButton* preview_;
   QCheckBox* box_;
 };
 
@@ -149,15 +162,52 @@ AttachedProject ProjectOf(const Design& design) {
 
 }  // namespace
 
+namespace {
+
+std::vector<Report> SheetsOf(int kind, bool withChecker) {
+  std::vector<Report> sheets{kind == 0 ? Report::SectionProperty : Report::SectionAndStability};
+  if (withChecker) sheets.push_back(Report::Checker);
+  return sheets;
+}
+
+}  // namespace
+
+void DesktopPlatform::PreparePrint(const Design& design, int kind, const std::string& notice) {
+  design_ = &design;
+  kind_ = kind;
+  notice_ = notice;
+}
+
+void DesktopPlatform::Preview(bool withChecker) {
+  if (design_ == nullptr) return;
+  QPrinter paper(QPrinter::HighResolution);
+  paper.setPageSize(QPageSize(QPageSize::A4));
+  QPrintPreviewDialog preview(&paper, Owner());
+  preview.setObjectName(QStringLiteral("print_preview"));
+  connect(&preview, &QPrintPreviewDialog::paintRequested, this, [&](QPrinter* printer) {
+    PaintPages(*printer, *design_, SheetsOf(kind_, withChecker), PrintJob{1, notice_});
+  });
+  preview.exec();
+}
+
 std::optional<PrintJob> DesktopPlatform::AskPrint() {
   printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer_->setPageSize(QPageSize(QPageSize::A4));
+  if (session_ != nullptr) {
+    const QString kind =
+        kind_ == 0 ? QStringLiteral("-section.pdf") : QStringLiteral("-control.pdf");
+    printer_->setOutputFileName(BesideProject(*session_, kind));
+  }
   QPrintDialog dialog(printer_.get(), Owner());
   // The dialog takes the tab for its own.
   auto* sheets = new SheetsTab(withChecker_);
   dialog.setOptionTabs({sheets});
+  connect(sheets->Preview(), &QPushButton::clicked, this,
+          [this, sheets] { Preview(sheets->WithChecker()); });
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   withChecker_ = sheets->WithChecker();
+  // A printer prints on paper, whatever name was proposed for a file.
+  if (printer_->outputFormat() != QPrinter::PdfFormat) printer_->setOutputFileName(QString());
   return PrintJob{printer_->copyCount()};
 }
 
@@ -180,34 +230,38 @@ void DesktopPlatform::PrintToFile(const Design& design, const std::vector<Report
 
 void DesktopPlatform::Print(const Design& design, int kind, const PrintJob& job) {
   if (printer_ == nullptr) return;
-  std::vector<Report> sheets{kind == 0 ? Report::SectionProperty : Report::SectionAndStability};
-  if (withChecker_) sheets.push_back(Report::Checker);
+  const std::vector<Report> sheets = SheetsOf(kind, withChecker_);
   if (printer_->outputFormat() == QPrinter::PdfFormat && !printer_->outputFileName().isEmpty()) {
     PrintToFile(design, sheets, job);
     return;
   }
-  // The page brings its own frame and margins, counted from the edge of the paper.
-  printer_->setFullPage(true);
-  printer_->setPageMargins(QMarginsF(0, 0, 0, 0));
-  printer_->setCopyCount(job.copies);
-  printer_->setDocName(QString::fromUtf8(ReportTitle(sheets.front())));
-  QPainter painter;
-  if (!painter.begin(printer_.get())) {
+  if (!PaintPages(*printer_, design, sheets, job)) {
     Message(tr("The printer does not take the page").toStdString());
-    return;
   }
+}
+
+bool DesktopPlatform::PaintPages(QPrinter& printer, const Design& design,
+                                 const std::vector<Report>& sheets, const PrintJob& job) {
+  // The page brings its own frame and margins, counted from the edge of the paper.
+  printer.setFullPage(true);
+  printer.setPageMargins(QMarginsF(0, 0, 0, 0));
+  printer.setCopyCount(job.copies);
+  printer.setDocName(QString::fromUtf8(ReportTitle(sheets.front())));
+  QPainter painter;
+  if (!painter.begin(&printer)) return false;
   const DateTime now = Now();
   // A file and many a printer make no copies themselves.
-  const int runs = printer_->supportsMultipleCopies() ? 1 : std::max(1, job.copies);
+  const int runs = printer.supportsMultipleCopies() ? 1 : std::max(1, job.copies);
   for (int n = 0; n < runs; ++n) {
     for (const Report report : sheets) {
-      if (n > 0 || report != sheets.front()) printer_->newPage();
+      if (n > 0 || report != sheets.front()) printer.newPage();
       PainterTarget page(painter, kPageWidth, kPageHeight,
-                         QRectF(0, 0, printer_->width(), printer_->height()), Palette::Light());
+                         QRectF(0, 0, printer.width(), printer.height()), Palette::Light());
       DrawReport(page, report, design, {now.year, now.month, now.day, now.hour, now.minute},
                  job.notice);
     }
   }
+  return true;
 }
 
 void DesktopPlatform::OpenHelp(const std::string& file) {

@@ -18,6 +18,8 @@ namespace korvane {
 /// Whether fields show a decimal comma under a locale.
 bool WritesComma(const QLocale& locale);
 
+class Session;
+
 class DesktopPlatform : public QObject, public Platform {
   Q_OBJECT
 
@@ -25,6 +27,8 @@ public:
   DesktopPlatform();
   /// The window that dialogs belong to.
   void SetWindow(QWidget* window) { window_ = window; }
+  /// The session whose project the dialogs begin beside.
+  void SetSession(const Session& session) { session_ = &session; }
   /// Whether messages are waiting for their box.
   bool HasMessages() const { return !waiting_.isEmpty(); }
 
@@ -38,6 +42,7 @@ public:
   /// The box comes up when the action that said so is over and its result is on the screen.
   void Message(const std::string& text) override;
   void Beep() override;
+  void PreparePrint(const Design& design, int kind, const std::string& notice) override;
   std::optional<PrintJob> AskPrint() override;
   void Print(const Design& design, int kind, const PrintJob& job) override;
   void OpenHelp(const std::string& file) override;
@@ -61,6 +66,14 @@ private:
   /// A PDF is painted into memory and written as every other file, by the same routines as the
   /// console program's.
   void PrintToFile(const Design& design, const std::vector<Report>& sheets, const PrintJob& print);
+  void Preview(bool withChecker);
+  /// Paints the sheets, each on a page of its own; false where the printer does not take them.
+  bool PaintPages(QPrinter& printer, const Design& design, const std::vector<Report>& sheets,
+                  const PrintJob& job);
+  const Session* session_ = nullptr;
+  const Design* design_ = nullptr;  ///< that the dialog on is about, its report and its notice
+  int kind_ = 0;
+  std::string notice_;
   bool withChecker_ = false;  ///< the checker's sheet was asked for in the dialog
   QPointer<QWidget> window_;
   QStringList waiting_;

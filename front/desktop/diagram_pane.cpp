@@ -2,14 +2,18 @@
 #include "front/desktop/diagram_pane.h"
 
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <map>
 
+#include "front/copied_tables.h"
 #include "front/desktop/diagram_names.h"
+#include "front/desktop/member_strip.h"
 #include "front/desktop/screen_target.h"
+#include "front/desktop/station_table.h"
 #include "front/desktop/theme.h"
 #include "front/pane_text.h"
 
@@ -31,7 +35,7 @@ constexpr double kMostStretch = 1.25;
 /// The grid unit, in ems of the letters, at which lines have their own width.
 constexpr double kPenUnit = 0.5;
 /// Step of the arrow keys, a part of the length: from station to station.
-constexpr double kStep = 1.0 / 50;
+constexpr double kStep = 1.0 / StationValues::kLast;
 
 DiagramData DataOf(const Session& s) {
   const Design& d = s.design();
@@ -73,6 +77,18 @@ void DiagramBox::Draw(QPainter& painter) {
                             {0, 0, kPictureWidth, height() / unit_});
     DrawDiagram(target, kind_, {0, 0, Destination::Page}, DataOf(session_), style);
   }
+}
+
+QString DiagramBox::Table() const {
+  return QString::fromStdString(StationTable(session_));
+}
+
+void DiagramBox::AddActions(QMenu& menu) {
+  menu.addAction(tr("Table of the stations..."), this, &DiagramBox::TableWanted);
+  Pane::AddActions(menu);
+}
+
+void DiagramBox::DrawMarks(QPainter& painter) {
   if (hairline_ < 0) return;
   const double x = (kMemberLeft + hairline_ * kMemberWidth) * width() / kPictureWidth;
   painter.setPen(QPen(ColourFor(Role::Accent, palette()), 1, Qt::DashLine));
@@ -80,14 +96,33 @@ void DiagramBox::Draw(QPainter& painter) {
 }
 
 DiagramPane::DiagramPane(const Session& session, std::vector<std::string> controls, QWidget* parent)
-    : QWidget(parent), session_(session), controls_(std::move(controls)) {
+    : QWidget(parent),
+      session_(session),
+      controls_(std::move(controls)),
+      usualHeight_(kUsualHeight),
+      strip_(new MemberStrip(session, this)),
+      tag_(new QLabel(this)) {
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::Base);
   setMinimumWidth(Ems(this, 18));
+  tag_->setObjectName(QStringLiteral("pointer_tag"));
+  tag_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  tag_->setAutoFillBackground(true);
+  tag_->setBackgroundRole(QPalette::ToolTipBase);
+  tag_->setForegroundRole(QPalette::ToolTipText);
+  tag_->setFrameShape(QFrame::Box);
+  tag_->setMargin(Ems(this, 0.25));
+  tag_->hide();
 }
 
 QSize DiagramPane::sizeHint() const {
-  return {Ems(this, kUsualWidth), Ems(this, kUsualHeight)};
+  return {Ems(this, kUsualWidth), Ems(this, usualHeight_)};
+}
+
+void DiagramPane::ShowLoadsOf(Plane plane, double usualHeight) {
+  loadsOf_ = plane;
+  usualHeight_ = usualHeight;
+  strip_->hide();
 }
 
 std::vector<DiagramKind> DiagramPane::Wanted() const {
@@ -102,6 +137,7 @@ std::vector<DiagramKind> DiagramPane::Wanted() const {
 }
 
 void DiagramPane::Rebuild(const std::vector<DiagramKind>& kinds) {
+  LoseStation();
   for (DiagramBox* box : boxes_) {
     box->hide();
     box->deleteLater();
@@ -111,12 +147,14 @@ void DiagramPane::Rebuild(const std::vector<DiagramKind>& kinds) {
   for (const DiagramKind kind : kinds) {
     auto* box = new DiagramBox(session_, kind, this);
     box->installEventFilter(this);
+    connect(box, &DiagramBox::TableWanted, this, &DiagramPane::ShowTable);
     box->show();
     boxes_.push_back(box);
   }
 }
 
 void DiagramPane::Refresh() {
+  if (loadsOf_) setVisible(!PlaneFolds(session_.design(), *loadsOf_));
   const std::vector<DiagramKind> kinds = Wanted();
   const bool same = std::equal(kinds.begin(), kinds.end(), boxes_.begin(), boxes_.end(),
                                [](DiagramKind k, const DiagramBox* b) { return b->kind() == k; });
@@ -125,7 +163,12 @@ void DiagramPane::Refresh() {
     TellNewName(*box);
     box->Refresh();
   }
+  strip_->Refresh();
   Arrange();
+  if (table_ != nullptr) table_->Refresh();
+  // The station in sight tells the values of now.
+  DiagramBox* box = pointed_;
+  if (box != nullptr && tag_->isVisible()) PointAt(box, box->hairline(), pointedY_);
 }
 
 DiagramBox* DiagramPane::Box(const std::string& control) const {
@@ -151,6 +194,7 @@ void DiagramPane::Arrange() {
   const double letters = Letters();
   std::vector<double> plot, text;
   double plots = 0, texts = 0;
+  const int strip = loadsOf_ ? 0 : MemberStrip::HeightFor(letters);
   for (const DiagramBox* box : boxes_) {
     const double h1 = DiagramHeight(box->kind(), diagrams, {2, 1});
     const double h2 = DiagramHeight(box->kind(), diagrams, {4, 1});
@@ -160,41 +204,56 @@ void DiagramPane::Arrange() {
     texts += text.back();
   }
   if (boxes_.empty()) return;
-  const double unit = std::clamp((height() - texts * letters) / std::max(plots, 1.0), kLeastUnit,
-                                 std::max(kLeastUnit, kMostStretch * width() / kPictureWidth));
-  setMinimumHeight(static_cast<int>(std::ceil(plots * kLeastUnit + texts * letters)));
+  const double unit =
+      std::clamp((height() - strip - texts * letters) / std::max(plots, 1.0), kLeastUnit,
+                 std::max(kLeastUnit, kMostStretch * width() / kPictureWidth));
+  setMinimumHeight(static_cast<int>(std::ceil(plots * kLeastUnit + texts * letters)) + strip);
   double y = 0;
+  bool placed = false;
+  const auto placeStrip = [&] {
+    strip_->SetLetters(letters);
+    strip_->setGeometry(0, qRound(y), width(), strip);
+    y += strip;
+    placed = true;
+  };
   for (std::size_t k = 0; k < boxes_.size(); ++k) {
+    // The member stands between its loads and what they do.
+    if (!placed && HasStations(boxes_[k]->kind())) placeStrip();
     const double h = plot[k] * unit + text[k] * letters;
     const int top = qRound(y);
     boxes_[k]->SetScale(unit, letters);
     boxes_[k]->setGeometry(0, top, width(), qRound(y + h) - top);
     y += h;
   }
+  if (!placed) placeStrip();
 }
 
 bool DiagramPane::eventFilter(QObject* watched, QEvent* event) {
   auto* box = qobject_cast<DiagramBox*>(watched);
-  if (box != nullptr && event->type() == QEvent::MouseMove) {
-    Point(box, static_cast<QMouseEvent*>(event)->position().x());
+  if (box == nullptr) return QWidget::eventFilter(watched, event);
+  if (event->type() == QEvent::MouseMove) {
+    Point(box, static_cast<QMouseEvent*>(event)->position());
   }
-  if (box != nullptr && event->type() == QEvent::KeyPress &&
-      Step(box, static_cast<QKeyEvent*>(event)->key())) {
+  if (event->type() == QEvent::KeyPress && Step(box, static_cast<QKeyEvent*>(event)->key())) {
     return true;
   }
-  if (box != nullptr && (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut)) {
-    for (DiagramBox* b : boxes_) b->SetHairline(-1);
-    emit Pointed(QString());
-  }
+  if (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut) LoseStation();
   return QWidget::eventFilter(watched, event);
 }
 
-void DiagramPane::Point(const DiagramBox* box, double x) {
-  const double grid = x / std::max(1, box->width()) * kPictureWidth;
-  PointAt(box, std::clamp((grid - kMemberLeft) / kMemberWidth, 0.0, 1.0));
+void DiagramPane::LoseStation() {
+  for (DiagramBox* box : boxes_) box->SetHairline(-1);
+  pointed_ = nullptr;
+  tag_->hide();
+  emit Pointed(QString());
 }
 
-bool DiagramPane::Step(const DiagramBox* box, int key) {
+void DiagramPane::Point(DiagramBox* box, QPointF place) {
+  const double grid = place.x() / std::max(1, box->width()) * kPictureWidth;
+  PointAt(box, (grid - kMemberLeft) / kMemberWidth, box->y() + qRound(place.y()));
+}
+
+bool DiagramPane::Step(DiagramBox* box, int key) {
   const double at = std::max(0.0, box->hairline());
   const std::map<int, double> goals{{Qt::Key_Left, box->hairline() < 0 ? 1 : at - kStep},
                                     {Qt::Key_Right, box->hairline() < 0 ? 0 : at + kStep},
@@ -202,19 +261,49 @@ bool DiagramPane::Step(const DiagramBox* box, int key) {
                                     {Qt::Key_End, 1}};
   const auto goal = goals.find(key);
   if (goal == goals.end()) return false;
-  PointAt(box, std::clamp(goal->second, 0.0, 1.0));
+  PointAt(box, goal->second, box->y() + box->height() / 2);
   return true;
 }
 
-void DiagramPane::PointAt(const DiagramBox* box, double relative) {
-  for (DiagramBox* b : boxes_) b->SetHairline(relative);
+void DiagramPane::PointAt(DiagramBox* box, double relative, int y) {
+  const int station = qRound(std::clamp(relative, 0.0, 1.0) / kStep);
+  pointed_ = box;
+  pointedY_ = y;
+  for (DiagramBox* b : boxes_) b->SetHairline(station * kStep);
   std::string text =
-      ValueUnderPointer(session_.design(), box->objectName().toStdString(), relative);
+      ValueUnderPointer(session_.design(), box->objectName().toStdString(), station * kStep);
   // A box without values tells those of the plane's other diagrams.
   for (std::size_t k = 0; text.empty() && k < boxes_.size(); ++k) {
-    text = ValueUnderPointer(session_.design(), boxes_[k]->objectName().toStdString(), relative);
+    text = ValueUnderPointer(session_.design(), boxes_[k]->objectName().toStdString(),
+                             station * kStep);
   }
-  emit Pointed(QString::fromStdString(session_.OnScreen(std::move(text))));
+  const QString shown = QString::fromStdString(session_.OnScreen(std::move(text)));
+  PlaceTag(shown, qRound((kMemberLeft + station * kStep * kMemberWidth) * width() / kPictureWidth),
+           y);
+  if (table_ != nullptr) table_->Mark(station);
+  emit Pointed(shown);
+}
+
+void DiagramPane::PlaceTag(const QString& text, int x, int y) {
+  tag_->setVisible(!text.isEmpty());
+  if (text.isEmpty()) return;
+  QStringList lines;
+  for (const QString& part : text.split(QStringLiteral("  "))) lines << part.trimmed();
+  tag_->setText(lines.join(QLatin1Char('\n')));
+  tag_->adjustSize();
+  const QRect seen = visibleRegion().boundingRect();
+  const int gap = Ems(this, 0.7);
+  const bool right = x + gap + tag_->width() <= width();
+  const int top =
+      std::clamp(y + gap, seen.top(), std::max(seen.top(), seen.bottom() + 1 - tag_->height()));
+  tag_->move(right ? x + gap : std::max(0, x - gap - tag_->width()), top);
+  tag_->raise();
+}
+
+void DiagramPane::ShowTable() {
+  if (table_ == nullptr) table_ = new StationTableWindow(session_, window());
+  table_->show();
+  table_->activateWindow();
 }
 
 }  // namespace korvane

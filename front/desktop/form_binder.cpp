@@ -10,14 +10,17 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QScrollArea>
 #include <optional>
 
 #include "front/desktop/desktop.h"
+#include "front/desktop/field_edit.h"
 #include "front/desktop/panes.h"
 #include "front/desktop/size_list.h"
 #include "front/desktop/tab_order.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
+#include "front/input_words.h"
 
 namespace korvane {
 
@@ -51,6 +54,13 @@ void ShowText(QLabel* label, const QString& text) {
   if (label->text() != text) label->setText(text);
 }
 
+/// Brings a widget into sight wherever it stands in something that scrolls.
+void ScrollTo(QWidget& widget) {
+  for (QWidget* above = widget.parentWidget(); above != nullptr; above = above->parentWidget()) {
+    if (auto* scroll = qobject_cast<QScrollArea*>(above)) scroll->ensureWidgetVisible(&widget);
+  }
+}
+
 void ShowAlarm(QLabel* label, bool alarm, QPalette palette) {
   if (alarm) palette.setColor(QPalette::WindowText, ColourFor(Role::Fail, palette));
   label->setPalette(palette);
@@ -60,6 +70,12 @@ bool IsReturn(const QEvent* event) {
   if (event->type() != QEvent::KeyPress) return false;
   const int pressed = static_cast<const QKeyEvent*>(event)->key();
   return pressed == Qt::Key_Return || pressed == Qt::Key_Enter;
+}
+
+/// Where an arrow key goes among choices: 1 forward, -1 back, 0 for other keys.
+int StepOf(int pressed) {
+  if (pressed == Qt::Key_Right || pressed == Qt::Key_Down) return 1;
+  return pressed == Qt::Key_Left || pressed == Qt::Key_Up ? -1 : 0;
 }
 
 bool IsEscape(const QEvent* event) {
@@ -133,6 +149,14 @@ void FormBinder::BindEdit(Bound& bound, QLineEdit* edit) {
       // A long name is read from its beginning.
       if (!edit->hasFocus()) edit->setCursorPosition(0);
     }
+    if (auto* field = qobject_cast<FieldEdit*>(edit)) {
+      // Names are read on saving, as they stand in their fields.
+      const bool marked = c->field.IsNumber() && s.Marked(*c);
+      if (field->Marked() != marked) {
+        field->SetMarked(marked);
+        edit->setAccessibleDescription(marked ? Q(MarkWords(s, *c)) : QString());
+      }
+    }
     const QPalette palette = root_->palette();
     if (green == s.Green(*c) && key == palette.cacheKey()) return;
     green = s.Green(*c);
@@ -145,10 +169,9 @@ void FormBinder::BindButton(Bound& bound) {
   const Control* c = bound.control;
   auto* button = qobject_cast<QAbstractButton*>(bound.widget);
   button->setAutoExclusive(false);
-  if (c->returnKey) {
-    button->installEventFilter(this);
-    filtered_[button] = c;
-  }
+  // A key presses or moves as the usual controls do.
+  button->installEventFilter(this);
+  filtered_[button] = c;
   connect(button, &QAbstractButton::clicked, this, [this, c, button] {
     desktop_.Click(*c);
     // Whatever the click did to the mark, the session says how it stands.
@@ -159,8 +182,9 @@ void FormBinder::BindButton(Bound& bound) {
     const Session& s = desktop_.session();
     if (button->isCheckable()) button->setChecked(s.Checked(*c));
     if (c->text) {
-      const QString text = Q(s.Text(*c));
+      const QString text = Q(c->words ? c->words(s) : s.Text(*c));
       if (button->text() != text) button->setText(text);
+      if (c->words) button->setAccessibleName(Q(c->tip) + QStringLiteral(": ") + text);
     }
     if (follows) button->update();
   };
@@ -184,6 +208,11 @@ void FormBinder::BindOpenList(Bound& bound, SizeList* list) {
   connect(list, &QListWidget::currentRowChanged, this, [this, c](int index) {
     if (!desktop_.Busy() && index >= 0) desktop_.Select(*c, index);
   });
+  if (c->deleteKey) {
+    connect(list, &SizeList::DeleteWanted, this, [this, c] {
+      if (!desktop_.Busy()) desktop_.Act([this, c] { c->deleteKey(desktop_.session()); });
+    });
+  }
   connect(list, &SizeList::ChosenAgain, this, [this, c](int index) {
     if (!desktop_.Busy()) desktop_.Select(*c, index);
   });
@@ -202,8 +231,7 @@ void FormBinder::BindOpenList(Bound& bound, SizeList* list) {
 
 void FormBinder::Describe(const Bound& bound) const {
   const Control& c = *bound.control;
-  QString name = Q(c.caption.empty() ? c.tip : c.caption).simplified();
-  if (name.isEmpty()) name = Q(c.name);
+  QString name = Q(SpokenName(c));
   if (!c.unit.empty()) name += QStringLiteral(" (") + Q(c.unit) + QStringLiteral(")");
   bound.widget->setAccessibleName(name);
   if (c.kind == Kind::Label || c.kind == Kind::Frame) {
@@ -248,6 +276,7 @@ void FormBinder::TakeFocus(const Control& control) {
     return;
   }
   widget->setFocus(Qt::OtherFocusReason);
+  ScrollTo(*widget);
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
 }
 
@@ -256,7 +285,9 @@ void FormBinder::TakeFocus(const Control& control) {
 bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
   const Control* control = filtered_.value(watched);
   if (desktop_.Busy() || control == nullptr) return QObject::eventFilter(watched, event);
-  if (IsReturn(event)) {
+  auto* button = qobject_cast<QAbstractButton*>(watched);
+  if (button != nullptr && ButtonKey(*control, button, event)) return true;
+  if (button == nullptr && IsReturn(event)) {
     desktop_.Act([&] { desktop_.session().Return(*control); });
     return true;
   }
@@ -265,11 +296,44 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
+bool FormBinder::ButtonKey(const Control& control, QAbstractButton* button, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  if (IsReturn(event)) {
+    if (control.returnKey) {
+      desktop_.Act([&] { desktop_.session().Return(control); });
+    } else if (control.kind == Kind::Button || control.kind == Kind::Picture) {
+      button->click();
+    } else {
+      return false;
+    }
+    return true;
+  }
+  const int step = StepOf(static_cast<QKeyEvent*>(event)->key());
+  if (step == 0 || !button->isCheckable() || control.kind == Kind::Check) return false;
+  // Within the choices that stand beside each other in the form.
+  const Controls& all = form_.controls;
+  const Session& s = desktop_.session();
+  for (int k = control.place + step; k >= 0 && k < static_cast<int>(all.size()); k += step) {
+    const Control& next = all[static_cast<std::size_t>(k)];
+    if (next.kind != control.kind || !next.checked) break;
+    QWidget* widget = WidgetOf(next);
+    if (widget == nullptr || !s.Enabled(next) || !s.Visible(next)) continue;
+    widget->setFocus(Qt::OtherFocusReason);
+    desktop_.Click(next);
+    break;
+  }
+  return true;
+}
+
 bool FormBinder::FieldEvent(const Control& field, QLineEdit* edit, QEvent* event) {
   Session& s = desktop_.session();
-  if (event->type() == QEvent::ToolTip && field.field.Limited()) {
+  if (event->type() == QEvent::ToolTip) {
     // A limit may follow another input.
-    edit->setToolTip(Q(s.Tip(field)).trimmed());
+    QString tip = Q(s.Tip(field)).trimmed();
+    if (tip.isEmpty()) tip = edit->accessibleName();
+    if (field.field.IsNumber() && s.Marked(field))
+      tip = Q(MarkWords(s, field)) + QLatin1Char('\n') + tip;
+    edit->setToolTip(tip);
   }
   if (IsEscape(event) && s.IsRefused(field)) {
     desktop_.Act([&] { s.TakeBack(); });

@@ -10,6 +10,7 @@
 
 #include "front/forms/handles.h"
 
+class QAbstractButton;
 class QComboBox;
 class QLineEdit;
 class QWidget;
@@ -51,6 +52,8 @@ private:
   void BindCombo(Bound& bound, QComboBox* combo);
   void BindOpenList(Bound& bound, SizeList* list);
   void Describe(const Bound& bound) const;
+  /// Return presses a button, arrow keys go from choice to choice.
+  bool ButtonKey(const Control& control, QAbstractButton* button, QEvent* event);
   bool FieldEvent(const Control& field, QLineEdit* edit, QEvent* event);
   void OfferLastAccepted(QLineEdit* edit, const QPoint& where);
   void FieldGainsFocus(const Control& field, QLineEdit* edit, Qt::FocusReason reason);

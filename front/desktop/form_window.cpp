@@ -1,14 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/desktop/form_window.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSettings>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "front/copied_tables.h"
 #include "front/desktop/desktop.h"
 #include "front/desktop/diagram_pane.h"
 #include "front/desktop/form_binder.h"
+#include "front/desktop/own_folder.h"
+#include "front/desktop/size_list.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
 
@@ -39,8 +50,21 @@ FormWindow::FormWindow(Desktop& desktop, const Form& form, QWidget* parent)
   setObjectName(QString::fromStdString(form.name));
   setModal(form.modal);
   WidgetMaker maker(form, desktop.session());
-  LayOutOf(form)(maker, this);
+  auto* controls = new QWidget;
+  LayOutOf(form)(maker, controls);
+  scroll_ = new QScrollArea;
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setWidgetResizable(true);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setWidget(controls);
+  controls->installEventFilter(this);
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(0, 0, 0, 0);
+  all->addWidget(scroll_);
   binder_ = new FormBinder(desktop, maker, this);
+  if (form.values) {
+    for (SizeList* list : findChildren<SizeList*>()) list->installEventFilter(this);
+  }
   // Drawings that are no control of the form follow the session too.
   connect(&desktop, &Desktop::Refreshed, this, [this] {
     if (!isVisible()) return;
@@ -48,13 +72,81 @@ FormWindow::FormWindow(Desktop& desktop, const Form& form, QWidget* parent)
     const bool awaits = !desktop_.session().NotCalculated().empty();
     for (Pane* pane : findChildren<Pane*>()) {
       pane->SetPaled(awaits);
-      pane->update();
+      // A control's pane has been refreshed by the binder.
+      if (FindControl(form_, pane->objectName().toStdString()) == nullptr) {
+        pane->Refresh();
+      } else {
+        pane->update();
+      }
     }
     // The values of a family's form are those of the section before until a size is chosen.
     for (ValueLabel* value : findChildren<ValueLabel*>()) {
       value->setForegroundRole(awaits ? QPalette::Mid : QPalette::WindowText);
     }
   });
+}
+
+QSize FormWindow::sizeHint() const {
+  const QSize whole = scroll_->widget()->sizeHint();
+  const QSize room = screen()->availableSize() - kWindowFrame;
+  QSize fits = whole.boundedTo(room);
+  // A bar takes room of its own from what is seen.
+  if (fits.height() < whole.height()) fits.rwidth() += scroll_->verticalScrollBar()->width();
+  if (fits.width() < whole.width()) fits.rheight() += scroll_->horizontalScrollBar()->height();
+  return fits.boundedTo(room);
+}
+
+void FormWindow::contextMenuEvent(QContextMenuEvent* event) {
+  if (!form_.values) return QDialog::contextMenuEvent(event);
+  QMenu menu;
+  menu.addAction(tr("Copy values as a table"), QKeySequence::Copy, this, &FormWindow::CopyValues);
+  menu.exec(event->globalPos());
+}
+
+void FormWindow::CopyValues() {
+  QApplication::clipboard()->setText(QString::fromStdString(ValueTable(desktop_.session(), form_)));
+}
+
+void FormWindow::FitContent() {
+  // A person who made the window smaller wants it so.
+  if (!placed_ || size().width() < fitted_.width() || size().height() < fitted_.height()) return;
+  const QSize room = screen()->availableSize() - kWindowFrame;
+  fitted_ = scroll_->widget()->minimumSizeHint().boundedTo(room);
+  if (const QSize wanted = size().expandedTo(fitted_); wanted != size()) resize(wanted);
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == scroll_->widget()) {
+    // Values come and go with the section, and need their room.
+    if (event->type() == QEvent::LayoutRequest) {
+      QMetaObject::invokeMethod(this, &FormWindow::FitContent, Qt::QueuedConnection);
+    }
+    return false;
+  }
+  // The list of sizes would copy the name of the marked one.
+  if (event->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+    CopyValues();
+    return true;
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (form_.values && event->matches(QKeySequence::Copy)) return CopyValues();
+  QDialog::keyPressEvent(event);
+}
+
+void FormWindow::hideEvent(QHideEvent* event) {
+  if (!event->spontaneous() && pos() != placedAt_) {
+    QSettings store = UserSettings();
+    store.setValue(PlaceKey(), saveGeometry());
+  }
+  QDialog::hideEvent(event);
+}
+
+QString FormWindow::PlaceKey() const {
+  return QStringLiteral("Window/form-") + objectName();
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
@@ -68,11 +160,18 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::showEvent(QShowEvent* event) {
   if (!placed_ && !event->spontaneous()) Place();
+  const bool first = !placed_;
   placed_ = true;
   QDialog::showEvent(event);
+  if (!first) return;
+  placedAt_ = pos();
+  FitContent();
 }
 
 void FormWindow::Place() {
+  // Where a person has put it, as far as the screens still have that place.
+  const QByteArray kept = UserSettings().value(PlaceKey()).toByteArray();
+  if (!kept.isEmpty() && restoreGeometry(kept)) return;
   const QRect room = screen()->availableGeometry();
   const QWidget* main = parentWidget();
   // The frame that the window manager gives the main window is what this window gets too.

@@ -6,6 +6,8 @@
 
 #include "front/form_table.h"
 
+class QScrollArea;
+
 namespace korvane {
 
 class Desktop;
@@ -20,8 +22,14 @@ public:
   FormBinder& binder() { return *binder_; }
   /// Escape closes as the frame's button does.
   void reject() override { close(); }
+  /// What the controls ask for, within the screen: what has no room there is scrolled to.
+  QSize sizeHint() const override;
 
 protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
   bool event(QEvent* event) override;
@@ -29,10 +37,19 @@ protected:
 private:
   /// Where the window stands when it is shown for the first time.
   void Place();
+  /// Its key in the settings.
+  QString PlaceKey() const;
+  /// The window grows with what its controls need, within the screen.
+  void FitContent();
+  /// The values of a family's form go to the clipboard.
+  void CopyValues();
   Desktop& desktop_;
   const Form& form_;
   FormBinder* binder_;
+  QScrollArea* scroll_;
   bool placed_ = false;
+  QPoint placedAt_;  ///< where it stood at first: kept only when a person moves it
+  QSize fitted_;     ///< least size that the controls were given
 };
 
 // Layouts of forms that have one of their own; all others are stacked.

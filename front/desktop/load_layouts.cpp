@@ -2,10 +2,12 @@
 // Layouts of the load forms: one table per kind of load, one row per load.
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <array>
 
 #include "front/desktop/diagram_pane.h"
 #include "front/desktop/form_binder.h"
 #include "front/desktop/form_window.h"
+#include "front/desktop/panes.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
 
@@ -27,6 +29,7 @@ QGridLayout* Table(WidgetMaker& maker, QGroupBox* group, const QStringList& head
                    const std::vector<TableRow>& rows) {
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(Ems(group, 0.5));
+  grid->setVerticalSpacing(Ems(group, 0.2));
   for (int k = 0; k < headings.size(); ++k) grid->addWidget(Heading(headings[k]), 0, k + 1);
   int row = 1;
   for (const auto& [title, controls] : rows) {
@@ -42,20 +45,21 @@ QGridLayout* Table(WidgetMaker& maker, QGroupBox* group, const QStringList& head
 
 QGroupBox* Group(const QString& title) {
   auto* group = new QGroupBox(title);
-  new QVBoxLayout(group);
+  auto* column = new QVBoxLayout(group);
+  const int gap = Ems(group, 0.4);
+  column->setContentsMargins(gap, gap, gap, gap);
+  column->setSpacing(gap);
   return group;
 }
 
-QLayout* Row(WidgetMaker& maker, const std::vector<Handle>& controls) {
+QLayout* Row(WidgetMaker& maker, const QString& title, const std::vector<Handle>& controls) {
   auto* row = new QHBoxLayout;
+  row->addWidget(Heading(title));
   for (const Handle control : controls) row->addWidget(maker.Make(control));
   row->addStretch(1);
   return row;
 }
 
-QString CaptionOf(Handle control) {
-  return QString::fromStdString(control->caption);
-}
 QString UnitOf(Handle control) {
   return QString::fromStdString(control->unit);
 }
@@ -93,73 +97,102 @@ QGroupBox* Factors(WidgetMaker& maker) {
   return group;
 }
 
-QGroupBox* Lines(WidgetMaker& maker) {
-  QGroupBox* group = Group(QObject::tr("Uniform loads"));
-  std::vector<TableRow> rows;
-  for (const LoadingControls::Line& line : OnLoading().lines) {
-    rows.push_back({CaptionOf(line.q), {line.q, line.pv, line.yz}});
-  }
-  Table(maker, group, {UnitOf(OnLoading().lines[1].q), QString(), QString()}, rows);
-  return group;
-}
+/// Columns of the table of loads.
+enum Column { Kind_, Value, Value2, X, X2, Group_, Direction_, Columns };
 
-QGroupBox* Trapezoids(WidgetMaker& maker) {
+/// One row of the table of loads; columns without a control stay empty.
+struct LoadRow {
+  QString kind;  ///< in words, where no control tells it
+  std::array<Handle, Columns> controls{};
+};
+
+std::vector<LoadRow> LoadRows() {
   const LoadingControls& on = OnLoading();
-  QGroupBox* group = Group(QObject::tr("Trapezoidal loads"));
-  std::vector<TableRow> rows;
+  std::vector<LoadRow> rows;
+  for (const LoadingControls::Line& line : on.lines) {
+    LoadRow row{QObject::tr("Uniform q%1").arg(rows.size() + 1), {}};
+    row.controls[Value] = line.q;
+    row.controls[Group_] = line.pv;
+    row.controls[Direction_] = line.yz;
+    rows.push_back(row);
+  }
+  int number = 1;
   for (const LoadingControls::Trapezoid& t : on.trapezoids) {
-    rows.push_back({QString::number(rows.size() + 1), {t.q1, t.q2, t.x1, t.x2, t.pv, t.yz}});
-  }
-  const QString q = UnitOf(on.trapezoids[1].q1);
-  Table(maker, group, {"q1 " + q, "q2 " + q, "x1", "x2", QString(), QString()}, rows);
-  static_cast<QVBoxLayout*>(group->layout())
-      ->addLayout(Row(maker, {on.qtxabsolute, on.qtxrelative}));
-  return group;
-}
-
-QGroupBox* Items(WidgetMaker& maker) {
-  const LoadingControls& on = OnLoading();
-  QGroupBox* group = Group(QObject::tr("Point loads and moments"));
-  std::vector<TableRow> rows;
-  for (const LoadingControls::Item& item : on.items) {
     rows.push_back(
-        {QString::number(rows.size() + 1), {item.kind, item.value, item.x, item.pv, item.yz}});
+        {QObject::tr("Trapezoid %1").arg(number++), {nullptr, t.q1, t.q2, t.x1, t.x2, t.pv, t.yz}});
   }
-  Table(maker, group, {QString(), UnitOf(on.items[1].value), "x", QString(), QString()}, rows);
-  static_cast<QVBoxLayout*>(group->layout())
-      ->addLayout(Row(maker, {on.pmxabsolute, on.pmxrelative}));
+  for (const LoadingControls::Item& item : on.items) {
+    rows.push_back({{}, {item.kind, item.value, nullptr, item.x, nullptr, item.pv, item.yz}});
+  }
+  return rows;
+}
+
+/// All loads across the member in one table.
+QGroupBox* Loads(WidgetMaker& maker) {
+  const LoadingControls& on = OnLoading();
+  QGroupBox* group = Group(QObject::tr("Loads: q in kN/m, P in kN, M in kNm"));
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(Ems(group, 0.4));
+  grid->setVerticalSpacing(Ems(group, 0.15));
+  const QStringList headings{QObject::tr("Kind"),     QObject::tr("Value"), QObject::tr("to"),
+                             QObject::tr("x"),        QObject::tr("to"),    QObject::tr("Group"),
+                             QObject::tr("Direction")};
+  for (int k = 0; k < Columns; ++k) grid->addWidget(Heading(headings[k]), 0, k);
+  int line = 1;
+  for (const LoadRow& row : LoadRows()) {
+    if (!row.kind.isEmpty()) grid->addWidget(new QLabel(row.kind), line, Kind_);
+    for (std::size_t k = 0; k < Columns; ++k) {
+      if (row.controls[k] == nullptr) continue;
+      grid->addWidget(maker.Make(row.controls[k]), line, static_cast<int>(k));
+    }
+    ++line;
+  }
+  auto* column = static_cast<QVBoxLayout*>(group->layout());
+  column->addLayout(grid);
+  column->addLayout(Row(maker, QObject::tr("x of trapezoids:"), {on.qtxabsolute, on.qtxrelative}));
+  column->addLayout(Row(maker, QObject::tr("x of point loads:"), {on.pmxabsolute, on.pmxrelative}));
   return group;
 }
 
-/// The loads of one plane, drawn as they are typed.
-DiagramPane* Drawn(WidgetMaker& maker, std::vector<std::string> boxes, QWidget* window) {
-  return new DiagramPane(maker.session(), std::move(boxes), window);
+/// The loads of both planes, drawn as they are typed.
+void AddDrawnLoads(WidgetMaker& maker, QBoxLayout* into, QWidget* window) {
+  const auto add = [&](std::vector<std::string> boxes, Plane plane, double height) {
+    auto* pane = new DiagramPane(maker.session(), std::move(boxes), window);
+    pane->ShowLoadsOf(plane, height);
+    into->addWidget(pane, qRound(height));
+  };
+  add({"picloadpn", "picloadvn", "picloadzp", "picloadzv"}, Plane::Z, 9);
+  add({"picloadyp", "picloadyv"}, Plane::Y, 6);
 }
 
 }  // namespace
 
 void LayOutLoading(WidgetMaker& maker, QWidget* window) {
+  const LoadingControls& on = OnLoading();
   auto* all = new QVBoxLayout(window);
-  auto* drawings = new QHBoxLayout;
-  drawings->addWidget(Drawn(maker, {"picloadpn", "picloadzp", "picloadzv"}, window));
-  drawings->addWidget(Drawn(maker, {"picloadvn", "picloadyp", "picloadyv"}, window));
-  all->addLayout(drawings, 1);
   auto* columns = new QHBoxLayout;
   auto* left = new QVBoxLayout;
-  left->addWidget(Factors(maker));
+  left->addWidget(Loads(maker));
   left->addStretch(1);
-  auto* middle = new QVBoxLayout;
-  middle->addWidget(Lines(maker));
-  middle->addWidget(Trapezoids(maker));
-  middle->addStretch(1);
   auto* right = new QVBoxLayout;
-  right->addWidget(Items(maker));
-  right->addStretch(1);
+  right->addWidget(Factors(maker));
+  // What the loads do stays in sight.
+  right->addWidget(new VerdictPane(maker.session()));
+  auto* lines = new QWidget;
+  (new QVBoxLayout(lines))->setContentsMargins(0, 0, 0, 0);
+  lines->layout()->addWidget(new ResultPane(maker.session(), ResultPane::Length::Short));
+  lines->setMinimumSize(Ems(window, 26), Ems(window, 10));
+  right->addWidget(lines, 10);
+  AddDrawnLoads(maker, right, window);
   columns->addLayout(left);
-  columns->addLayout(middle);
-  columns->addLayout(right);
+  columns->addLayout(right, 1);
   all->addLayout(columns);
-  all->addLayout(maker.ButtonRow());
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(maker.Make(on.remove));
+  buttons->addWidget(maker.Make(on.undo));
+  buttons->addStretch(1);
+  buttons->addLayout(maker.ButtonRow());
+  all->addLayout(buttons);
 }
 
 void LayOutEndForces(WidgetMaker& maker, QWidget* window) {

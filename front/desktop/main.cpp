@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
 #include <QProcess>
@@ -120,6 +121,7 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
   session.Start();
   Desktop desktop(session);
   platform.SetWindow(&desktop.window());
+  platform.SetSession(session);
   QObject::connect(&platform, &DesktopPlatform::Progressed, &desktop.window(),
                    &MainWindow::ShowProgress);
   HelpDesk help(desktop.window(), FindHelpFolder());
@@ -190,6 +192,7 @@ int main(int argc, char** argv) {
   }
   QApplication app(argc, argv);
   parser.process(app);
+  QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/korvane.svg")));
   korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
   LeaveFailuresToUs();
   try {

@@ -8,6 +8,7 @@
 
 #include "front/desktop/desktop.h"
 #include "front/desktop/diagram_pane.h"
+#include "front/desktop/flow_layout.h"
 #include "front/desktop/form_binder.h"
 #include "front/desktop/main_window.h"
 #include "front/desktop/study_buttons.h"
@@ -20,6 +21,8 @@ namespace {
 
 /// Least width of the diagrams of a plane, ems.
 constexpr double kLeastPlane = 18;
+/// Least width of the inputs, which scroll to the side below their own, ems.
+constexpr double kLeastInputs = 14;
 
 QVBoxLayout* Inside(QGroupBox* group) {
   auto* column = new QVBoxLayout(group);
@@ -75,7 +78,11 @@ QGroupBox* MemberFrame(WidgetMaker& maker) {
   supports->setSpacing(3);
   for (const Handle support : On().cbutt) supports->addWidget(maker.Make(support));
   supports->addStretch(1);
-  supports->addWidget(Pair(maker, On().oweba));
+  auto* distance = Pair(maker, On().oweba);
+  // In two lines: the row is no wider with stiffeners than without.
+  distance->setWordWrap(true);
+  distance->setFixedWidth(distance->fontMetrics().horizontalAdvance(QStringLiteral("c/c=00000")));
+  supports->addWidget(distance);
   supports->addWidget(maker.Make(On().cbuttsupport));
   column->addLayout(supports);
   return group;
@@ -181,18 +188,29 @@ QWidget* MainWindow::InputColumn(WidgetMaker& maker) {
   scroll->setWidget(inputs);
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  scroll->setMinimumWidth(inputs->minimumSizeHint().width() +
-                          scroll->verticalScrollBar()->sizeHint().width());
+  scroll->setMinimumWidth(Ems(this, kLeastInputs));
+  inputWidth_ = inputs->minimumSizeHint().width() + scroll->verticalScrollBar()->sizeHint().width();
   return scroll;
 }
 
-QWidget* MainWindow::Plane(WidgetMaker& maker, const Control* frame,
-                           std::vector<std::string> boxes) {
+void MainWindow::RefreshPlanes() {
+  const Session& session = desktop_.session();
+  const bool z = session.Visible(*On().fr21);
+  const bool y = session.Visible(*On().fr22);
+  // The axial loads of a plane that has folded away stand in the other.
+  std::vector<std::string> ofZ, ofY;
+  if (z) ofZ = {"picloadpn", y ? "" : "picloadvn", "picloadzp", "picloadzv", "picmy", "picdz"};
+  if (y) ofY = {z ? "" : "picloadpn", "picloadvn", "picloadyp", "picloadyv", "picmz", "picdy"};
+  planes_[0]->SetBoxes(std::move(ofZ));
+  planes_[1]->SetBoxes(std::move(ofY));
+  for (DiagramPane* plane : planes_) plane->Refresh();
+}
+
+QWidget* MainWindow::Plane(WidgetMaker& maker, const Control* frame) {
   QGroupBox* group = maker.Frame(frame);
   auto* column = new QVBoxLayout(group);
   column->setContentsMargins(1, 1, 1, 1);
-  auto* plane = new DiagramPane(desktop_.session(), std::move(boxes), group);
+  auto* plane = new DiagramPane(desktop_.session(), {}, group);
   planes_.push_back(plane);
   auto* scroll = new QScrollArea;
   scroll->setWidget(plane);
@@ -208,22 +226,43 @@ QWidget* MainWindow::Plane(WidgetMaker& maker, const Control* frame,
 
 QWidget* MainWindow::OptimiserPanel(WidgetMaker& maker) {
   auto* panel = new QWidget;
-  auto* row = new QHBoxLayout(panel);
-  row->setContentsMargins(0, 0, 0, 0);
+  auto* row = new FlowLayout(Ems(this, 0.8));
+  panel->setLayout(row);
   row->addWidget(maker.Make(On().optimize));
-  row->addSpacing(Ems(this, 1));
   for (const Handle criterion : {On().ULS, On().SLS, On().ULSSLS}) {
     row->addWidget(maker.Make(criterion));
   }
-  row->addSpacing(Ems(this, 0.5));
-  row->addWidget(maker.Caption(On().idef_limit));
+  auto* together = new QWidget;
+  auto* pair = new QHBoxLayout(together);
+  pair->setContentsMargins(0, 0, 0, 0);
+  pair->addWidget(maker.Caption(On().idef_limit));
   auto* limit = maker.Make(On().idef_limit);
   limit->setFixedWidth(Ems(this, 4));
-  row->addWidget(limit);
-  row->addStretch(1);
+  pair->addWidget(limit);
+  row->addWidget(together);
   // The row keeps its height when the options come and go.
   panel->setMinimumHeight(limit->sizeHint().height());
   return panel;
+}
+
+QLayout* MainWindow::Head(WidgetMaker& maker) {
+  auto* head = new QHBoxLayout;
+  head->setSpacing(Ems(this, 1));
+  // Title and views stand beside each other where the verdict leaves them the room.
+  auto* section = new FlowLayout(Ems(this, 0.5));
+  auto* title = static_cast<QLabel*>(maker.Make(On().obeam));
+  QFont large = title->font();
+  large.setPixelSize(Ems(this, 1.7));
+  large.setBold(true);
+  title->setFont(large);
+  section->addWidget(title);
+  for (const Handle view : {On().cmdpic, On().de}) section->addWidget(maker.Make(view));
+  AddStudyButtons(desktop_, section);
+  head->addLayout(section, 1);
+  verdict_ = new VerdictPane(desktop_.session());
+  head->addWidget(verdict_, 1);
+  connect(verdict_, &Pane::Clicked, this, &MainWindow::ShowNotes);
+  return head;
 }
 
 QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
@@ -232,22 +271,7 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   const int gap = Ems(this, 0.5);
   column->setContentsMargins(0, gap, gap, gap);
   column->setSpacing(gap);
-  auto* head = new QHBoxLayout;
-  auto* title = static_cast<QLabel*>(maker.Make(On().obeam));
-  QFont large = title->font();
-  large.setPixelSize(Ems(this, 1.7));
-  large.setBold(true);
-  title->setFont(large);
-  head->addWidget(title);
-  head->addSpacing(Ems(this, 1));
-  head->addWidget(maker.Make(On().cmdpic));
-  head->addWidget(maker.Make(On().de));
-  AddStudyButtons(desktop_, head);
-  head->addStretch(1);
-  verdict_ = new VerdictPane(desktop_.session());
-  head->addWidget(verdict_);
-  connect(verdict_, &Pane::Clicked, this, &MainWindow::ShowNotes);
-  column->addLayout(head);
+  column->addLayout(Head(maker));
 
   auto* top = new QSplitter(Qt::Horizontal);
   top->setObjectName(QStringLiteral("figure_results"));
@@ -266,10 +290,7 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
 
   auto* planes = new QSplitter(Qt::Horizontal);
   planes->setObjectName(QStringLiteral("planes"));
-  planes->addWidget(
-      Plane(maker, On().fr21, {"picloadpn", "picloadzp", "picloadzv", "picmy", "picdz"}));
-  planes->addWidget(
-      Plane(maker, On().fr22, {"picloadvn", "picloadyp", "picloadyv", "picmz", "picdy"}));
+  for (const Handle plane : {On().fr21, On().fr22}) planes->addWidget(Plane(maker, plane));
 
   auto* rows = new QSplitter(Qt::Vertical);
   rows->setObjectName(QStringLiteral("results_diagrams"));

@@ -6,15 +6,18 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QDialog>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -28,8 +31,20 @@
 
 namespace korvane {
 
+namespace {
+
+/// The first time most of the screen is taken, on a small one all that it has for a window.
+QSize FirstSize(const QSize& room) {
+  return QSize(1760, 990)
+      .boundedTo(room * 9 / 10)
+      .expandedTo(QSize(1280, 720).boundedTo(room - kWindowFrame));
+}
+
+}  // namespace
+
 MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
   setObjectName(QString::fromStdString(TheForms().main->name));
+  setAcceptDrops(true);
   MakeMenus();
   AddKeys();
   WidgetMaker maker(*TheForms().main, desktop_.session());
@@ -42,6 +57,11 @@ MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
   split->setStretchFactor(1, 1);
   splitters_.push_back(split);
   setCentralWidget(split);
+  news_ = new QLabel;
+  news_->setObjectName(QStringLiteral("news"));
+  // A long sentence makes no window wider; the tip has it whole.
+  news_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  statusBar()->addWidget(news_, 1);
   progress_ = new QProgressBar;
   progress_->setMaximumWidth(Ems(this, 18));
   progress_->setMaximumHeight(Ems(this, 1.2));
@@ -50,10 +70,6 @@ MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
   saving_ = new QLabel;
   saving_->setObjectName(QStringLiteral("saving"));
   statusBar()->addPermanentWidget(saving_);
-  for (DiagramPane* plane : planes_) {
-    connect(plane, &DiagramPane::Pointed, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
-  }
   binder_ = new FormBinder(desktop_, maker, this);
   connect(&desktop_, &Desktop::Refreshed, this, &MainWindow::Refresh);
   // The field in use has been left by then: the binder hears the button first.
@@ -128,6 +144,10 @@ void MainWindow::RefreshMenus() {
   const Session& s = desktop_.session();
   for (const auto& [control, action] : actions_) {
     if (control->visible) action->setVisible(s.Visible(*control));
+    if (control->checked) {
+      action->setCheckable(true);
+      action->setChecked(s.Checked(*control));
+    }
     if (control->text) action->setText(QString::fromStdString(s.Text(*control)));
   }
 }
@@ -146,7 +166,10 @@ void MainWindow::RefreshSaving() {
 void MainWindow::Refresh() {
   RefreshSaving();
   RefreshMenus();
-  for (DiagramPane* plane : planes_) plane->Refresh();
+  const QString news = QString::fromStdString(desktop_.session().News());
+  news_->setText(news);
+  news_->setToolTip(news);
+  RefreshPlanes();
   // The verdict is no control of the form.
   verdict_->Refresh();
   // No result may be taken for one of a section that it was not calculated with.
@@ -166,7 +189,7 @@ void MainWindow::ShowProgress(int done, int all) {
 
 void MainWindow::ShowNotes() {
   auto* lines = static_cast<ResultPane*>(binder_->WidgetOf(*TheForms().onMain.pic31));
-  if (const QRect place = lines->MarkRatio(verdict_->Figure()); !place.isEmpty()) {
+  if (const QRect place = lines->MarkRatio(verdict_->headline().ratio); !place.isEmpty()) {
     auto* scroll = qobject_cast<QScrollArea*>(lines->parentWidget()->parentWidget());
     if (scroll != nullptr) {
       scroll->ensureVisible(0, place.top(), 0, 0);
@@ -186,6 +209,30 @@ void MainWindow::ShowNotes() {
   const QPoint corner = verdict_->mapToGlobal(QPoint(verdict_->width(), verdict_->height()));
   popup->move(corner - QPoint(popup->width(), 0));
   popup->show();
+}
+
+namespace {
+
+/// The project that is dragged; empty where it is none.
+QString ProjectIn(const QMimeData* dragged) {
+  for (const QUrl& url : dragged->urls()) {
+    const QString path = url.toLocalFile();
+    if (path.endsWith(QStringLiteral(".kvn"), Qt::CaseInsensitive)) return path;
+  }
+  return {};
+}
+
+}  // namespace
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!ProjectIn(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QString path = ProjectIn(event->mimeData());
+  if (path.isEmpty() || !desktop_.Commit()) return;
+  event->acceptProposedAction();
+  desktop_.OpenFile(path);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -225,9 +272,8 @@ void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
 
 void MainWindow::RestoreSizes() {
   const QSettings store = UserSettings();
-  // The first time most of the screen is taken, and never less than the smallest one offers.
-  const QSize room = screen()->availableSize() * 9 / 10;
-  resize(QSize(1760, 990).boundedTo(room).expandedTo(QSize(1280, 720)));
+  resize(FirstSize(screen()->availableSize()));
+  splitters_.back()->setSizes({inputWidth_, width() - inputWidth_});
   restoreGeometry(store.value(QStringLiteral("Window/geometry")).toByteArray());
   for (QSplitter* splitter : splitters_) {
     splitter->restoreState(

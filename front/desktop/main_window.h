@@ -6,6 +6,7 @@
 #include <vector>
 
 class QLabel;
+class QLayout;
 class QProgressBar;
 class QSplitter;
 
@@ -35,6 +36,8 @@ public:
   void RaiseDiagrams();
 
 protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   bool event(QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
@@ -47,7 +50,9 @@ private:
   void Refresh();
   QWidget* InputColumn(WidgetMaker& maker);
   QWidget* ResultSide(WidgetMaker& maker);
-  QWidget* Plane(WidgetMaker& maker, const Control* frame, std::vector<std::string> boxes);
+  QLayout* Head(WidgetMaker& maker);
+  QWidget* Plane(WidgetMaker& maker, const Control* frame);
+  void RefreshPlanes();
   QWidget* OptimiserPanel(WidgetMaker& maker);
   void RestoreSizes();
   void SaveSizes() const;
@@ -58,7 +63,9 @@ private:
   std::vector<std::pair<const Control*, QAction*>> actions_;
   std::vector<DiagramPane*> planes_;
   std::vector<QSplitter*> splitters_;
+  int inputWidth_ = 0;  ///< of the inputs without scrolling to the side
   QProgressBar* progress_ = nullptr;
+  QLabel* news_ = nullptr;
   QLabel* saving_ = nullptr;
 };
 

@@ -1,19 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/desktop/panes.h"
 
-#include <QBuffer>
 #include <QContextMenuEvent>
-#include <QFile>
-#include <QFileDialog>
 #include <QKeyEvent>
-#include <QMenu>
-#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPixmap>
-#include <QSvgGenerator>
 
-#include "core/files.h"
 #include "front/desktop/theme.h"
 #include "front/painter/painter_target.h"
 #include "presentation/figures.h"
@@ -31,19 +23,23 @@ Pane::Pane(const Session& session, QWidget* parent) : QWidget(parent), session_(
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void Pane::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.fillRect(rect(), palette().color(ground_));
+void Pane::PaintContent(QPainter& painter) {
   try {
     Draw(painter);
   } catch (const ArithmeticFault&) {
     // What can't be drawn stays away; the calculation tells what is wrong.
   }
-  if (paled_) {
-    QColor veil = palette().color(ground_);
-    veil.setAlphaF(kVeil);
-    painter.fillRect(rect(), veil);
-  }
+  if (!paled_) return;
+  QColor veil = palette().color(ground_);
+  veil.setAlphaF(kVeil);
+  painter.fillRect(rect(), veil);
+}
+
+void Pane::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().color(ground_));
+  PaintContent(painter);
+  DrawMarks(painter);
   if (!hasFocus() || !framed_) return;
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
@@ -64,6 +60,8 @@ void Pane::focusInEvent(QFocusEvent* event) {
 void Pane::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Space) {
     emit Clicked();
+  } else if (event->matches(QKeySequence::Copy)) {
+    Copy();
   } else {
     QWidget::keyPressEvent(event);
   }
@@ -73,39 +71,6 @@ void Pane::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
     emit Clicked();
   }
-}
-
-void Pane::contextMenuEvent(QContextMenuEvent* event) {
-  QMenu menu;
-  menu.addAction(tr("Save as SVG..."), this, [this] { Export(true); });
-  menu.addAction(tr("Save as PNG..."), this, [this] { Export(false); });
-  menu.exec(event->globalPos());
-}
-
-void Pane::Export(bool vector) {
-  const QString ending = vector ? QStringLiteral("svg") : QStringLiteral("png");
-  const QString path = QFileDialog::getSaveFileName(
-      this, QString(), ExportName() + QStringLiteral(".") + ending, QStringLiteral("*.") + ending);
-  if (path.isEmpty()) return;
-  QBuffer bytes;
-  bytes.open(QIODevice::WriteOnly);
-  if (vector) {
-    QSvgGenerator generator;
-    generator.setOutputDevice(&bytes);
-    generator.setSize(size());
-    generator.setViewBox(rect());
-    render(&generator);
-  } else {
-    QPixmap picture(size() * 2);
-    picture.setDevicePixelRatio(2);
-    render(&picture);
-    picture.save(&bytes, "PNG");
-  }
-  const WriteResult written = WriteFile(path.toStdString(), bytes.data().toStdString());
-  if (written) return;
-  QMessageBox::warning(this, QString(),
-                       tr("The picture could not be written to\n%1").arg(path) + QLatin1Char('\n') +
-                           QString::fromStdString(written.why));
 }
 
 // --- Values -------------------------------------------------------------------------------------
@@ -119,6 +84,14 @@ ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent), unit_(new QLabel(paren
 void ValueLabel::ShowValue(const QString& text, const QString& unit) {
   if (this->text() != text) setText(text);
   if (unit_->text() != unit) unit_->setText(unit);
+}
+
+void ValueLabel::contextMenuEvent(QContextMenuEvent* event) {
+  if (hasSelectedText()) {
+    QLabel::contextMenuEvent(event);
+  } else {
+    event->ignore();
+  }
 }
 
 // --- Figure -------------------------------------------------------------------------------------
@@ -148,6 +121,7 @@ void FigurePane::Draw(QPainter& painter) {
 
 VerdictPane::VerdictPane(const Session& session, QWidget* parent) : Pane(session, parent) {
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  setMinimumWidth(Ems(this, 15));
   setObjectName(QStringLiteral("verdict"));
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::TabFocus);
@@ -188,7 +162,8 @@ void VerdictPane::Draw(QPainter& painter) {
   word.setPixelSize(Ems(this, 1.35));
   word.setBold(true);
   const int right = width() - Ems(this, 0.6);
-  const int foot = height() - Ems(this, 1.5);
+  // Without a figure there is room for a reason in two lines; the tip has it whole.
+  const int foot = Ems(this, Figure() == QLatin1String("-") ? 1.7 : 2.9);
   QRect row(0, 0, right, foot);
   const auto put = [&](const QFont& font, const QColor& ink, const QString& text, double gap) {
     const int wide = QFontMetrics(font).horizontalAdvance(text);
@@ -206,9 +181,8 @@ void VerdictPane::Draw(QPainter& painter) {
   painter.setFont(font());
   painter.setPen(headline_.belowTone == Headline::Tone::Quiet ? palette().color(QPalette::Text)
                                                               : colour(headline_.belowTone));
-  const QString text = fontMetrics().elidedText(QString::fromStdString(headline_.below),
-                                                Qt::ElideRight, below.width());
-  painter.drawText(below, Qt::AlignTop | Qt::AlignRight, text);
+  painter.drawText(below, Qt::AlignTop | Qt::AlignRight | Qt::TextWordWrap,
+                   QString::fromStdString(headline_.below));
 }
 
 }  // namespace korvane

@@ -2,13 +2,17 @@
 // The painted panes of the windows: section figure, result lines, verdict, mode shapes.
 #pragma once
 
+#include <QImage>
 #include <QLabel>
 #include <QWidget>
+#include <optional>
 
 #include "checks/results.h"
 #include "front/headline.h"
 #include "front/session.h"
 #include "presentation/drawing_target.h"
+
+class QMenu;
 
 namespace korvane {
 
@@ -22,6 +26,13 @@ public:
   virtual void Refresh() { update(); }
   /// A paled pane shows that what it draws doesn't hold at present.
   void SetPaled(bool paled);
+  /// The pane as it is copied and saved, without the marks of pointer and focus; a notice at the
+  /// head where the results aren't those of the state in force.
+  QImage Picture();
+  /// What the pane shows as a table for the clipboard; empty where it is none.
+  virtual QString Table() const { return {}; }
+  /// The copy key: picture and table, whichever the other program takes.
+  virtual void Copy();
 
 signals:
   void Clicked();
@@ -31,11 +42,15 @@ protected:
   void mouseReleaseEvent(QMouseEvent* event) override;
   /// A frame tells that the Tab key has come here.
   void focusInEvent(QFocusEvent* event) override;
-  /// The space bar is a click.
+  /// The space bar is a click, and the copy key copies.
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   /// Draws the pane; an arithmetic failure leaves it empty from there on.
   virtual void Draw(QPainter& painter) = 0;
+  /// What only the screen shows on top.
+  virtual void DrawMarks(QPainter&) {}
+  /// The entries of the context menu.
+  virtual void AddActions(QMenu& menu);
   /// Name of the file that an export proposes.
   virtual QString ExportName() const { return objectName(); }
 
@@ -43,6 +58,11 @@ protected:
   QPalette::ColorRole ground_ = QPalette::Base;
 
 private:
+  QString Notice() const;
+  QSize PictureSize() const;
+  void PaintPicture(QPainter& painter);
+  void PaintContent(QPainter& painter);
+  void CopyPicture();
   void Export(bool vector);
   bool paled_ = false;
   bool framed_ = false;
@@ -56,6 +76,10 @@ public:
   explicit ValueLabel(QWidget* parent = nullptr);
   void ShowValue(const QString& text, const QString& unit);
   QLabel* unit() { return unit_; }
+
+protected:
+  /// Without a marked text the form's menu comes up.
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
   QLabel* unit_;
@@ -87,16 +111,18 @@ public:
   void Refresh() override;
   /// The lines as text, as the context menu copies them.
   QStringList Lines() const;
-  void Copy() const;
+  void Copy() override;
+  QString Table() const override;
   /// Marks the first line with this ratio until the lines change. Its place in the pane, empty
   /// where no line has it.
-  QRect MarkRatio(const QString& ratio);
+  QRect MarkRatio(double ratio);
+  /// The line that is marked; empty where none is.
+  QString MarkedLine() const;
   QSize sizeHint() const override;
 
 protected:
   void Draw(QPainter& painter) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
+  void AddActions(QMenu& menu) override;
   void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -108,6 +134,7 @@ private:
   /// Calls visit(line, y) for each line with its upper end in the pane.
   template <class Visit>
   void EachLine(Visit&& visit) const;
+  const ViewLine* LineWith(double ratio) const;
   void DrawLine(QPainter& painter, const ViewLine& line, double y);
   double RowHeight() const;
   QFont FontOf(const TextRun& run, bool fails) const;
@@ -115,9 +142,9 @@ private:
   double WidthOf(const ViewLine& line) const;
   Length length_;
   View view_;
-  double rows_ = 1;  ///< height of the lines, in rows
-  double bars_ = 0;  ///< left end of the bars
-  QString marked_;   ///< ratio of the line that is marked
+  double rows_ = 1;               ///< height of the lines, in rows
+  double bars_ = 0;               ///< left end of the bars
+  std::optional<double> marked_;  ///< ratio of the line that is marked
 };
 
 /// The headline: the greatest ratio in big figures with the word beside it, and the serviceability

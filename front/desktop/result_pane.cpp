@@ -2,12 +2,12 @@
 // The result lines: runs of text in their styles, a bar beside each ratio.
 #include <QApplication>
 #include <QClipboard>
-#include <QContextMenuEvent>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
+#include "front/copied_tables.h"
 #include "front/desktop/panes.h"
 #include "front/desktop/theme.h"
 
@@ -127,7 +127,7 @@ void ResultPane::FitLetters() {
 void ResultPane::Refresh() {
   const QStringList before = Lines();
   Measure();
-  if (Lines() != before) marked_.clear();
+  if (Lines() != before) marked_.reset();
   QStringList tips;
   for (const ViewLine& line : view_) {
     if (Fails(line)) tips << tr("FAILS: %1").arg(TextOf(line).simplified());
@@ -160,15 +160,28 @@ void ResultPane::EachLine(Visit&& visit) const {
   }
 }
 
-QRect ResultPane::MarkRatio(const QString& ratio) {
-  marked_.clear();
+const ViewLine* ResultPane::LineWith(double ratio) const {
+  // A record rounds what its check gave.
+  const auto has = [ratio](const ViewLine& line) {
+    const TextRun* value = ValueOf(line);
+    return value != nullptr && std::abs(*value->ratio - ratio) <= 1e-6 * std::max(1.0, ratio);
+  };
+  const auto it = std::find_if(view_.begin(), view_.end(), has);
+  return it == view_.end() ? nullptr : &*it;
+}
+
+QString ResultPane::MarkedLine() const {
+  const ViewLine* line = marked_ ? LineWith(*marked_) : nullptr;
+  return line == nullptr ? QString() : TextOf(*line);
+}
+
+QRect ResultPane::MarkRatio(double ratio) {
+  marked_ = ratio;
+  const ViewLine* marked = LineWith(ratio);
+  if (marked == nullptr) marked_.reset();
   QRect place;
   EachLine([&](const ViewLine& line, double y) {
-    const TextRun* value = ValueOf(line);
-    if (!marked_.isEmpty() || value == nullptr) return;
-    if (QString::fromStdString(value->text).trimmed() != ratio) return;
-    marked_ = ratio;
-    place = QRectF(0, y, width(), RowHeight()).toAlignedRect();
+    if (&line == marked) place = QRectF(0, y, width(), RowHeight()).toAlignedRect();
   });
   update();
   return place;
@@ -176,12 +189,14 @@ QRect ResultPane::MarkRatio(const QString& ratio) {
 
 void ResultPane::Draw(QPainter& painter) {
   painter.setRenderHint(QPainter::Antialiasing);
-  bool marks = !marked_.isEmpty();
+  const ViewLine* marked = marked_ ? LineWith(*marked_) : nullptr;
   EachLine([&](const ViewLine& line, double y) {
-    const TextRun* value = ValueOf(line);
-    if (marks && value != nullptr && QString::fromStdString(value->text).trimmed() == marked_) {
-      painter.fillRect(QRectF(0, y, width(), RowHeight()), palette().color(QPalette::Midlight));
-      marks = false;
+    if (&line == marked) {
+      const QRectF place(0, y, width(), RowHeight());
+      painter.fillRect(place, palette().color(QPalette::Midlight));
+      // Not by colour alone.
+      painter.fillRect(QRectF(0, y, Ems(this, 0.35), RowHeight()),
+                       palette().color(QPalette::Highlight));
     }
     DrawLine(painter, line, y);
   });
@@ -241,26 +256,18 @@ void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
                           thick / 2, thick / 2);
 }
 
-void ResultPane::contextMenuEvent(QContextMenuEvent* event) {
-  QMenu menu;
+void ResultPane::AddActions(QMenu& menu) {
   menu.addAction(tr("Copy result lines"), QKeySequence::Copy, this, [this] { Copy(); });
-  menu.exec(event->globalPos());
+  Pane::AddActions(menu);
 }
 
-void ResultPane::keyPressEvent(QKeyEvent* event) {
-  if (event->matches(QKeySequence::Copy)) {
-    Copy();
-  } else {
-    Pane::keyPressEvent(event);
-  }
+QString ResultPane::Table() const {
+  return QString::fromStdString(CheckTable(session_));
 }
 
-void ResultPane::Copy() const {
-  QStringList lines = Lines();
-  if (const std::string why = session_.NotCalculated(); !why.empty()) {
-    lines.prepend(QString::fromStdString(why));
-  }
-  QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+void ResultPane::Copy() {
+  const std::string lines = Lines().join(QLatin1Char('\n')).toStdString();
+  QApplication::clipboard()->setText(QString::fromStdString(WithNotice(session_, lines)));
 }
 
 }  // namespace korvane

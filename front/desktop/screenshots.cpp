@@ -30,19 +30,21 @@ void Settle() {
   while (!timer.hasExpired(120)) QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
 }
 
-/// What makes these pictures different from the usual ones: scale and size of the letters.
-QString Suffix(const QWidget& window) {
+/// What makes these pictures different from the usual ones: scale and size of the letters, and
+/// the decimal comma.
+QString Suffix(const QWidget& window, const Session& s) {
   QString suffix;
   const int scale = qRound(window.devicePixelRatioF() * 100);
   if (scale != 100) suffix += QStringLiteral("-%1").arg(scale);
   const int letters = qRound(window.logicalDpiY() * 100.0 / kUsualDpi);
   if (letters != 100) suffix += QStringLiteral("-letters%1").arg(letters);
+  if (s.DecimalComma()) suffix += QStringLiteral("-comma");
   return suffix;
 }
 
-bool Shoot(QWidget& window, const QDir& folder, const QString& name) {
+bool Shoot(QWidget& window, const Session& s, const QDir& folder, const QString& name) {
   Settle();
-  return window.grab().save(folder.filePath(name + Suffix(window) + QStringLiteral(".png")));
+  return window.grab().save(folder.filePath(name + Suffix(window, s) + QStringLiteral(".png")));
 }
 
 /// Whether the window got the size; a window manager takes its time, or has no room.
@@ -77,16 +79,47 @@ void Furnish(Desktop& desktop, NamedSession& s) {
   });
 }
 
-bool ShootMain(Desktop& desktop, const QDir& folder, const QString& theme) {
+/// Everything that takes room in the main window beside the usual: stiffeners, a typed load level,
+/// a spring, the optimiser's row.
+void Crowd(Desktop& desktop, NamedSession& s) {
+  desktop.Act([&] {
+    s.Show("endstiff");
+    s.Click("endstiff.cwebstiff1");
+    s.Close("endstiff");
+    s.Show("vipping");
+    s.Click("vipping.loadl4");
+    s.Close("vipping");
+    s.Click("korvane.cbutt5");
+    s.Enter("korvane.ispring", "50");
+    s.Click("korvane.optimize");
+  });
+}
+
+/// The screens that the window is to be used on, in their own dots.
+constexpr QSize kScreens[] = {{3840, 2160}, {1920, 1080}, {1366, 768}, {1280, 720}};
+/// Nobody works on less, in dots of the usual size.
+constexpr QSize kSmallest{1024, 600};
+
+bool ShootMain(Desktop& desktop, NamedSession& s, const QDir& folder, const QString& theme) {
   MainWindow& window = desktop.window();
   bool ok = true;
-  const QSize screen = window.screen()->size();
-  for (const QSize size : {QSize(3840, 2160), QSize(1920, 1080), QSize(1280, 720)}) {
-    const bool fits = size.width() <= screen.width() && size.height() <= screen.height();
+  const QSize room = window.screen()->size();
+  for (const QSize screen : kScreens) {
+    const QSize size = screen / window.devicePixelRatioF();
+    const bool fits = size.width() <= room.width() && size.height() <= room.height();
     if (!fits && QGuiApplication::platformName() != QLatin1String("offscreen")) continue;
-    const QString name =
-        QStringLiteral("main-%1x%2-%3").arg(size.width()).arg(size.height()).arg(theme);
-    ok = Resize(window, size) && Shoot(window, folder, name) && ok;
+    if (size.width() < kSmallest.width() || size.height() < kSmallest.height()) continue;
+    const auto name = [&](const char* what) {
+      return QStringLiteral("%1-%2x%3-%4")
+          .arg(QString::fromUtf8(what))
+          .arg(screen.width())
+          .arg(screen.height())
+          .arg(theme);
+    };
+    ok = Resize(window, size) && Shoot(window, s, folder, name("main")) && ok;
+    Crowd(desktop, s);
+    ok = Shoot(window, s, folder, name("full")) && ok;
+    Furnish(desktop, s);
   }
   return ok;
 }
@@ -118,7 +151,7 @@ bool ShootForms(Desktop& desktop, NamedSession& s, const QDir& folder, const QSt
       }
     });
     window->resize(window->sizeHint());
-    ok = Shoot(*window, folder,
+    ok = Shoot(*window, s, folder,
                QStringLiteral("form-%1-%2").arg(QString::fromStdString(form.name), theme)) &&
          ok;
     desktop.Act([&] { s.Unload(form.name); });
@@ -128,7 +161,7 @@ bool ShootForms(Desktop& desktop, NamedSession& s, const QDir& folder, const QSt
 }
 
 /// The windows of the studies, each opened by its button.
-bool ShootStudies(Desktop& desktop, const QDir& folder, const QString& theme) {
+bool ShootStudies(Desktop& desktop, NamedSession& s, const QDir& folder, const QString& theme) {
   bool ok = true;
   for (const char* name : {"sections", "whatif"}) {
     const QString window = QString::fromUtf8(name);
@@ -137,10 +170,10 @@ bool ShootStudies(Desktop& desktop, const QDir& folder, const QString& theme) {
     button->click();
     auto* opened = desktop.window().findChild<QWidget*>(window);
     if (opened == nullptr) return false;
-    ok = Shoot(*opened, folder, QStringLiteral("study-%1-%2").arg(window, theme)) && ok;
+    ok = Shoot(*opened, s, folder, QStringLiteral("study-%1-%2").arg(window, theme)) && ok;
     if (auto* tabs = opened->findChild<QTabWidget*>()) {
       tabs->setCurrentIndex(1);
-      ok = Shoot(*opened, folder, QStringLiteral("study-interaction-%1").arg(theme)) && ok;
+      ok = Shoot(*opened, s, folder, QStringLiteral("study-interaction-%1").arg(theme)) && ok;
       tabs->setCurrentIndex(0);
     }
     opened->close();
@@ -160,8 +193,8 @@ bool WriteScreenshots(Desktop& desktop, NamedSession& s, const QString& path) {
                                     std::pair{Theme::Dark, QStringLiteral("dark")}}) {
     ApplyTheme(theme);
     Furnish(desktop, s);
-    ok = ShootMain(desktop, folder, name) && ok;
-    ok = ShootStudies(desktop, folder, name) && ok;
+    ok = ShootMain(desktop, s, folder, name) && ok;
+    ok = ShootStudies(desktop, s, folder, name) && ok;
     ok = ShootForms(desktop, s, folder, name) && ok;
   }
   return ok;

@@ -47,6 +47,8 @@ void SizeList::keyPressEvent(QKeyEvent* event) {
   const bool chooses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (chooses && currentRow() >= 0) {
     emit ChosenAgain(currentRow());
+  } else if (event->key() == Qt::Key_Delete && currentRow() >= 0) {
+    emit DeleteWanted();
   } else {
     QListWidget::keyPressEvent(event);
   }

@@ -16,6 +16,8 @@ public:
   void keyboardSearch(const QString& keys) override;
 
 signals:
+  /// The Delete key on a marked row.
+  void DeleteWanted();
   /// A click or the Return key on the row that was marked already.
   void ChosenAgain(int row);
 

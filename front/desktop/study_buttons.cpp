@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/desktop/study_buttons.h"
 
-#include <QBoxLayout>
+#include <QLayout>
 #include <QPushButton>
 
 #include "front/desktop/desktop.h"
@@ -15,7 +15,7 @@ namespace {
 
 /// A button that opens its window, after the field in use has been left.
 template <class Window>
-void AddButton(Desktop& desktop, QBoxLayout* row, const char* name, const QString& caption,
+void AddButton(Desktop& desktop, QLayout* row, const char* name, const QString& caption,
                const QString& tip) {
   auto* button = new QPushButton(caption);
   button->setObjectName(QString::fromUtf8(name));
@@ -32,7 +32,7 @@ void AddButton(Desktop& desktop, QBoxLayout* row, const char* name, const QStrin
 
 }  // namespace
 
-void AddStudyButtons(Desktop& desktop, QBoxLayout* row) {
+void AddStudyButtons(Desktop& desktop, QLayout* row) {
   AddButton<SectionsWindow>(desktop, row, "open_sections", QObject::tr("Sections"),
                             QObject::tr("Every size of all catalogues for this member"));
   AddButton<WhatIfWindow>(desktop, row, "open_whatif", QObject::tr("What if"),

@@ -58,6 +58,10 @@ void ApplyTheme(Theme theme) {
   QApplication::setPalette(Made(dark ? kDark : kLight));
 }
 
+QPalette PaperPalette() {
+  return Made(kLight);
+}
+
 bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() <
          palette.color(QPalette::WindowText).lightness();
@@ -82,6 +86,8 @@ QPalette FieldPalette(const QPalette& window, bool green) {
     p.setColor(group, QPalette::Highlight, QColor(kLight.accent));
     p.setColor(group, QPalette::HighlightedText, QColor(kLight.onAccent));
   }
+  // A locked field shows a value that is in force: to be read, but not written in.
+  p.setColor(QPalette::Disabled, QPalette::Text, window.color(QPalette::PlaceholderText));
   return p;
 }
 

@@ -8,6 +8,8 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "front/desktop/choice_button.h"
+#include "front/desktop/field_edit.h"
 #include "front/desktop/form_binder.h"
 #include "front/desktop/icons.h"
 #include "front/desktop/mode_pane.h"
@@ -74,8 +76,7 @@ QWidget* WidgetMaker::Named(const Control* control, QWidget* widget) {
 }
 
 QToolButton* WidgetMaker::NewPicture(const Control& control) {
-  auto* button = new QToolButton;
-  button->setCheckable(control.checked != nullptr);
+  QToolButton* button = control.checked != nullptr ? new ChoiceButton : new QToolButton;
   button->setToolTip(Q(control.tip));
   button->setFocusPolicy(Qt::StrongFocus);
   const QIcon icon = PictureOf(control.sign, session_.st());
@@ -85,7 +86,7 @@ QToolButton* WidgetMaker::NewPicture(const Control& control) {
     button->setIconSize(QSize(qRound(height * kPictureRatio), height));
   } else {
     button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    button->setFixedWidth(Ems(button, 2.9));
+    button->setFixedWidth(Ems(button, control.words ? 7.1 : 2.9));
   }
   return button;
 }
@@ -109,7 +110,7 @@ QWidget* WidgetMaker::NewSurface(const Control& c) {
 QWidget* WidgetMaker::NewWidget(const Control& c) {
   switch (c.kind) {
     case Kind::Input: {
-      auto* edit = new QLineEdit;
+      auto* edit = new FieldEdit;
       if (c.field.IsNumber()) {
         edit->setAlignment(Qt::AlignRight);
         const bool exponent =

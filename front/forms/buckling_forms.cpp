@@ -60,6 +60,7 @@ Form& AddCases(Forms& forms, const std::string& name, const char* title, const A
 
 Control CurveList(const char* name, const Axis& axis) {
   Control c;
+  c.spoken = &axis == &kAxisY ? "Buckling curve, Y-axis" : "Buckling curve, Z-axis";
   c.name = name;
   c.kind = Kind::List;
   c.items = [](const Session&) {
@@ -213,12 +214,15 @@ void AddLateral(Forms& forms) {
   on.ic3 = Put(form, CFactor("ic3", "C3 =", &S::C3i, &LtbResults::C3, HasUnequalI));
   on.frlevel = Put(form, FrameOf("frlevel", "Loadlevel"));
   AddLoadLevels(form, on);
-  on.omdb = Put(form, TextLabel("omdb", [](const Session& s) {
-                  return MomentText(s, s.design().ltb.Mdb, TypesFactors(s) ? "" : " ");
-                }));
-  on.omdbmin = Put(form, TextLabel("omdbmin", [](const Session& s) {
-                     return MomentText(s, s.design().ltb.Mdb_min);
-                   }));
+  Control governing = TextLabel("omdb", [](const Session& s) {
+    return MomentText(s, s.design().ltb.Mdb, TypesFactors(s) ? "" : " ");
+  });
+  governing.spoken = "Design moment Md,b";
+  on.omdb = Put(form, std::move(governing));
+  Control least =
+      TextLabel("omdbmin", [](const Session& s) { return MomentText(s, s.design().ltb.Mdb_min); });
+  least.spoken = "Least design moment Md,b,min";
+  on.omdbmin = Put(form, std::move(least));
   on.osegment = Put(form, TextLabel("osegment", [](const Session& s) {
                       if (TypesFactors(s)) return std::string();
                       const bool first = s.st().LtbCriticalSegment == 0;

@@ -23,6 +23,7 @@ Control SizeControl(const Family& family) {
   Control c;
   c.name = IsAngle(family.code) ? "cbo" : "Cbo";
   c.kind = Kind::List;
+  c.spoken = "Size";
   const auto catalogue = [&family](const Session& s) { return CatalogueOf(family, s.st()); };
   c.items = [catalogue](const Session& s) {
     const Cat cat = catalogue(s)->cat;
@@ -191,6 +192,7 @@ void AddClassLabel(const Family& family, Form& form) {
   Control c = TextLabel(
       "osclass", [words](const Session& s) { return words + ClassText(s.st(), s.design().rec); });
   c.caption = words.empty() ? "Sectionclass:" : " ";
+  c.spoken = "Section class";
   c.block = Block::Capacities;
   Put(form, std::move(c));
 }
@@ -247,6 +249,9 @@ void AddValues(const Family& family, Form& form) {
 void AddToList(Session& s) {
   AddToDatabase(s.st(), s.database());
   s.databaseSelection = s.database().DbRow;
+  const Database& db = s.database();
+  const std::string entry = DatabaseEntry(db.DbTable[db.DbRow], s.design().lib->catalogues);
+  s.Tell("Added " + entry + " to the database (" + std::to_string(db.DbLast + 1) + ")");
   ++s.databaseVersion;
 }
 

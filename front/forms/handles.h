@@ -34,7 +34,7 @@ struct MainControls {
 
 struct LoadingControls {
   Handle ilfp_uls, ilfv1_uls, ilfv2_uls, ilfp_sls, ilfv1_Sls, ilfv2_Sls, ilfsw_ULS, ilfsw_SLS;
-  Handle slsfactor, inp, inv1, inv2, check_selfweight;
+  Handle slsfactor, inp, inv1, inv2, check_selfweight, remove, undo;
   Handle pmxabsolute, pmxrelative, qtxabsolute, qtxrelative;
   struct Line {
     Handle q, pv, yz;

@@ -97,22 +97,6 @@ void FocusDatabase(Session& s) {
   });
 }
 
-Control DatabaseList() {
-  Control c;
-  c.name = "cbo";
-  c.kind = Kind::List;
-  c.items = [](const Session& s) {
-    return FillDatabaseList(s.database(), s.design().lib->catalogues);
-  };
-  c.itemsVersion = [](const Session& s) { return s.databaseVersion; };
-  c.selected = [](const Session& s) { return s.databaseSelection; };
-  c.select = [](Session& s, int index) {
-    s.databaseSelection = index;
-    if (s.st().DatabaseMode == 1) LoadSelection(s);
-  };
-  return c;
-}
-
 void RemoveSelected(Session& s) {
   Database& db = s.database();
   ++s.databaseVersion;
@@ -124,6 +108,24 @@ void RemoveSelected(Session& s) {
     return;
   }
   if (s.databaseSelection > db.DbLast) s.databaseSelection = db.DbLast;
+}
+
+Control DatabaseList() {
+  Control c;
+  c.name = "cbo";
+  c.kind = Kind::List;
+  c.items = [](const Session& s) {
+    return FillDatabaseList(s.database(), s.design().lib->catalogues);
+  };
+  c.itemsVersion = [](const Session& s) { return s.databaseVersion; };
+  c.selected = [](const Session& s) { return s.databaseSelection; };
+  c.spoken = "Sections of the project database";
+  c.deleteKey = RemoveSelected;
+  c.select = [](Session& s, int index) {
+    s.databaseSelection = index;
+    if (s.st().DatabaseMode == 1) LoadSelection(s);
+  };
+  return c;
 }
 
 void OpenDatabase(Session& s) {

@@ -12,20 +12,38 @@ namespace {
 using S = ProjectState;
 
 constexpr const char* kCategories[] = {"P", "V1", "V2"};
+constexpr const char* kCategoryWords[] = {"Permanent", "Variable 1", "Variable 2"};
 
+int KnownCategory(int pv) {
+  return pv == 0 || pv == 1 ? pv : 2;
+}
 std::string CategoryCaption(int pv) {
-  return kCategories[pv == 0 || pv == 1 ? pv : 2];
+  return kCategories[KnownCategory(pv)];
 }
 
-/// A picture button that steps a code and shows it in its caption.
-Control Toggle(std::string name, std::function<std::string(const Session&)> text,
-               std::function<void(S&)> step) {
-  Control c = Picture(std::move(name), {}, {}, [step = std::move(step)](Session& s) {
-    step(s.st());
-    s.Calculate();
-  });
-  c.text = std::move(text);
+using Reads = std::function<std::string(const Session&)>;
+
+/// A picture button that steps a code, which is its text; a window writes words. of: the load
+/// that it belongs to.
+Control Toggle(std::string name, const std::string& what, const std::string& of, Reads code,
+               Reads words, std::function<void(S&)> step) {
+  Control c =
+      Picture(std::move(name), {}, what + " of " + of, [step = std::move(step)](Session& s) {
+        step(s.st());
+        s.Calculate();
+      });
+  c.text = std::move(code);
+  c.words = std::move(words);
   return c;
+}
+
+constexpr const char* kGroup = "Load group";
+constexpr const char* kDirection = "Direction";
+
+/// A field whose caption alone doesn't say of which load it is.
+Control Of(const std::string& load, Control field) {
+  field.spoken = load + ", " + field.caption;
+  return field;
 }
 
 int NextCategory(int pv) {
@@ -35,16 +53,25 @@ int Flipped(int flag) {
   return flag == 0 ? 1 : 0;
 }
 
-Control CategoryToggle(std::string name, int16 S::*pv) {
+/// The codes of a load: group and direction. get gives the code of a state.
+Control CategoryToggle(std::string name, const std::string& of, std::function<int(const S&)> get,
+                       std::function<void(S&)> step) {
   return Toggle(
-      std::move(name), [pv](const Session& s) { return CategoryCaption(s.st().*pv); },
+      std::move(name), kGroup, of, [get](const Session& s) { return CategoryCaption(get(s.st())); },
+      [get](const Session& s) { return std::string(kCategoryWords[KnownCategory(get(s.st()))]); },
+      std::move(step));
+}
+
+Control CategoryToggle(std::string name, const std::string& of, int16 S::*pv) {
+  return CategoryToggle(
+      std::move(name), of, [pv](const S& st) { return int(st.*pv); },
       [pv](S& st) { st.*pv = NextCategory(st.*pv); });
 }
 
-Control DirectionToggle(std::string name, int16 S::*yz) {
-  return Toggle(
-      std::move(name), [yz](const Session& s) { return std::string(s.st().*yz == 0 ? "Y" : "Z"); },
-      [yz](S& st) { st.*yz = Flipped(st.*yz); });
+Control DirectionToggle(std::string name, const std::string& of, int16 S::*yz) {
+  const Reads code = [yz](const Session& s) { return std::string(s.st().*yz == 0 ? "Y" : "Z"); };
+  return Toggle(std::move(name), kDirection, of, code, code,
+                [yz](S& st) { st.*yz = Flipped(st.*yz); });
 }
 
 // --- Loading ------------------------------------------------------------------------------------
@@ -84,8 +111,8 @@ void AddLines(Form& form, LoadingControls& on) {
     const std::string number = std::to_string(k);
     const std::string name = "iq" + number;
     on.lines[k++] = {Put(form, Input(name, "q" + number, Calculated(line.q))),
-                     Put(form, CategoryToggle(name + "_pv", line.pv)),
-                     Put(form, DirectionToggle(name + "_yz", line.yz))};
+                     Put(form, CategoryToggle(name + "_pv", "q" + number, line.pv)),
+                     Put(form, DirectionToggle(name + "_yz", "q" + number, line.yz))};
   }
 }
 
@@ -93,48 +120,78 @@ void AddTrapezoids(Form& form, LoadingControls& on) {
   for (int t = 1; t <= 3; ++t) {
     const Trapezoid& s = TrapezoidOf(t);
     const std::string name = "iqt" + std::to_string(t);
-    on.trapezoids[t] = {Put(form, Input(name + "1", "q1", Calculated(s.q1))),
-                        Put(form, Input(name + "2", "q2", Calculated(s.q2))),
-                        Put(form, Input(name + "x1", "x1", Calculated(s.x1))),
-                        Put(form, Input(name + "x2", "x2", Calculated(s.x2))),
-                        Put(form, CategoryToggle(name + "_pv", s.pv)),
-                        Put(form, DirectionToggle(name + "_yz", s.yz))};
+    const std::string of = "trapezoid " + std::to_string(t);
+    const auto field = [&](const char* end, const char* caption, float32 S::*member) {
+      return Put(form, Of("Trapezoid " + std::to_string(t),
+                          Input(name + end, caption, Calculated(member))));
+    };
+    on.trapezoids[t] = {field("1", "q1", s.q1),
+                        field("2", "q2", s.q2),
+                        field("x1", "x1", s.x1),
+                        field("x2", "x2", s.x2),
+                        Put(form, CategoryToggle(name + "_pv", of, s.pv)),
+                        Put(form, DirectionToggle(name + "_yz", of, s.yz))};
   }
+}
+
+Control KindToggle(int i, const std::string& name, const std::string& of) {
+  return Toggle(
+      name, "Kind", of,
+      [i](const Session& s) { return std::string(s.st().pm_pm[i] == 0 ? "P" : "M"); },
+      [i](const Session& s) { return std::string(s.st().pm_pm[i] == 0 ? "Point load" : "Moment"); },
+      [i](S& st) { st.pm_pm[i] = Flipped(st.pm_pm[i]); });
+}
+
+Control ItemDirection(int i, const std::string& name, const std::string& of) {
+  const Reads code = [i](const Session& s) {
+    const bool z = s.st().pm_yz[i] != 0;
+    if (s.st().pm_pm[i] == 0) return std::string(z ? "Z" : "Y");
+    return std::string(z ? "My" : "Mz");
+  };
+  return Toggle(name, kDirection, of, code, code,
+                [i](S& st) { st.pm_yz[i] = Flipped(st.pm_yz[i]); });
 }
 
 void AddItems(Form& form, LoadingControls& on) {
   for (int i = 1; i <= 8; ++i) {
     const std::string index = "(" + std::to_string(i) + ")";
-    on.items[i] = {Put(form, Toggle(
-                                 "ipm_pm" + index,
-                                 [i](const Session& s) {
-                                   return std::string(s.st().pm_pm[i] == 0 ? "P" : "M");
-                                 },
-                                 [i](S& st) { st.pm_pm[i] = Flipped(st.pm_pm[i]); })),
-                   Put(form, Input("ipm" + index, "P/M", Calculated(&S::pm, i))),
-                   Put(form, Input("ipmx" + index, "x", Calculated(&S::pmx, i))),
-                   Put(form, Toggle(
-                                 "ipm_pv" + index,
-                                 [i](const Session& s) { return CategoryCaption(s.st().pm_pv[i]); },
-                                 [i](S& st) { st.pm_pv[i] = NextCategory(st.pm_pv[i]); })),
-                   Put(form, Toggle(
-                                 "ipm_yz" + index,
-                                 [i](const Session& s) {
-                                   const bool z = s.st().pm_yz[i] != 0;
-                                   if (s.st().pm_pm[i] == 0) return std::string(z ? "Z" : "Y");
-                                   return std::string(z ? "My" : "Mz");
-                                 },
-                                 [i](S& st) { st.pm_yz[i] = Flipped(st.pm_yz[i]); }))};
+    const std::string of = "load " + std::to_string(i);
+    const std::string load = "Load " + std::to_string(i);
+    on.items[i] = {
+        Put(form, KindToggle(i, "ipm_pm" + index, of)),
+        Put(form, Of(load, Input("ipm" + index, "P/M", Calculated(&S::pm, i)))),
+        Put(form, Of(load, Input("ipmx" + index, "x", Calculated(&S::pmx, i)))),
+        Put(form, CategoryToggle(
+                      "ipm_pv" + index, of, [i](const S& st) { return int(st.pm_pv[i]); },
+                      [i](S& st) { st.pm_pv[i] = NextCategory(st.pm_pv[i]); })),
+        Put(form, ItemDirection(i, "ipm_yz" + index, of))};
   }
 }
 
 /// Tidies the loads; a load that can't stand keeps the form open with the focus on its field.
 bool CheckOnClosing(Session& s) {
+  const ProjectState before = s.st();
   const auto message = NormaliseLoads(s.st());
+  s.TellRemoved(before, false);
   if (!message) return true;
   s.platform().Message(message->text);
   s.FocusField(*FieldOf(*TheForms().loading, InputOf(message->field)));
   return false;
+}
+
+void RemoveLoads(Session& s) {
+  s.removedLoads = s.st();
+  ClearLoads(s.st());
+  s.Calculate();
+  s.Tell("All loads removed; the form Loading brings them back");
+}
+
+void BringLoadsBack(Session& s) {
+  TakeLoads(*s.removedLoads, s.st());
+  s.st().LoadLevel = s.removedLoads->LoadLevel;
+  s.removedLoads.reset();
+  s.Calculate();
+  s.Tell("The loads are back");
 }
 
 void AddLoading(Forms& forms) {
@@ -157,10 +214,10 @@ void AddLoading(Forms& forms) {
   on.pmxrelative = Put(form, ValueOption("pmxrelative", "Relative (x/L)", &S::pmx_relative, 1));
   on.qtxabsolute = Put(form, ValueOption("qtxabsolute", "Absolute (m)", &S::qtx_relative, 0));
   on.qtxrelative = Put(form, ValueOption("qtxrelative", "Relative (x/L)", &S::qtx_relative, 1));
-  Put(form, Button("Command1", "Remove all loads", [](Session& s) {
-        ClearLoads(s.st());
-        s.Calculate();
-      }));
+  on.remove = Put(form, Button("Command1", "Remove all loads", RemoveLoads));
+  Control undo = Button("undoremove", "Undo: bring the loads back", BringLoadsBack);
+  undo.visible = [](const Session& s) { return s.removedLoads.has_value(); };
+  on.undo = Put(form, std::move(undo));
   Put(form, CloseButton("ok", "OK", form));
   form.onFocus = [](Session& s) {
     s.st().AnalysisMode = 1;
@@ -208,8 +265,10 @@ void AddStiffeners(Forms& forms) {
   Form& form = forms.Add("endstiff", Fixed("Support/Webstiffener"));
   forms.stiffeners = &form;
   form.input = true;
+  Put(form, FrameOf("frend", "At the supports"));
   Put(form, ValueOption("oendstiff0", "Weak Support stiffener", &S::EndStiffener, 0));
   Put(form, ValueOption("oendstiff1", "Stiff Support stiffener", &S::EndStiffener, 1));
+  Put(form, FrameOf("frweb", "Along the member"));
   Put(form, ValueOption("cwebstiff0", "No web stiffeners", &S::WebStiffener, 0));
   Put(form, ValueOption("cwebstiff1", "Web stiffeners", &S::WebStiffener, 1));
   const auto ofWeb = [&](Control control) {
@@ -226,11 +285,15 @@ void AddPoints(Forms& forms) {
   Form& form = forms.Add("chpoints", Fixed("Section Control - calculation points"));
   forms.points = &form;
   form.input = true;
+  Put(form, FrameOf("frpoints", "Points of the control"));
   Put(form, ValueOption("cp_0", "11 even distributed points && Max/Min My/Mz ", &S::cp_mode, 0));
   Put(form, ValueOption("cp_1", "Characteristic points (CP)", &S::cp_mode, 1));
+  Put(form, FrameOf("frchosen", "Characteristic points"));
   Put(form, Label("onumber", "Number of Points:"));
   for (int n = 1; n <= 3; ++n) {
-    Put(form, ValueOption("no_cp" + std::to_string(n), std::to_string(n), &S::cp_count, n));
+    Control count = ValueOption("no_cp" + std::to_string(n), std::to_string(n), &S::cp_count, n);
+    count.spoken = "Number of points: " + std::to_string(n);
+    Put(form, std::move(count));
   }
   for (int i = 1; i <= 3; ++i) {
     FieldRule rule = Calculated(&S::cp_x, i);

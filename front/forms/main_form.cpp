@@ -114,7 +114,15 @@ bool OptimiserIsOpen(const Session& s) {
 
 /// Tidies the loads; what can't stand is told.
 void CheckLoads(Session& s) {
-  if (const auto message = NormaliseLoads(s.st())) s.platform().Message(message->text);
+  const ProjectState before = s.st();
+  const auto message = NormaliseLoads(s.st());
+  s.TellRemoved(before, false);
+  if (!message) return;
+  s.platform().Message(message->text);
+  // End forces have no form of the loads open: showing it would change the mode.
+  if (s.st().AnalysisMode != 1) return;
+  s.Show(*TheForms().loading);
+  s.FocusField(*FieldOf(*TheForms().loading, InputOf(message->field)));
 }
 
 void ClickSupport(Session& s, const Support& support) {
@@ -358,26 +366,33 @@ void AddFrames(Form& form, MainControls& on) {
                         Offers(&FamilyOptions::bending)));
   on.fr15 = Put(form, FrameOf("fr15", "Section class 4", OffersClassFour));
   on.fr31 = Put(form, FrameOf("fr31", "Results (ULS)"));
-  on.fr21 = Put(form, FrameOf("fr21", "Loading/Moment/Shear/Deflection - Z-axis  "));
-  on.fr22 = Put(form, FrameOf("fr22", "Loading/Moment/Shear/Deflection - Y-axis  "));
+  const auto plane = [&](const char* name, const char* caption, Plane which) {
+    Control frame = FrameOf(name, caption);
+    frame.visible = [which](const Session& s) { return !PlaneFolds(s.design(), which); };
+    return Put(form, std::move(frame));
+  };
+  on.fr21 = plane("fr21", "Loading/Moment/Shear/Deflection - Z-axis  ", Plane::Z);
+  on.fr22 = plane("fr22", "Loading/Moment/Shear/Deflection - Y-axis  ", Plane::Y);
 }
 
 void AddLabels(Form& form, MainControls& on) {
-  const auto letter = [&](const char* name, int16 ProjectState::*curve) {
-    return Put(form, TextLabel(name, [curve](const Session& s) {
-                 return std::string(CurveLetter(s.st().*curve));
-               }));
+  const auto letter = [&](const char* name, const char* spoken, int16 ProjectState::*curve) {
+    Control c = TextLabel(
+        name, [curve](const Session& s) { return std::string(CurveLetter(s.st().*curve)); });
+    c.spoken = spoken;
+    return Put(form, std::move(c));
   };
-  on.obcy = letter("obcy", &ProjectState::BucklingCurveY);
-  on.obcz = letter("obcz", &ProjectState::BucklingCurveZ);
+  on.obcy = letter("obcy", "Buckling curve, Y-axis", &ProjectState::BucklingCurveY);
+  on.obcz = letter("obcz", "Buckling curve, Z-axis", &ProjectState::BucklingCurveZ);
   on.obuckltext = Put(form, Label("obuckltext", "Buckling curve:"));
   on.obcauto = Put(form, Label("obcauto", "Automatic choosen according to BSK Table 6:233"));
   on.oblfactor = Put(form, Label("oblfactor", "Buckling length factor:"));
   on.ouaxis = Put(form, Label("ouaxis", "U-axis for L-profiles"));
   on.ovaxis = Put(form, Label("ovaxis", "V-axis for L-profiles"));
-  on.obeam = Put(form, TextLabel("obeam", [](const Session& s) {
-                   return SectionTitle(s.st(), s.design().lib->catalogues);
-                 }));
+  Control section = TextLabel(
+      "obeam", [](const Session& s) { return SectionTitle(s.st(), s.design().lib->catalogues); });
+  section.spoken = "Section";
+  on.obeam = Put(form, std::move(section));
   Control distance = TextLabel(
       "oweba", [](const Session& s) { return "c/c=" + s.Shown(s.st().a_webstiff, "#00") + " mm"; });
   distance.visible = [](const Session& s) { return s.st().WebStiffener == 1; };

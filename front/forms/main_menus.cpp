@@ -50,12 +50,14 @@ void ChooseFamily(Session& s, const Family& family) {
 void AddFamilyEntries(MenuBuilder& menu, std::initializer_list<int> codes) {
   for (const int code : codes) {
     const Family& family = *FindFamily(code);
-    menu.Entry(family.menuControl, family.menuCaption,
-               [&family](Session& s) { ChooseFamily(s, family); });
+    Control* entry = menu.Entry(family.menuControl, family.menuCaption,
+                                [&family](Session& s) { ChooseFamily(s, family); });
+    entry->checked = [code](const Session& s) { return s.st().ProfileType == code; };
   }
 }
 
 void Print(Session& s, int kind) {
+  s.platform().PreparePrint(s.design(), kind, s.NotCalculated());
   auto job = s.platform().AskPrint();
   if (!job) return;
   job->notice = s.NotCalculated();

@@ -184,7 +184,7 @@ void AnswerFileDialog(const QString& path) {
   QTimer::singleShot(250, [path] {
     auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     ASSERT_NE(dialog, nullptr);
-    dialog->selectFile(path);
+    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
     static_cast<QDialog*>(dialog)->accept();
   });
 }

@@ -117,11 +117,11 @@ TEST_F(DesktopTest, LoadFormClosesByItsFrame) {
 TEST_F(DesktopTest, CategoryButtonStepsItsText) {
   Menu("mnuload1");
   auto& toggle = On<QToolButton>(Window("loading"), "iq1_pv");
-  EXPECT_EQ(toggle.text(), "P");
+  EXPECT_EQ(toggle.text(), "Permanent");
   QTest::mouseClick(&toggle, Qt::LeftButton);
-  EXPECT_EQ(toggle.text(), "V1");
+  EXPECT_EQ(toggle.text(), "Variable 1");
   QTest::mouseClick(&toggle, Qt::LeftButton);
-  EXPECT_EQ(toggle.text(), "V2");
+  EXPECT_EQ(toggle.text(), "Variable 2");
 }
 
 TEST_F(DesktopTest, RefusedPositionBecomesZero) {

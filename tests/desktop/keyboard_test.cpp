@@ -4,9 +4,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QStatusBar>
 #include <QWheelEvent>
 
 #include "front/desktop/diagram_pane.h"
@@ -201,17 +201,134 @@ TEST_F(DesktopTest, CopyKeyTakesTheResultLines) {
 
 TEST_F(DesktopTest, ArrowKeysWalkAlongTheDiagram) {
   Load("10");
+  Main().activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
   auto& box = On<DiagramBox>(Main(), "picmy");
+  const auto* tag = box.parentWidget()->findChild<QLabel*>("pointer_tag");
+  ASSERT_NE(tag, nullptr);
+  EXPECT_FALSE(tag->isVisible());
   box.setFocus();
+  EXPECT_TRUE(QTest::qWaitFor([&box] { return box.hasFocus(); }));
   QTest::keyClick(&box, Qt::Key_Home);
-  EXPECT_EQ(Main().statusBar()->currentMessage().simplified(),
-            "x = 0.000 m My = 0.0 kNm Vz = 30.0 kN");
+  EXPECT_TRUE(tag->isVisible());
+  EXPECT_EQ(tag->text(), "x = 0.000 m\nMy = 0.0 kNm\nVz = 30.0 kN");
   for (int k = 0; k < 25; ++k) QTest::keyClick(&box, Qt::Key_Right);
   // 1.2 * 10 * 5^2 / 8 at the middle
-  EXPECT_EQ(Main().statusBar()->currentMessage().simplified(),
-            "x = 2.500 m My = 37.5 kNm Vz = 0.0 kN");
+  EXPECT_EQ(tag->text(), "x = 2.500 m\nMy = 37.5 kNm\nVz = 0.0 kN");
   QTest::keyClick(&box, Qt::Key_End);
-  EXPECT_TRUE(Main().statusBar()->currentMessage().contains("x = 5.000 m"));
+  EXPECT_EQ(tag->text(), "x = 5.000 m\nMy = 0.0 kNm\nVz = -30.0 kN");
+  // Beside the hairline, within the plane.
+  EXPECT_TRUE(box.parentWidget()->rect().contains(tag->geometry()));
+  Field("il").setFocus();
+  EXPECT_FALSE(tag->isVisible());
+}
+
+/// Presses Tab until a control of the window has the focus.
+void TabTo(QWidget& window, const char* name) {
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; })) << name;
+  for (int k = 0; k < 120; ++k) {
+    QWidget* now = QApplication::focusWidget();
+    if (now != nullptr && now->objectName() == QString::fromUtf8(name)) return;
+    QTest::keyClick(now == nullptr ? &window : now, Qt::Key_Tab);
+    QCoreApplication::processEvents();
+  }
+  FAIL() << name << " can't be reached";
+}
+
+void PressFocused(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+  ASSERT_NE(QApplication::focusWidget(), nullptr);
+  QTest::keyClick(QApplication::focusWidget(), key, with);
+  QCoreApplication::processEvents();
+}
+
+void TypeFocused(const char* text) {
+  ASSERT_NE(QApplication::focusWidget(), nullptr);
+  QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text));
+  PressFocused(Qt::Key_Return);
+}
+
+// The jobs of the help book's first chapter, from the new project to the printed report.
+TEST_F(DesktopTest, FirstDesignByKeysAlone) {
+  const std::string path = folder_.filePath("floor.kvn").toStdString();
+  TabTo(Main(), "iproj");
+  PressFocused(Qt::Key_N, Qt::ControlModifier);
+  TabTo(Main(), "iproj");
+  TypeFocused("Warehouse");
+  TypeFocused("Floor beam");
+  EXPECT_TRUE(Field("il").hasFocus());
+  TypeFocused("6");
+  TabTo(Main(), "cbutt0");
+  PressFocused(Qt::Key_Return);
+  TabTo(Main(), "cbofyk");
+  TypeFocused("S355");
+
+  QTest::keyClick(&Main(), Qt::Key_P, Qt::AltModifier);
+  QMenu* profiles = ActionOf("mnustiff")->menu();
+  ASSERT_TRUE(profiles->isVisible());
+  for (int k = 0; k < 10 && profiles->activeAction() != ActionOf("mnup04"); ++k) {
+    QTest::keyClick(profiles, Qt::Key_Down);
+  }
+  QTest::keyClick(profiles, Qt::Key_Return);
+  QCoreApplication::processEvents();
+  ASSERT_TRUE(session_.IsOpen("p04"));
+  TabTo(Window("p04"), "Cbo");
+  QTest::keyClicks(QApplication::focusWidget(), "300");
+  PressFocused(Qt::Key_Escape);
+  EXPECT_FALSE(session_.IsOpen("p04"));
+
+  Main().activateWindow();
+  TabTo(Main(), "iproj");
+  QTest::keyClick(&Main(), Qt::Key_L, Qt::AltModifier);
+  FormWindow& loading = Window("loading");
+  TabTo(loading, "inp");
+  TypeFocused("0");
+  TabTo(loading, "iq1");
+  TypeFocused("7.5");
+  TabTo(loading, "iq2");
+  TypeFocused("9");
+  TabTo(loading, "iq2_pv");
+  PressFocused(Qt::Key_Return);
+  TabTo(loading, "check_selfweight");
+  PressFocused(Qt::Key_Space);
+  TabTo(loading, "ok");
+  PressFocused(Qt::Key_Return);
+  EXPECT_FALSE(session_.IsOpen("loading"));
+
+  Main().activateWindow();
+  TabTo(Main(), "cbuttlateral");
+  PressFocused(Qt::Key_Return);
+  TabTo(Window("vipping"), "Cbo");
+  QTest::keyClicks(QApplication::focusWidget(), "2");
+  TabTo(Window("vipping"), "ok");
+  PressFocused(Qt::Key_Return);
+
+  const ProjectState& st = session_.st();
+  EXPECT_EQ(st.L, 6.0f);
+  EXPECT_EQ(session_.Text("korvane.obeam").substr(0, 6), "IPE300");
+  EXPECT_EQ(st.NP, 0.0f);
+  EXPECT_EQ(st.q1, 7.5f);
+  EXPECT_EQ(st.q2, 9.0f);
+  EXPECT_EQ(int(st.q2_pv), 1);
+  EXPECT_EQ(int(st.SelfWeight), 1);
+  EXPECT_EQ(int(st.LtbSegments), 2);
+  EXPECT_EQ(Main().verdict().Word(), "passes");
+  EXPECT_EQ(Main().verdict().Figure(), "0.56");
+
+  // The details, the values along the member, the file, the paper.
+  Main().activateWindow();
+  TabTo(Main(), "de");
+  PressFocused(Qt::Key_Return);
+  EXPECT_TRUE(session_.IsOpen("detailedresult"));
+  QTest::keyClick(&Window("detailedresult"), Qt::Key_Escape);
+  Main().activateWindow();
+  TabTo(Main(), "picmy");
+  PressFocused(Qt::Key_Home);
+  platform_.answers = {path};
+  PressFocused(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(QFile::exists(QString::fromStdString(path)));
+  platform_.print = true;
+  PressFocused(Qt::Key_P, Qt::ControlModifier);
+  EXPECT_EQ(platform_.prints, std::vector<std::string>{"1 x 2"});
 }
 
 }  // namespace

@@ -49,8 +49,10 @@ TEST_F(DesktopTest, AClickOnTheVerdictShowsItsNotes) {
   EXPECT_FALSE(notes->isVisible());
   // The marked line is the one that governs.
   ResultPane& lines = Results();
-  EXPECT_FALSE(lines.MarkRatio(Main().verdict().Figure()).isEmpty());
-  EXPECT_TRUE(lines.MarkRatio("999.00").isEmpty());
+  EXPECT_TRUE(lines.MarkedLine().contains("IR = " + Main().verdict().Figure()))
+      << lines.MarkedLine().toStdString();
+  EXPECT_TRUE(lines.MarkRatio(999).isEmpty());
+  EXPECT_EQ(lines.MarkedLine(), QString());
 }
 
 TEST_F(DesktopTest, FieldIsGreenWithFocusAndWhiteAfterwards) {

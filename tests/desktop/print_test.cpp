@@ -2,11 +2,15 @@
 // The print commands through the dialog of the platform, into PDF files that are read back.
 #include <QApplication>
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QSpinBox>
 
@@ -55,6 +59,7 @@ protected:
     session_.Start();
     desktop_ = std::make_unique<Desktop>(session_);
     platform_.SetWindow(&desktop_->window());
+    platform_.SetSession(session_);
     desktop_->window().show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop_->window()));
     desktop_->OpenFile(project_);
@@ -76,6 +81,8 @@ protected:
       answer.stop();
       auto* name = dialog->findChild<QLineEdit*>("filename");
       auto* count = dialog->findChild<QSpinBox*>("copies");
+      if (name != nullptr) proposed_ = name->text();
+      inDialog_(*dialog);
       if (name != nullptr) name->setText(file);
       if (count != nullptr) count->setValue(copies);
       EXPECT_TRUE(name != nullptr && count != nullptr);
@@ -98,6 +105,8 @@ protected:
 
   QString project_ = QStringLiteral(KORVANE_SOURCE_DIR "/tests/design/projects/f001.kvn");
   bool withChecker_ = false;
+  QString proposed_;  ///< the name of the file that the dialog begins with
+  std::function<void(QPrintDialog&)> inDialog_ = [](QPrintDialog&) {};
   std::function<void()> lastMoment_ = [] {};  ///< runs when the dialog is accepted
   QTemporaryDir folder_;
   DesktopPlatform platform_;
@@ -124,6 +133,59 @@ TEST_F(PrintTest, PaperSaysWhatTheConsoleReports) {
     EXPECT_EQ(lines.join('\n').toStdString(), LinesOf(report).join('\n').toStdString());
     EXPECT_EQ(PagesOf(paper), 1);
   }
+}
+
+TEST_F(PrintTest, PaperIsNamedAfterTheProjectBesideIt) {
+  const QString folder = QFileInfo(project_).absolutePath();
+  ASSERT_TRUE(Print("mnuprint0", Path("a.pdf"), 1, false));
+  EXPECT_EQ(proposed_, folder + "/f001-section.pdf");
+  ASSERT_TRUE(Print("mnuprint1", Path("a.pdf"), 1, false));
+  EXPECT_EQ(proposed_, folder + "/f001-control.pdf");
+}
+
+TEST_F(PrintTest, ThePreviewShowsThePages) {
+  bool seen = false;
+  int pages = 0;
+  inDialog_ = [&](QPrintDialog& dialog) {
+    auto* button = dialog.findChild<QPushButton*>("preview");
+    ASSERT_NE(button, nullptr);
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+      auto* preview = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+      if (preview == nullptr) return;
+      seen = true;
+      pages = preview->findChild<QPrintPreviewWidget*>()->pageCount();
+      preview->reject();
+    });
+    look.start(20);
+    dialog.findChild<QCheckBox*>("withchecker")->setChecked(true);
+    button->click();
+  };
+  ASSERT_TRUE(Print("mnuprint1", Path("a.pdf"), 1, false));
+  EXPECT_TRUE(seen);
+  EXPECT_EQ(pages, 2);
+}
+
+TEST_F(PrintTest, DialogsBeginBesideTheProjectWithItsName) {
+  const auto lookAt = [&](const char* command) {
+    std::pair<QString, QString> found;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&] {
+      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      const QStringList files = dialog->selectedFiles();
+      found = {dialog->directory().absolutePath(), files.value(0)};
+      dialog->reject();
+    });
+    answer.start(20);
+    desktop_->window().ActionOf(*FindControl(*TheForms().main, command))->trigger();
+    return found;
+  };
+  const QString folder = QFileInfo(project_).absolutePath();
+  EXPECT_EQ(lookAt("mnuopen").first, folder);
+  const auto [where, name] = lookAt("mnusaveas");
+  EXPECT_EQ(where, folder);
+  EXPECT_EQ(QFileInfo(name).fileName(), "f001.kvn");
 }
 
 TEST_F(PrintTest, TheBoxAddsTheCheckersSheet) {

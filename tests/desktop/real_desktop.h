@@ -23,6 +23,7 @@ protected:
     session_.Start();
     desktop_ = std::make_unique<Desktop>(session_);
     platform_.SetWindow(&Main());
+    platform_.SetSession(session_);
     QObject::connect(&platform_, &DesktopPlatform::Progressed, &Main(), &MainWindow::ShowProgress);
     Main().show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));

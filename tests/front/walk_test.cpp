@@ -94,6 +94,7 @@ void Prepare(Running& r, const std::string& form, const std::string& control) {
   }
   if (form[0] == 'p') st.ProfileType = std::stoi(form.substr(1));
   r.session.Show(form);
+  if (control == "undoremove") r.session.Click("Command1");
   if (form == "database") r.session.Select("cbo", 1);
   if (form == "optroll" && control.rfind("op", 0) == 0) {
     const std::string box = "cbp" + control.substr(2);

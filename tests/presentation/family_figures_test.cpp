@@ -88,28 +88,28 @@ Expected ExpectedOf(const Section& s) {
     case 41:
       return {{}, 0, 100, 100, {}};
     case 51:
-      return {{5, 5}, 0, h, b1, {{"h", h}, {"b1", b1}, {"tw", tw}, {"tf1", tf1}}};
+      return {{5, 5}, 0, h, b1, {{"h", h - tf1}, {"b1", b1}, {"tw", tw}, {"tf1", tf1}}};
     case 52:
     case 53:
       return {{5, 11},
               0,
               h,
               b1,
-              {{"h", h}, {"b1", b1}, {"b2", b2}, {"tw", tw}, {"tf1", tf1}, {"tf2", tf2}}};
+              {{"h", h - tf1}, {"b1", b1}, {"b2", b2}, {"tw", tw}, {"tf1", tf1}, {"tf2", tf2}}};
     case 54:
-      return {{5, 18}, 0, h, b1, {{"h", h}, {"b1", b1}, {"tw", tw}, {"tf1", tf1}}};
+      return {{5, 18}, 0, h, b1, {{"h", h - tf1}, {"b1", b1}, {"tw", tw}, {"tf1", tf1}}};
     case 55:
       return {{5, 5, 5, 5},
               0,
               h,
               b1,
-              {{"h", h}, {"b1", b1}, {"b2", b2}, {"a", st.p55_a}, {"tw", tw}, {"tf1", tf1}}};
+              {{"h", h - tf1}, {"b1", b1}, {"b2", b2}, {"a", st.p55_a}, {"tw", tw}, {"tf1", tf1}}};
     case 56:
       return {{5, 5, 5},
               0,
               h,
               std::max(b1, b2),
-              {{"h", h}, {"b1", b1}, {"b2", b2}, {"tw", tw}, {"tf1", tf1}, {"tf2", tf2}}};
+              {{"h", h - tf1}, {"b1", b1}, {"b2", b2}, {"tw", tw}, {"tf1", tf1}, {"tf2", tf2}}};
     default:
       return {{21}, 0, h, b, flanged};
   }
@@ -238,8 +238,8 @@ TEST_P(FigureOfFamily, NotToScaleMakesThinWallsThickerAndNothingElse) {
     const std::string& letter = shape.dimensions[i].letter;
     const double drawn = thick.dimensions[i].Length();
     const double real = shape.dimensions[i].Length();
-    // The height of an HSQ beam begins at the top of the bottom plate, as it is drawn.
-    if (letter == "h" && IsHsq(Code())) {
+    // The height of an HSQ beam begins, that of a stiffener ends at its plate, as it is drawn.
+    if (letter == "h" && IsPlateType(Code())) {
       EXPECT_LE(drawn, real + 1e-9) << letter;
     } else if (letter[0] == 't' && Code() != 28) {
       EXPECT_GE(drawn, real - 1e-9) << letter;
