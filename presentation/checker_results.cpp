@@ -265,9 +265,9 @@ CheckerBlock SectionLine(D d) {
 void AddShear(CheckerBlock& b, const GoverningForce& g, const char* V, const char* Vd) {
   if (!g.set) return;
   Add(b, std::string("x/L ") + V, g.x);
-  Add(b, V, g.S, "kN");
-  Add(b, Vd, g.Sd, "kN", "12.2.5");
-  Add(b, std::string("IR ") + V, g.S / g.Sd);
+  Add(b, V, g.acting, "kN");
+  Add(b, Vd, g.capacity, "kN", "12.2.5");
+  Add(b, std::string("IR ") + V, g.acting / g.capacity);
 }
 
 CheckerBlock ShearLines(D d) {
@@ -311,8 +311,8 @@ CheckerBlock LateralLine(D d) {
   const GoverningForce& g = d.checks.lateral;
   CheckerBlock b{"Lateral line", {}};
   if (!g.set) return b;
-  Add(b, "My", g.S, "kNm", "governing, signed");
-  if (g.S < 0) Add(b, "|My|", -g.S, "kNm", "as the line uses it");
+  Add(b, "My", g.acting, "kNm", "governing, signed");
+  if (g.acting < 0) Add(b, "|My|", -g.acting, "kNm", "as the line uses it");
   AddSegment(b, d, d.ltb.governing);
   Add(b, "IR", d.checks.IRlateral);
   return b;

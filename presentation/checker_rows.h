@@ -46,6 +46,7 @@ struct Item {
 /// Unit of a section value by its name: "Iw" mm6, "Wely" mm3, "tw" mm.
 std::string SectionUnit(std::string_view name);
 
+/// Adds the rows of a table to a block, those whose condition holds.
 template <class Items>
 void AddItems(CheckerBlock& block, const Items& items, const Design& d) {
   for (const Item& item : items) {

@@ -107,8 +107,9 @@ LoadStops StopsOf(const DrawingTarget& t, std::vector<LoadRow> rows,
   return stops;
 }
 
-void DrawLoadTable(DrawingTarget& t, double column, double line, double step, const char* heading,
+void DrawLoadTable(DrawingTarget& t, Point place, double step, const char* heading,
                    const std::vector<LoadRow>& rows, const LoadStops& at) {
+  auto [column, line] = place;
   PutText(t, column, line, heading);
   line += step;
   const double size = t.FontSize;
@@ -158,8 +159,8 @@ Box DrawLoadInformation(DrawingTarget& t, const Layout& at, const ProjectState& 
             kParameters - kC1 - 1);
   line += step * 1.2;
   const LoadStops stops = StopsOf(t, z, y);
-  DrawLoadTable(t, kC1, line, step, "Loading in z-direction:", z, stops);
-  DrawLoadTable(t, kC1 + kSecondTable, line, step, "Loading in y-direction:", y, stops);
+  DrawLoadTable(t, {kC1, line}, step, "Loading in z-direction:", z, stops);
+  DrawLoadTable(t, {kC1 + kSecondTable, line}, step, "Loading in y-direction:", y, stops);
   const double longer = static_cast<double>(std::max(z.size(), y.size()));
   const double end = line + step * (2 + longer);
   const auto below = [=](const std::vector<LoadRow>& rows) {

@@ -39,9 +39,10 @@ std::string CellOf(const ResultColumn& column, const Designed& member);
 /// The shortest digits that read back to the same value.
 std::string Digits(float value);
 
-/// x of the greatest deflection L/x along z and along y; none without deflection and with end
-/// forces, which give none.
+/// x of the greatest deflection L/x along z; none without deflection and with end forces, which
+/// give none.
 std::optional<float> LengthOverDeflectionZ(const Design& d);
+/// The same along y.
 std::optional<float> LengthOverDeflectionY(const Design& d);
 
 /// The codes of the notes of caution or worse, separated by blanks.

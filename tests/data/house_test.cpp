@@ -221,6 +221,71 @@ TEST(House, EachFamilyLivesInTheUnitThatIsNamed) {
   }
 }
 
+bool IsComment(const std::string& line) {
+  const auto at = line.find_first_not_of(' ');
+  return at != std::string::npos && line.compare(at, 2, "//") == 0;
+}
+
+/// Declarations of routines without a comment of their own, above them or behind them. What is
+/// defined in the line of its declaration says itself what it does.
+std::vector<std::string> DeclaredWithoutWords(const std::vector<std::string>& lines) {
+  // A type, a name and a bracket at the level of a namespace or of a class.
+  static const std::regex declared(
+      R"(^(?:  )?(?:(?:inline|constexpr|static|virtual)\s+)*(?!return|using|friend|else|throw|case)[A-Za-z_][\w:<>,&* ]*[ &*][A-Za-z]\w*\((?!\)\(|std::))");
+  static const std::regex part(R"(^\s*(private|protected|public|signals):)");
+  static const std::regex opens(R"(^(class|struct)\s+\w+.*\{)");
+  std::vector<std::string> found;
+  bool open = true;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    std::smatch m;
+    if (std::regex_search(lines[i], m, part)) open = m[1] == "public";
+    if (std::regex_search(lines[i], m, opens)) open = m[1] == "struct";
+    if (lines[i].starts_with("}")) open = true;
+    if (!open || IsComment(lines[i]) || !std::regex_search(lines[i], declared)) continue;
+    std::size_t last = i;
+    const auto ends = [&] { return lines[last].find_first_of(";{") != std::string::npos; };
+    while (last + 1 < lines.size() && !ends()) ++last;
+    const std::string& end = lines[last];
+    if (end.find('{') != std::string::npos || end.find(") override;") != std::string::npos)
+      continue;
+    const bool isTemplate = i > 0 && lines[i - 1].find("template <") != std::string::npos;
+    const std::size_t above = isTemplate ? i - 1 : i;
+    const bool told =
+        (above > 0 && IsComment(lines[above - 1])) || end.find("//") != std::string::npos;
+    if (!told) found.push_back(lines[i]);
+  }
+  return found;
+}
+
+// A reader of a header learns of each routine what it gives, in which unit and from which clause.
+TEST(House, EachPublicRoutineOfTheEngineHasItsOwnLine) {
+  int seen = 0;
+  for (const std::string& file : AllSources()) {
+    if (file.starts_with("front/") || !file.ends_with(".h")) continue;
+    for (const std::string& line : DeclaredWithoutWords(LinesOf(file))) {
+      ADD_FAILURE() << file << ": " << line;
+    }
+    ++seen;
+  }
+  EXPECT_GT(seen, 60);
+}
+
+TEST(House, ARoutineWithoutItsOwnLineIsFound) {
+  const std::vector<std::string> lines{"/// kN.",
+                                       "double Force(int row);",
+                                       "double Moment(int row);",
+                                       "std::string Words(const std::string& a,",
+                                       "                  int b);",
+                                       "double Half(double v) { return v / 2; }",
+                                       "class Box {",
+                                       "  void Hidden(int a);",
+                                       "public:",
+                                       "  void Seen(int a) const;",
+                                       "  void Told(int a);  ///< mm",
+                                       "};"};
+  EXPECT_EQ(DeclaredWithoutWords(lines), (std::vector<std::string>{lines[2], lines[3], lines[9]}));
+}
+
 TEST(House, TheFilesOfTheListsExist) {
   static const std::regex path("`([a-z]+/[a-z_/]+(?:\\.[a-z]+)?)`");
   const std::string text = TextOf("docs/ARCHITECTURE.md");
