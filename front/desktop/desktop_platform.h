@@ -34,6 +34,7 @@ public:
                                      const std::string& extension) override;
   std::optional<std::string> AskSave(const std::string& filter,
                                      const std::string& extension) override;
+  bool AskOverwrite(const std::string& path) override;
   /// The box comes up when the action that said so is over and its result is on the screen.
   void Message(const std::string& text) override;
   void Beep() override;
