@@ -128,6 +128,7 @@ class VerdictPane : public Pane {
 public:
   explicit VerdictPane(const Session& session, QWidget* parent = nullptr);
   void Refresh() override;
+  const Headline& headline() const { return headline_; }
   QString Figure() const { return QString::fromStdString(headline_.figure); }
   QString Word() const { return QString::fromStdString(headline_.word); }
   QSize sizeHint() const override;

@@ -87,7 +87,7 @@ std::string CodeNames(const std::vector<std::string>& lines) {
 }
 
 /// Lines in which a code is compared with a number, a switch goes by it, a table's row begins with
-/// one, or a list that is about families holds nothing else.
+/// one, a macro that makes a row is given one, or a list that is about families holds nothing else.
 std::vector<std::string> CodesIn(const std::string& file) {
   const std::vector<std::string> lines = LinesOf(file);
   // The forms of the families hand their code on under this name.
@@ -99,6 +99,7 @@ std::vector<std::string> CodesIn(const std::string& file) {
   const std::regex switched("\\bswitch\\s*\\((?:[\\w.()]|->)*\\b(?:" + names + ")\\s*\\)");
   static const std::regex row(
       R"(^\s*\{\s*(\d+),\s*(?:\d+,\s*)?(?:\{|"|&|nullptr|k[A-Z]|[A-Z]\w*::))");
+  static const std::regex macro(R"(\b[A-Z]+_[A-Z_]+\((\d+),)");
   static const std::regex list(R"(\{\s*(\d+(?:\s*,\s*\d+)+)\s*\})");
   static const std::regex number(R"(\d+)");
   static const std::regex about("famil|profile|support|code|type", std::regex::icase);
@@ -108,7 +109,8 @@ std::vector<std::string> CodesIn(const std::string& file) {
     std::smatch m;
     bool here = std::regex_search(line, compared) || std::regex_search(line, turned) ||
                 std::regex_search(line, switched) ||
-                (std::regex_search(line, m, row) && IsFamily(m[1]));
+                (std::regex_search(line, m, row) && IsFamily(m[1])) ||
+                (std::regex_search(line, m, macro) && IsFamily(m[1]));
     if (!here && std::regex_search(line, about) && std::regex_search(line, m, list)) {
       const std::string codes = m[1];
       const std::sregex_iterator first(codes.begin(), codes.end(), number);
@@ -218,6 +220,16 @@ TEST(House, EachFamilyLivesInTheUnitThatIsNamed) {
     const std::string step = table.substr(load, table.find(',', load) - load);
     ASSERT_TRUE(unitOf.contains(family.code));
     EXPECT_TRUE(WordsOf(TextOf(unitOf[family.code] + ".h")).contains(step)) << step;
+  }
+}
+
+// A family whose dimensions are typed has its rows in the table of what they must be.
+TEST(House, EachTypedFamilyHasItsImpossibleSections) {
+  const std::string table = TextOf("checks/section_exists.cpp");
+  for (const Family& family : AllFamilies()) {
+    const bool there =
+        table.find("KORVANE_TYPED(" + std::to_string(family.code) + ",") != std::string::npos;
+    EXPECT_EQ(there, family.dimensions.size() > 0) << family.code;
   }
 }
 
