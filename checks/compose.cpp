@@ -231,13 +231,13 @@ void ComposeSection(const Family& family, const ProjectState& st, const LtbResul
                         const char* formula, double ir) {
     line.label = label;
     line.formula = formula;
-    Compose(line.numbers, Fraction{g.S, g.Sd}, " = ");
+    Compose(line.numbers, Fraction{g.acting, g.capacity}, " = ");
     SetValue(line, ir, g.fails ? kRed : kGreen);
   };
   const auto shear = [&](CheckLine& line, const GoverningForce& g, const char* label,
                          const char* formula) {
     if (!g.set) return;
-    force(line, g, label, formula, g.S / g.Sd);
+    force(line, g, label, formula, g.acting / g.capacity);
     SetPointLimit(line, iufa, g.x, "L; Ch 12.2.5)");
   };
   shear(out.lineVz, out.Vz, "Vz:", "IR = Vz/Vdz = ");

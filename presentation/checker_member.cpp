@@ -53,8 +53,8 @@ CheckerBlock LateralLine(D d) {
   const GoverningForce& g = d.checks.lateral;
   CheckerBlock b{"Lateral line", {}};
   if (!g.set) return b;
-  Add(b, "My", g.S, "kNm", "governing, signed");
-  if (g.S < 0) Add(b, "|My|", -g.S, "kNm", "as the line uses it");
+  Add(b, "My", g.acting, "kNm", "governing, signed");
+  if (g.acting < 0) Add(b, "|My|", -g.acting, "kNm", "as the line uses it");
   AddSegment(b, d, d.ltb.governing);
   Add(b, "IR", d.checks.IRlateral);
   return b;

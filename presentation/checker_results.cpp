@@ -252,9 +252,9 @@ CheckerBlock SectionLine(D d) {
 void AddShear(CheckerBlock& b, const GoverningForce& g, const char* V, const char* Vd) {
   if (!g.set) return;
   Add(b, std::string("x/L ") + V, g.x);
-  Add(b, V, g.S, "kN");
-  Add(b, Vd, g.Sd, "kN", "12.2.5");
-  Add(b, std::string("IR ") + V, g.S / g.Sd);
+  Add(b, V, g.acting, "kN");
+  Add(b, Vd, g.capacity, "kN", "12.2.5");
+  Add(b, std::string("IR ") + V, g.acting / g.capacity);
 }
 
 CheckerBlock ShearLines(D d) {

@@ -243,7 +243,7 @@ bool IsComment(const std::string& line) {
 std::vector<std::string> DeclaredWithoutWords(const std::vector<std::string>& lines) {
   // A type, a name and a bracket at the level of a namespace or of a class.
   static const std::regex declared(
-      R"(^(?:  )?(?:(?:inline|constexpr|static|virtual)\s+)*(?!return|using|friend|else|throw|case)[A-Za-z_][\w:<>,&* ]*[ &*][A-Za-z]\w*\((?!\)\(|std::))");
+      R"(^(?:  )?(?:(?:inline|constexpr|static|virtual)\s+)*(?!explicit|return|using|friend|else|throw|case)[A-Za-z_][\w:<>,&* ]*[ &*][A-Za-z]\w*\((?!\)\(|std::))");
   static const std::regex part(R"(^\s*(private|protected|public|signals):)");
   static const std::regex opens(R"(^(class|struct)\s+\w+.*\{)");
   std::vector<std::string> found;
@@ -258,8 +258,9 @@ std::vector<std::string> DeclaredWithoutWords(const std::vector<std::string>& li
     const auto ends = [&] { return lines[last].find_first_of(";{") != std::string::npos; };
     while (last + 1 < lines.size() && !ends()) ++last;
     const std::string& end = lines[last];
-    if (end.find('{') != std::string::npos || end.find(") override;") != std::string::npos)
-      continue;
+    // Neither what is defined or made by default, nor a variable inside a routine.
+    static const std::regex passed(R"(\{|\) override;|= (default|delete);|static_cast<|L'\\0')");
+    if (std::regex_search(end, passed)) continue;
     const bool isTemplate = i > 0 && lines[i - 1].find("template <") != std::string::npos;
     const std::size_t above = isTemplate ? i - 1 : i;
     const bool told =
