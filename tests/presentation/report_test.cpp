@@ -10,9 +10,9 @@
 #include "core/text.h"
 #include "presentation/aprint.h"
 #include "presentation/page.h"
-#include "presentation/recording_target.h"
 #include "sections/profile_table.h"
 #include "sections/shown_values.h"
+#include "tests/support/recording_target.h"
 #include "tests/support/source_library.h"
 
 namespace korvane {
