@@ -33,6 +33,9 @@ struct ViewLine {
 };
 using View = std::vector<ViewLine>;
 
+/// Whether a value of the line is red, or a ratio beyond the limit where its colour never turns.
+bool Fails(const ViewLine& line, double limit);
+
 /// Fixed string ahead of a value.
 inline constexpr const char* kIRPrefix = "IR = ";
 

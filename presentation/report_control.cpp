@@ -136,12 +136,6 @@ void DrawGeometry(DrawingTarget& t, double line, const Design& d) {
 /// Stands before a line whose ratio is beyond its limit, for paper without colours.
 constexpr const char* kFailMark = "> ";
 
-bool Fails(const ViewLine& row) {
-  return std::any_of(row.runs.begin(), row.runs.end(), [](const TextRun& run) {
-    return run.bold && RoleOfIndex(run.colour) == Role::Fail;
-  });
-}
-
 /// The rows as they are printed: a failing line bold and marked at its first row, numbers short
 /// where they are too long.
 struct PrintedRow {
@@ -150,13 +144,13 @@ struct PrintedRow {
   bool mark;
 };
 
-std::vector<PrintedRow> Printed(const View& view) {
+std::vector<PrintedRow> Printed(const View& view, double limit) {
   std::vector<PrintedRow> rows;
   for (std::size_t i = 0; i < view.size(); ++i) {
     // A formula without its ratio goes on in the next row.
     const bool goesOn = view[i].runs.size() == 1 && i + 1 < view.size() && i > 0;
     const bool second = !rows.empty() && i > 1 && view[i - 1].runs.size() == 1;
-    const bool fails = Fails(goesOn ? view[i + 1] : view[i]);
+    const bool fails = Fails(goesOn ? view[i + 1] : view[i], limit);
     PrintedRow row{view[i].runs, view[i].advance, fails && !second};
     for (TextRun& run : row.runs) {
       run.text = ShortNumbers(run.text);
@@ -177,9 +171,9 @@ double WidthOf(DrawingTarget& t, const std::vector<TextRun>& runs) {
   return width;
 }
 
-double DrawView(DrawingTarget& t, const View& view, double line, double step) {
+double DrawView(DrawingTarget& t, const View& view, double limit, double line, double step) {
   const double size = t.FontSize;
-  for (const PrintedRow& row : Printed(view)) {
+  for (const PrintedRow& row : Printed(view, limit)) {
     if (row.mark) {
       t.FontBold = true;
       PutRight(t, kC1, line, kFailMark);
@@ -278,8 +272,9 @@ void DrawVerdict(DrawingTarget& t, double line, const Design& d) {
 
 void DrawChecks(DrawingTarget& t, const CheckBlock& block, double line, const Design& d) {
   const double step = std::min(kLineStep, (kBottom - line) / block.Lines());
-  line = DrawView(t, block.section, line, step);
-  if (!block.buckling.empty()) line = DrawView(t, block.buckling, line + 0.3 * step, step);
+  const double limit = d.st.iufa;
+  line = DrawView(t, block.section, limit, line, step);
+  if (!block.buckling.empty()) line = DrawView(t, block.buckling, limit, line + 0.3 * step, step);
   if (block.modal) {
     line += 0.3 * step;
     PutHeading(t, kC1, line, "Modal analysis:");
