@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "analysis/deflections.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "analysis/running_sums.h"
@@ -22,7 +23,15 @@ void AddRun(const DeflectionSum& sum, int from, int to, double L, StationRow& ro
   }
 }
 
+/// mm; what is less counts as no deflection.
+constexpr double kLeast = 1E-3;
+
 }  // namespace
+
+double LengthOverDeflection(double L, double max, double min) {
+  const double greatest = std::max(std::fabs(max), std::fabs(min));
+  return greatest < kLeast ? 0 : std::fabs(L * 1000 / greatest);
+}
 
 void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,
                       StationValues& defl, float32& max, float32& min) {

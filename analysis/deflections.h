@@ -13,6 +13,10 @@ struct Deflections {
   float32 DeflStiff;  ///< mm*mm4, |DeflZ_max|*Iy: the z deflection freed from the section
 };
 
+/// x of L/x: the length (m) over the greater of two extremes (mm); 0 where both are less than a
+/// thousandth of a millimetre.
+double LengthOverDeflection(double L, double max, double min);
+
 /// One plane with the second moment of area I (mm4): writes the deflections (mm) and their
 /// extremes.
 void PlaneDeflections(const ProjectState& st, const PlaneLoads& loads, double I,

@@ -9,15 +9,21 @@
 
 namespace korvane {
 
-/// A printed check. colour is an index of the 16-colour basic palette.
+/// Indices of the 16-colour basic palette that results are shown in.
+inline constexpr int kBlack = 0;
+inline constexpr int kGreen = 2;  ///< passes
+inline constexpr int kRed = 4;    ///< fails
+
+/// A printed check.
 struct CheckLine {
   std::string label, formula, numbers, value, limit;
-  int colour = 0;  ///< 2 green: passes, 4 red: fails
+  double ratio = 0;     ///< as the check gave it; value is its text
+  int colour = kBlack;  ///< kGreen or kRed once it is written
 };
 
 /// Palette index of a ratio: equal to the limit passes.
 inline int CheckColour(double ir, double iufa) {
-  return ir > iufa ? 4 : 2;
+  return ir > iufa ? kRed : kGreen;
 }
 
 /// The checks that share the governing line of section control.

@@ -55,11 +55,13 @@ void Clear(CheckLine& line) {
   for (std::string* text : {&line.label, &line.formula, &line.numbers, &line.value, &line.limit}) {
     text->clear();
   }
-  line.colour = 0;
+  line.ratio = 0;
+  line.colour = kBlack;
 }
 
 void SetValue(CheckLine& line, double ir, int colour) {
   Compose(line.value, F2(ir));
+  line.ratio = ir;
   line.colour = colour;
 }
 
@@ -230,7 +232,7 @@ void ComposeSection(const Family& family, const ProjectState& st, const LtbResul
     line.label = label;
     line.formula = formula;
     Compose(line.numbers, Fraction{g.S, g.Sd}, " = ");
-    SetValue(line, ir, g.fails ? 4 : 2);
+    SetValue(line, ir, g.fails ? kRed : kGreen);
   };
   const auto shear = [&](CheckLine& line, const GoverningForce& g, const char* label,
                          const char* formula) {

@@ -47,7 +47,8 @@ ViewLine SlendernessLine(const ProjectState& st, const std::string& text,
   line.runs.push_back({text});
   const auto axis = [&](double factor, double slenderness) {
     if (factor == 0) return TextRun{"N/A"};
-    return TextRun{Format(slenderness, "0"), true, false, slenderness > st.islend_limit ? 4 : 2};
+    return TextRun{Format(slenderness, "0"), true, false,
+                   slenderness > st.islend_limit ? kRed : kGreen};
   };
   line.runs.push_back(axis(st.bly, b.LyOverI));
   line.runs.push_back({"/"});
@@ -63,9 +64,13 @@ std::string WholeText(const CheckLine& line) {
 void AddLong(View& v, const CheckLine& line, bool broken) {
   if (broken) v.push_back({{{line.formula}}, 1});
   v.push_back({{{broken ? "    = " + line.numbers : line.formula + line.numbers},
-                {line.value, true, false, line.colour},
+                ValueRun(line),
                 {line.limit}},
                1});
+}
+
+TextRun ValueRun(const CheckLine& line) {
+  return {line.value, true, false, line.colour, false, line.ratio};
 }
 
 }  // namespace view
@@ -76,8 +81,8 @@ void AddShort(View& v, const CheckLine& line) {
   if (line.formula.empty()) return;
   ViewLine out;
   out.runs.push_back({line.label});
-  out.runs.push_back({kIRPrefix, false, false, 0, true});
-  out.runs.push_back({line.value, true, false, line.colour});
+  out.runs.push_back({kIRPrefix, false, false, kBlack, true});
+  out.runs.push_back(view::ValueRun(line));
   out.runs.push_back({line.limit});
   v.push_back(std::move(out));
 }

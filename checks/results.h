@@ -3,6 +3,7 @@
 // view (formula and numbers as well). Targets print them as they stand.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,8 +21,9 @@ struct TextRun {
   std::string text;
   bool bold = false;
   bool underline = false;
-  int colour = 0;      ///< index of the 16-colour basic palette, 0 black
-  bool atTab = false;  ///< starts at the second column, left margin + 10
+  int colour = kBlack;            ///< index of the 16-colour basic palette
+  bool atTab = false;             ///< starts at the second column, left margin + 10
+  std::optional<double> ratio{};  ///< of the run that is a check's value
 };
 
 /// A line of a view; advance is the way down behind it, in lines.
@@ -57,6 +59,7 @@ ViewLine Heading(const ProjectState& st, const char* text);
 ViewLine SlendernessLine(const ProjectState& st, const std::string& text, const BucklingResults& b);
 void AddLong(View& v, const CheckLine& line, bool broken);
 std::string WholeText(const CheckLine& line);
+TextRun ValueRun(const CheckLine& line);
 }  // namespace view
 
 template <class Breaks>

@@ -167,12 +167,9 @@ void LateralOff(const Family& family, const Finished& d, NoteList& notes) {
 
 void Deflection(const Finished& d, Verdict& v) {
   if (d.st.AnalysisMode != 1) return;
-  const auto ratio = [&](const float32& max, const float32& min) {
-    const double size = Size(max, min);
-    return size < 1E-3 ? 0 : std::fabs(d.st.L) * 1000 / size;
-  };
-  const double z = ratio(d.deflections.DeflZ_max, d.deflections.DeflZ_min);
-  const double y = ratio(d.deflections.DeflY_max, d.deflections.DeflY_min);
+  const Deflections& by = d.deflections;
+  const double z = LengthOverDeflection(d.st.L, by.DeflZ_max, by.DeflZ_min);
+  const double y = LengthOverDeflection(d.st.L, by.DeflY_max, by.DeflY_min);
   if (z == 0 && y == 0) return;
   const double limit = d.st.DeflectionLimit;
   const bool fails = (z != 0 && z < limit) || (y != 0 && y < limit);

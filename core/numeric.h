@@ -31,6 +31,11 @@ public:
                                         : overflow);
 }
 
+/// An arithmetic failure as it is told; what names the step and its cause.
+inline std::string FaultText(const std::string& what) {
+  return "arithmetic failure in " + what;
+}
+
 /// IEEE single precision value. Reads as double, so formulas run in double precision;
 /// assigning rounds, and throws ArithmeticFault (leaving the value as it was) when the result
 /// is not finite or too large for single precision.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/project_files.h"
 
+#include "core/program.h"
 #include "core/project_file.h"
 #include "front/session.h"
 
@@ -21,7 +22,7 @@ std::string FolderOf(const std::string& path) {
 }  // namespace
 
 std::string ProjectFiles::TitleOf(const std::string& file) {
-  return "KORVANE-NS3472: " + file;
+  return kTitleBegin + file;
 }
 
 // --- Recent files -------------------------------------------------------------------------------

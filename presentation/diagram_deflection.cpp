@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <cmath>
-
 #include "core/text.h"
 #include "presentation/diagram_sheet.h"
 
@@ -23,12 +21,6 @@ Deflected Of(const Deflections& d, Plane plane) {
   return {d.DeflY, d.DeflY_max, d.DeflY_min, "Deflection (SLS): y (mm): L/"};
 }
 
-// Length over the greater deflection, 0 where nothing deflects. L in m.
-double Ratio(double L, double max, double min) {
-  const double greater = std::fabs(min) >= std::fabs(max) ? min : max;
-  return greater == 0 ? 0 : std::fabs(L * 1000 / greater);
-}
-
 }  // namespace
 
 double DeflectionHeight(const Deflections& deflections, Plane plane, const DiagramStyle& style) {
@@ -41,7 +33,7 @@ void DrawDeflection(DrawingTarget& target, const DiagramOrigin& origin, const Pr
                     const Deflections& deflections, Plane plane, const DiagramStyle& style) {
   const Deflected d = Of(deflections, plane);
   DiagramSheet sheet(target, origin, style, DeflectionHeight(deflections, plane, style));
-  sheet.Title(d.title + Format(Ratio(st.L, d.max, d.min), "#0"), origin.y);
+  sheet.Title(d.title + Format(LengthOverDeflection(st.L, d.max, d.min), "#0"), origin.y);
   const CurveRoom room = RoomOf(d.max, d.min, kDeflectionScale, style);
   DrawCurve(sheet, {d.values, d.max, d.min, kDeflectionScale, Role::Accent, {}, {}},
             origin.y + LineOf(style) + room.above);

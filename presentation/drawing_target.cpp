@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "checks/check_line.h"
 #include "core/numeric.h"
 #include "presentation/text_metrics.h"
 
@@ -31,8 +32,8 @@ Palette Palette::Dark() {
 }
 
 Role RoleOfIndex(int paletteIndex) {
-  if (paletteIndex == 2) return Role::Pass;
-  return paletteIndex == 4 ? Role::Fail : Role::Ink;
+  if (paletteIndex == kGreen) return Role::Pass;
+  return paletteIndex == kRed ? Role::Fail : Role::Ink;
 }
 
 void DrawingTarget::Print(std::string_view text) {

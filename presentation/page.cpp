@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "core/program.h"
 #include "core/text.h"
 #include "presentation/figures.h"
 #include "sections/names.h"
@@ -167,9 +168,9 @@ double DrawPageFrame(DrawingTarget& t, const Design& d, const ReportTime& time) 
     t.Line({column, top}, {column, bottom});
   }
   t.FontSize = kFrameSize;
-  PutHeading(t, kMargin + 1, top + 0.4, "KORVANE NS3472");
+  PutHeading(t, kMargin + 1, top + 0.4, kProgramName);
   t.FontSize = kBodySize;
-  PutText(t, kMargin + 1, top + 2.0, "Version 3.9");
+  PutText(t, kMargin + 1, top + 2.0, std::string("Version ") + kVersion);
   PutText(t, kMargin + 1, top + 3.3, "Column/Beam program based on NS3472, 3 rd ed");
   PutText(t, kMargin + 1, top + 4.9, "KORVANE");
 

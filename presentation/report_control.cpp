@@ -337,7 +337,7 @@ double DrawView(DrawingTarget& t, const View& view, double line, double step) {
     for (const TextRun& run : row.runs) {
       t.FontBold = run.bold;
       t.FontUnderline = run.underline;
-      t.ForeColor = run.colour == 0 ? Role::Ink : RoleOfIndex(run.colour);
+      t.ForeColor = run.colour == kBlack ? Role::Ink : RoleOfIndex(run.colour);
       t.Print(run.text);
     }
     t.FontSize = size;
@@ -416,7 +416,7 @@ void DrawVerdict(DrawingTarget& t, double line, const Design& d) {
   t.CurrentY = line;
   for (const TextRun& run : VerdictLine(VerdictOf(d)).runs) {
     t.FontBold = run.bold;
-    t.ForeColor = run.colour == 0 ? Role::Ink : RoleOfIndex(run.colour);
+    t.ForeColor = run.colour == kBlack ? Role::Ink : RoleOfIndex(run.colour);
     t.Print(run.text);
   }
   t.FontBold = false;

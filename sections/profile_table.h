@@ -99,6 +99,7 @@ struct Dimension {
   StateField field{};
   const char* letter = "";  ///< as forms and figures name it
   const char* format = "";
+  const char* control = nullptr;  ///< its field on the form; nullptr: named by the letter
 };
 
 /// The words of a family; they go around the dimensions in its name.
@@ -188,6 +189,8 @@ struct Family {
   /// Typed dimensions, those of the name first and in its order.
   FixedList<Dimension, 11> dimensions{};
   std::size_t titled = 0;  ///< how many of them stand in the name
+  /// Their letters in the order of the form, separated by blanks; nullptr: as they stand.
+  const char* formOrder = nullptr;
   FamilyWords words{};
   OutlineKind outline = OutlineKind::General;
   ShownLists shown{};

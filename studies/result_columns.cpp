@@ -23,10 +23,10 @@ std::optional<float> Single(double v) {
 
 std::optional<float> LengthOver(const Design& d, double max, double min) {
   if (d.st.AnalysisMode != 1) return {};
-  const double greatest = std::max(std::fabs(max), std::fabs(min));
-  if (greatest == 0.0) return {};
+  const double ratio = LengthOverDeflection(d.st.L, max, min);
+  if (ratio == 0) return {};
   // Beyond single precision there is no deflection worth a ratio.
-  return Single(d.st.L * 1000.0 / greatest);
+  return Single(ratio);
 }
 
 double BucklingRatio(const CheckResults& c) {

@@ -85,7 +85,7 @@ Trial TryValue(const Design& started, const ProjectState& member, const MemberIn
   trial.passes = verdict.Passes();
   if (run.fault) {
     trial.IR = 0;
-    trial.check = "arithmetic failure in " + *run.fault;
+    trial.check = FaultText(*run.fault);
   } else if (trial.passes && question.sls && verdict.sls == Serviceability::Fails) {
     trial.passes = false;
     trial.check = "deflection";

@@ -2,6 +2,7 @@
 // One project of a batch: its design and its line.
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <exception>
 #include <initializer_list>
 #include <string_view>
@@ -51,16 +52,20 @@ void AppendField(std::string_view field, std::string& lines) {
 }
 
 /// A ratio with the lines that may show it. Which line a buckling ratio goes to differs with the
-/// family, so the printed value decides.
+/// family, so the line's own ratio decides.
 struct Candidate {
   double ir;
   std::array<const CheckLine*, 2> lines{};
 };
 
+/// Two ways of working out one ratio differ in the last digits of its division at most.
+bool Same(double a, double b) {
+  return std::fabs(a - b) <= 1e-6 * b;
+}
+
 const CheckLine* LineOf(const Candidate& candidate) {
-  const std::string value = Format(candidate.ir, "0.00");
   for (const CheckLine* line : candidate.lines)
-    if (line != nullptr && line->value == value) return line;
+    if (line != nullptr && !line->value.empty() && Same(line->ratio, candidate.ir)) return line;
   return nullptr;
 }
 
@@ -168,7 +173,7 @@ void AppendBatchLine(const std::string& path, const Design& started, Design& wor
     DesignOne(path, work, optimise, line, remarks);
   } catch (const ArithmeticFault& fault) {
     line.status = "fault";
-    line.error = std::string("arithmetic failure in ") + fault.what();
+    line.error = FaultText(fault.what());
   } catch (const std::exception& other) {
     line.status = "error";
     line.error = other.what();

@@ -37,8 +37,8 @@ void AddValues(std::string& out, const char* heading, const ShownValues& values)
 }
 
 std::string Paint(const TextRun& run, bool colour) {
-  if (!colour || (run.colour != 2 && run.colour != 4)) return run.text;
-  return (run.colour == 2 ? "\033[1;32m" : "\033[1;31m") + run.text + "\033[0m";
+  if (!colour || (run.colour != kGreen && run.colour != kRed)) return run.text;
+  return (run.colour == kGreen ? "\033[1;32m" : "\033[1;31m") + run.text + "\033[0m";
 }
 
 void AddView(std::string& out, const View& view, bool colour) {
@@ -109,10 +109,8 @@ void AddLateral(std::string& out, const Design& d) {
 
 void AddDeflection(std::string& out, const Design& d, const char* axis, double max, double min) {
   const double extreme = std::fabs(min) >= std::fabs(max) ? min : max;
-  // Less than a thousandth of a millimetre is none.
-  const double ratio = std::fabs(extreme) < 1E-3 ? 0 : d.st.L * 1000 / std::fabs(extreme);
   out += std::string("Deflection (SLS): ") + axis + " = " + Format(extreme, "#0.0") + " mm, L/" +
-         Format(ratio, "#0") + "\n";
+         Format(LengthOverDeflection(d.st.L, max, min), "#0") + "\n";
 }
 
 void AddModal(std::string& out, const Design& d) {

@@ -43,7 +43,7 @@ int RunDesign(const std::string& file, const std::string& data, bool json) {
   }
   for (const std::string& remark : run.remarks) std::cerr << remark << "\n";
   for (const std::string& message : design.messages) std::cerr << message << "\n";
-  if (run.fault) std::cerr << "arithmetic failure in " << run.what << "\n";
+  if (run.fault) std::cerr << FaultText(run.what) << "\n";
   if (json) {
     std::cout << DesignJson(design, run.fault) << "\n";
   } else {

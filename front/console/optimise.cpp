@@ -147,7 +147,7 @@ int Opened(const OptimiseOptions& options, Design& design, std::ostream& errors)
     return kBadInput;
   }
   if (!run.fault) return kAllPass;
-  errors << "arithmetic failure in " << run.what << '\n';
+  errors << FaultText(run.what) << '\n';
   return kArithmeticFailure;
 }
 
@@ -252,7 +252,7 @@ int RunOptimise(std::shared_ptr<const Library> library, const OptimiseOptions& o
     return best ? kAllPass : kCheckFails;
   } catch (const ArithmeticFault& fault) {
     bar.Finish();
-    errors << "arithmetic failure in " << fault.what() << '\n';
+    errors << FaultText(fault.what()) << '\n';
     return kArithmeticFailure;
   }
 }

@@ -93,7 +93,7 @@ int Prepare(const Arguments& a, Design& design, std::string* bytes = nullptr) {
   }
   for (const std::string& remark : run.remarks) std::cerr << remark << "\n";
   if (run.fault) {
-    std::cerr << "arithmetic failure in " << run.what << "\n";
+    std::cerr << FaultText(run.what) << "\n";
     return kArithmeticFailure;
   }
   return kAllPass;

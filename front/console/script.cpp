@@ -255,7 +255,7 @@ int RunScript(std::shared_ptr<const Library> library, bool decimalComma, std::is
       err << where << error.what() << "\n";
       return kBadInput;
     } catch (const CalculationFault& fault) {
-      err << where << "arithmetic failure in " << fault.what() << "\n";
+      err << where << FaultText(fault.what()) << "\n";
       return kArithmeticFailure;
     } catch (const ArithmeticFault& fault) {
       err << where << "arithmetic failure: " << fault.what() << "\n";

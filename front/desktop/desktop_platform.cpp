@@ -17,6 +17,7 @@
 
 #include "core/files.h"
 #include "core/project_file.h"
+#include "front/desktop/own_folder.h"
 #include "front/painter/paint_files.h"
 #include "front/painter/painter_target.h"
 #include "front/painter/report_job.h"
@@ -24,11 +25,6 @@
 namespace korvane {
 
 namespace {
-
-QSettings Store() {
-  return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Korvane_ns"),
-                   QStringLiteral("Korvane_ns"));
-}
 
 QString RecentKey(const std::string& key) {
   return QStringLiteral("Recent Files/") + QString::fromStdString(key);
@@ -39,11 +35,11 @@ QString RecentKey(const std::string& key) {
 DesktopPlatform::DesktopPlatform() = default;
 
 std::string DesktopPlatform::Setting(const std::string& key) {
-  return Store().value(RecentKey(key)).toString().toStdString();
+  return UserSettings().value(RecentKey(key)).toString().toStdString();
 }
 
 void DesktopPlatform::SetSetting(const std::string& key, const std::string& value) {
-  QSettings store = Store();
+  QSettings store = UserSettings();
   store.setValue(RecentKey(key), QString::fromStdString(value));
 }
 

@@ -26,6 +26,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "front/desktop/own_folder.h"
 #include "front/desktop/theme.h"
 
 namespace korvane {
@@ -37,11 +38,6 @@ constexpr double kWidest = 660;
 constexpr double kLeastWidth = 160;
 /// White edge around a drawing.
 constexpr double kRim = 8;
-
-QSettings Store() {
-  return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Korvane_ns"),
-                   QStringLiteral("Korvane_ns"));
-}
 
 QImage Drawing(const QByteArray& file, double ratio, double widest) {
   QSvgRenderer svg(file);
@@ -223,7 +219,7 @@ HelpViewer::HelpViewer(const HelpBook& book) : book_(book) {
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(split_);
   resize(QSize(Ems(this, 98), Ems(this, 66)).boundedTo(screen()->availableSize() * 9 / 10));
-  const QSettings store = Store();
+  const QSettings store = UserSettings();
   restoreGeometry(store.value(QStringLiteral("Help/geometry")).toByteArray());
   split_->restoreState(store.value(QStringLiteral("Help/split")).toByteArray());
   FillContents();
@@ -424,7 +420,7 @@ void HelpViewer::MarkWords() {
 }
 
 void HelpViewer::closeEvent(QCloseEvent* event) {
-  QSettings store = Store();
+  QSettings store = UserSettings();
   store.setValue(QStringLiteral("Help/geometry"), saveGeometry());
   store.setValue(QStringLiteral("Help/split"), split_->saveState());
   event->accept();

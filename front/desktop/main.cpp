@@ -10,6 +10,7 @@
 #include <array>
 #include <cstdio>
 
+#include "core/program.h"
 #include "front/data_folder.h"
 #include "front/desktop/desktop.h"
 #include "front/desktop/desktop_platform.h"
@@ -133,7 +134,7 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
 }  // namespace
 
 int main(int argc, char** argv) {
-  QCoreApplication::setApplicationName(QStringLiteral("Korvane_ns"));
+  QCoreApplication::setApplicationName(QString::fromLatin1(kSettingsName));
   // No display name: it would be appended to the title of each window.
   QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral("korvane"));

@@ -21,19 +21,11 @@
 #include "front/desktop/desktop.h"
 #include "front/desktop/diagram_pane.h"
 #include "front/desktop/form_binder.h"
+#include "front/desktop/own_folder.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
 
 namespace korvane {
-
-namespace {
-
-QSettings Store() {
-  return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Korvane_ns"),
-                   QStringLiteral("Korvane_ns"));
-}
-
-}  // namespace
 
 MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
   setObjectName(QString::fromStdString(TheForms().main->name));
@@ -217,7 +209,7 @@ void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void MainWindow::RestoreSizes() {
-  const QSettings store = Store();
+  const QSettings store = UserSettings();
   // The first time most of the screen is taken, and never less than the smallest one offers.
   const QSize room = screen()->availableSize() * 9 / 10;
   resize(QSize(1760, 990).boundedTo(room).expandedTo(QSize(1280, 720)));
@@ -229,7 +221,7 @@ void MainWindow::RestoreSizes() {
 }
 
 void MainWindow::SaveSizes() const {
-  QSettings store = Store();
+  QSettings store = UserSettings();
   store.setValue(QStringLiteral("Window/geometry"), saveGeometry());
   for (const QSplitter* splitter : splitters_) {
     store.setValue(QStringLiteral("Window/") + splitter->objectName(), splitter->saveState());

@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "core/program.h"
+
 namespace korvane {
 
 Folders FoldersOf(const std::string& data, const QString& own) {
@@ -12,6 +14,11 @@ Folders FoldersOf(const std::string& data, const QString& own) {
   QDir().mkpath(own);
   folders.own = own.toStdString();
   return folders;
+}
+
+QSettings UserSettings() {
+  const QString name = QString::fromLatin1(kSettingsName);
+  return QSettings(QSettings::IniFormat, QSettings::UserScope, name, name);
 }
 
 }  // namespace korvane

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the desktop program writes what it keeps: defaults and the profile database.
+// Where the desktop program writes what it keeps: defaults, the profile database and settings.
 #pragma once
 
+#include <QSettings>
 #include <QString>
 
 #include "front/session.h"
@@ -10,5 +11,8 @@ namespace korvane {
 
 /// The program's data folder where it can be written, else the person's own, which is made.
 Folders FoldersOf(const std::string& data, const QString& own);
+
+/// The person's settings: places of windows, recent files.
+QSettings UserSettings();
 
 }  // namespace korvane

@@ -8,7 +8,6 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "core/text.h"
 #include "front/desktop/panes.h"
 #include "front/desktop/theme.h"
 
@@ -16,21 +15,16 @@ namespace korvane {
 
 namespace {
 
-/// The coloured run of a line is its value.
+/// The value of a check in its line; nullptr where the line tells no ratio.
 const TextRun* ValueOf(const ViewLine& line) {
   const auto it = std::find_if(line.runs.begin(), line.runs.end(),
-                               [](const TextRun& run) { return run.colour != 0; });
+                               [](const TextRun& run) { return run.ratio.has_value(); });
   return it == line.runs.end() ? nullptr : &*it;
 }
 
 bool Fails(const ViewLine& line) {
   return std::any_of(line.runs.begin(), line.runs.end(),
                      [](const TextRun& run) { return RoleOfIndex(run.colour) == Role::Fail; });
-}
-
-bool HasRatio(const ViewLine& line) {
-  return std::any_of(line.runs.begin(), line.runs.end(),
-                     [](const TextRun& run) { return run.text == kIRPrefix; });
 }
 
 QString TextOf(const ViewLine& line) {
@@ -171,7 +165,7 @@ QRect ResultPane::MarkRatio(const QString& ratio) {
   QRect place;
   EachLine([&](const ViewLine& line, double y) {
     const TextRun* value = ValueOf(line);
-    if (!marked_.isEmpty() || value == nullptr || !HasRatio(line)) return;
+    if (!marked_.isEmpty() || value == nullptr) return;
     if (QString::fromStdString(value->text).trimmed() != ratio) return;
     marked_ = ratio;
     place = QRectF(0, y, width(), RowHeight()).toAlignedRect();
@@ -185,8 +179,7 @@ void ResultPane::Draw(QPainter& painter) {
   bool marks = !marked_.isEmpty();
   EachLine([&](const ViewLine& line, double y) {
     const TextRun* value = ValueOf(line);
-    if (marks && value != nullptr && HasRatio(line) &&
-        QString::fromStdString(value->text).trimmed() == marked_) {
+    if (marks && value != nullptr && QString::fromStdString(value->text).trimmed() == marked_) {
       painter.fillRect(QRectF(0, y, width(), RowHeight()), palette().color(QPalette::Midlight));
       marks = false;
     }
@@ -223,19 +216,18 @@ void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
     const QFontMetricsF metrics(style);
     if (run.atTab) x = TabAfter(x);
     painter.setFont(style);
-    painter.setPen(run.colour == 0 ? palette().color(QPalette::Text)
-                                   : ColourFor(RoleOfIndex(run.colour), palette()));
+    painter.setPen(run.colour == kBlack ? palette().color(QPalette::Text)
+                                        : ColourFor(RoleOfIndex(run.colour), palette()));
     const QString text = QString::fromStdString(run.text);
     painter.drawText(QPointF(x, y + metrics.ascent()), text);
     x += metrics.horizontalAdvance(text);
   }
   const TextRun* value = ValueOf(line);
-  if (value == nullptr || !HasRatio(line)) return;
+  if (value == nullptr) return;
   const double start = bars_;
   const double bar = std::min(width() - start - Ems(this, 0.9), Ems(this, kMostBarEms) * 1.0);
   if (length_ == Length::Long || bar < Ems(this, kBarEms) || start < x) return;
-  const auto ratio = ParseNumber(value->text, false);
-  const double share = std::clamp(ratio ? double(*ratio) / session_.st().iufa : 0.0, 0.0, 1.0);
+  const double share = std::clamp(*value->ratio / session_.st().iufa, 0.0, 1.0);
   const QFontMetricsF metrics(font());
   const double thick = std::max(4.0, metrics.height() * 0.32);
   const QRectF track(start, y + metrics.height() * 0.5 - thick / 2, bar, thick);

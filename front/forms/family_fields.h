@@ -3,10 +3,11 @@
 #pragma once
 
 #include "front/form_table.h"
+#include "sections/profile_table.h"
 
 namespace korvane {
 
 /// Appends the input fields of a family; none for a family that is only chosen from a list.
-void AddTypedFields(int code, Form& form);
+void AddTypedFields(const Family& family, Form& form);
 
 }  // namespace korvane

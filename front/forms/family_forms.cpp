@@ -99,28 +99,30 @@ std::string ValueControlName(std::string_view symbol) {
 /// How a form labels a value otherwise than the printed page does; an empty member leaves that of
 /// the page.
 struct FormLabel {
-  int first, last;  ///< of the families
   std::string_view symbol;
   std::string_view caption, unit;
+  SectionControlKind of = SectionControlKind::None;  ///< of the families; None: whoever shows it
 };
 constexpr FormLabel kFormLabels[] = {
-    {10, 11, "Ncrd", "Ncd =", {}},
-    {11, 11, "Vdz", "Vzd =", {}},
-    {11, 11, "Vdy", "Vyd =", {}},
-    {26, 26, "Ntd", "Ntrd =", {}},
-    {22, 56, "ez-el", {}, "mm (elastic)"},
-    {22, 56, "ez-pl", {}, "mm (plastic)"},
-    {22, 56, "Weffy1c", "Weffy1 =", "mm3 (c)"},
-    {22, 56, "Weffy1t", "Weffy1 =", "mm3 (t)"},
-    {22, 56, "Weffy2c", "Weffy2=", "mm3 (c)"},
-    {22, 56, "Weffy2t", "Weffy2=", "mm3 (t)"},
-    {22, 56, "MdyTop", "Mdy =", {}},
-    {22, 56, "MdyBottom", "Mdy =", {}},
+    {"Ncrd", "Ncd =", {}},
+    {"Vdz", "Vzd =", {}, SectionControlKind::UnequalAngle},
+    {"Vdy", "Vyd =", {}, SectionControlKind::UnequalAngle},
+    {"Ntd", "Ntrd =", {}, SectionControlKind::T},
+    {"ez-el", {}, "mm (elastic)"},
+    {"ez-pl", {}, "mm (plastic)"},
+    {"Weffy1c", "Weffy1 =", "mm3 (c)"},
+    {"Weffy1t", "Weffy1 =", "mm3 (t)"},
+    {"Weffy2c", "Weffy2=", "mm3 (c)"},
+    {"Weffy2t", "Weffy2=", "mm3 (t)"},
+    {"MdyTop", "Mdy =", {}},
+    {"MdyBottom", "Mdy =", {}},
 };
 
-FormLabel FormLabelOf(int code, std::string_view symbol) {
+FormLabel FormLabelOf(const Family& family, std::string_view symbol) {
   for (const FormLabel& label : kFormLabels) {
-    if (label.symbol == symbol && code >= label.first && code <= label.last) return label;
+    const bool theirs =
+        label.of == SectionControlKind::None || label.of == family.routines.sectionControl;
+    if (label.symbol == symbol && theirs) return label;
   }
   return {};
 }
@@ -205,7 +207,7 @@ void AddBlock(const Family& family, Block block, std::vector<Wanted>& wanted, Fo
   for (const ShownValue& v : ValuesOf(block, st, none)) {
     if (single && v.name == "Ix") continue;  // on the page alone
     AddSideClass(v.name, form);
-    const FormLabel own = FormLabelOf(family.code, v.name);
+    const FormLabel own = FormLabelOf(family, v.name);
     Control label = TextLabel(ValueControlName(v.name), {});
     label.caption = own.caption.empty() ? std::string(v.name) + " =" : std::string(own.caption);
     label.block = block;
@@ -268,7 +270,7 @@ void AddFamilyForm(const Family& family, Forms& forms) {
   form.input = true;
   AddSubFamilies(family, form);
   if (!family.catalogues.empty()) Put(form, SizeControl(family));
-  AddTypedFields(family.code, form);
+  AddTypedFields(family, form);
   AddTypedOptions(family, form);
   AddHollowExtras(family, form);
   AddValues(family, form);

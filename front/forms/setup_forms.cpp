@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Default values, detailed results, mode shapes, pictures, about.
+#include "core/program.h"
 #include "front/forms/forms.h"
 #include "front/session.h"
 
@@ -92,7 +93,7 @@ void AddModes(Forms& forms) {
   Put(form, CloseButton("ok", "OK", form));
 }
 
-Form& AddSimple(Forms& forms, const char* name, const char* title, const char* text) {
+Form& AddSimple(Forms& forms, const char* name, const char* title, const std::string& text) {
   Form& form = forms.Add(name, Fixed(title));
   Put(form, Label("otext", text));
   Put(form, CloseButton("Command1", "OK", form));
@@ -106,8 +107,8 @@ void AddSetupForms(Forms& forms) {
   AddDetails(forms);
   AddModes(forms);
   forms.about = &AddSimple(forms, "about", "About KORVANE - NS3472",
-                           "KORVANE NS3472, Version 3.9. Column/Beam program based on NS3472, "
-                           "3 rd ed");
+                           kProgramName + std::string(", Version ") + kVersion +
+                               ". Column/Beam program based on NS3472, 3 rd ed");
   Form& pictures =
       AddSimple(forms, "Pictures", "Pictures", "Supports, end conditions and load levels");
   forms.pictures = &pictures;

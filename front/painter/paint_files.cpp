@@ -10,6 +10,7 @@
 #include <array>
 #include <memory>
 
+#include "core/program.h"
 #include "front/painter/painter_target.h"
 #include "front/painter/pdf_description.h"
 
@@ -41,14 +42,17 @@ void DrawPage(QPainter& painter, const PaintJob& job, std::size_t page, const QR
 }
 
 constexpr const char* kFailed = "the painter failed";
-constexpr const char* kProgram = "KORVANE NS3472 3.9";
+
+std::string Creator() {
+  return kProgramName + std::string(" ") + kVersion;
+}
 
 std::string PaintPdf(const PaintJob& job, QIODevice& bytes) {
   QPdfWriter writer(&bytes);
   writer.setPageSize(QPageSize(QSizeF(job.width, job.height), QPageSize::Point));
   writer.setPageMargins(QMarginsF(0, 0, 0, 0));
   writer.setTitle(QString::fromStdString(job.title));
-  writer.setCreator(QString::fromUtf8(kProgram));
+  writer.setCreator(QString::fromStdString(Creator()));
   if (!job.attachment.empty()) {
     writer.addFileAttachment(QString::fromStdString(job.attachmentName),
                              QByteArray::fromStdString(job.attachment),
@@ -86,7 +90,7 @@ std::string PaintIntoMemory(const PaintJob& job, std::string& bytes) {
       job.format == PaintFormat::Pdf ? PaintPdf(job, buffer) : PaintPng(job, buffer);
   bytes = buffer.data().toStdString();
   if (job.format == PaintFormat::Pdf && error.empty()) {
-    bytes = Described(std::move(bytes), {kProgram, job.subject, "en"});
+    bytes = Described(std::move(bytes), {Creator(), job.subject, "en"});
   }
   return error;
 }

@@ -272,5 +272,29 @@ TEST(Deflections, CantileverLoadsOutsideTheMember) {
   EXPECT_NEAR(d.DeflZ[50], kK * 10 * (1.5 * 1.5 / 2 - 1.5 * 7.5), 1e-5);
 }
 
+// A length below 0 stands in files alone: stations lie at x <= 0, ahead of every load, so that the
+// left branch covers them: b = L - a, K*P*L*b*x/6 * (1 - (b/L)^2 - (x/L)^2).
+TEST(Deflections, PointLoadOnANegativeLengthTakesItsLeftBranch) {
+  ProjectState st = BareMember(0, -6);
+  st.P[1] = 10;
+  st.x_P[1] = 2;
+  const Deflections d = Deflected(st);
+  const double L = -6;
+  const double b = L - 2;
+  const double x = L / 2;
+  const double expected = kK * 10 * L * b * x / 6 * (1 - b * b / (L * L) - 0.25);
+  ASSERT_GT(std::fabs(expected), 1);
+  EXPECT_NEAR(d.DeflZ[25], expected, 1e-4 * std::fabs(expected));
+}
+
+TEST(Deflections, LessThanAThousandthOfAMillimetreHasNoRatio) {
+  EXPECT_EQ(LengthOverDeflection(6, 12, -3), 500);
+  EXPECT_EQ(LengthOverDeflection(6, 3, -12), 500);
+  EXPECT_EQ(LengthOverDeflection(-6, 12, 0), 500);
+  EXPECT_EQ(LengthOverDeflection(6, 0.00099, 0), 0);
+  EXPECT_NEAR(LengthOverDeflection(6, 0, -0.001), 6E6, 1);
+  EXPECT_EQ(LengthOverDeflection(6, 0, 0), 0);
+}
+
 }  // namespace
 }  // namespace korvane

@@ -43,6 +43,29 @@ TEST(Cautions, ClassOfAHoggingWebGoesByTheShareInTension) {
   EXPECT_FALSE(Find(VerdictAfterTwo(d), NoteCode::ClassByTensionSide));
 }
 
+/// Flat 400 x 6 under a plate 200 x 10: hogging, 400/6 is of class 4. The strip of width w off its
+/// tip counts with tw*w*w/2 in place of tw*w*w*w/4 about its own edge.
+TEST(Cautions, StripTakenOffASlenderFlat) {
+  Design d = StartedDesign(51);
+  d.st.LateralTorsionalBuckling = 0;
+  d.st.p51_b = 200;
+  d.st.p51_h = 400;
+  d.st.p51_tw = 6;
+  EndForces(d, 0, -20, 0, 0, 0);
+  const Verdict v = VerdictAfterTwo(d);
+  const Note* note = Find(v, NoteCode::StripOfFlat);
+  ASSERT_TRUE(note);
+  EXPECT_LT(note->v[1], note->v[0]);
+  EXPECT_NEAR(note->v[2], 20 / note->v[1], 1e-9);
+  EXPECT_GT(note->v[2], MaxIR(d.checks));
+  EXPECT_TRUE(Has(Text(d, v, NoteCode::StripOfFlat), "with the whole strip"));
+  d.st.p51_tw = 30;  // class 1 to 3: nothing is taken off
+  EXPECT_FALSE(Find(VerdictAfterTwo(d), NoteCode::StripOfFlat));
+  d.st.p51_tw = 6;
+  EndForces(d, 0, 20, 0, 0, 0);  // sagging: the tip is in tension
+  EXPECT_FALSE(Find(VerdictAfterTwo(d), NoteCode::StripOfFlat));
+}
+
 TEST(Cautions, OutstandsOfABoxBeyondFourteenEpsilon) {
   Design d = StartedDesign(23);
   d.st.p23_tf = 8;

@@ -16,7 +16,8 @@ const auto kNeverBreaks = [](const std::string&) { return false; };
 const auto kAlwaysBreaks = [](const std::string&) { return true; };
 
 CheckLine Line(const std::string& label, int colour = 2) {
-  return {label + ":", "IR = " + label + " = ", "1.0/2.0 = ", "0.50", "  <  1.00 (Ch 1)", colour};
+  return {label + ":", "IR = " + label + " = ", "1.0/2.0 = ", "0.50", "  <  1.00 (Ch 1)", 0.5,
+          colour};
 }
 
 /// The texts of a line, one after the other.

@@ -209,6 +209,21 @@ TEST(Verdict, UnknownSeriesAndSupportAreNotChecked) {
   EXPECT_TRUE(Find(VerdictOf(d), NoteCode::UnknownSupport));
 }
 
+/// No dimension step runs, so no new name stands either.
+TEST(Verdict, UnknownSeriesHasNoNameOfItsOwn) {
+  for (const int code : {101, 103}) {
+    Design d = StartedDesign(1);
+    Calculate(d);
+    const SectionRecord before = d.rec;
+    d.st.ProfileType = code;
+    (code == 101 ? d.st.p101_sub : d.st.p103_sub) = 9;
+    VerdictAfter(d);
+    EXPECT_EQ(double(d.rec.h), double(before.h));
+    EXPECT_EQ(double(d.rec.A), double(before.A));
+    EXPECT_EQ(SectionTitle(d.st, d.lib->catalogues), "") << code;
+  }
+}
+
 TEST(Verdict, ForcesThatTheControlDoesNotReadAreNotChecked) {
   Design d = StartedDesign(22);
   d.st.q2 = 10000;  // 12,000 kN/m with its factor: 37,500 kNm on 5 m
@@ -440,6 +455,49 @@ TEST(Verdict, HiddenBucklingLinesAreTold) {
   const Verdict v = VerdictAfter(d);
   EXPECT_EQ(v.hidden, Find(v, NoteCode::GoverningHidden) != nullptr);
   EXPECT_TRUE(v.hidden) << GoverningLabel(v);
+}
+
+/// The single symmetric I: the line with the lateral factor takes the place of the one about y,
+/// whose ratio then governs in no line.
+TEST(Verdict, RatioAboutYThatItsLineLostGoverns) {
+  Design d = StartedDesign(22);
+  d.st.L = 12;
+  d.st.BucklingCaseZ = 4;
+  d.st.blz = 0.2;
+  d.st.LateralTorsionalBuckling = 1;
+  d.st.LtbSegments = 8;
+  double over = 0;
+  for (int N = 100; N < 4000 && over == 0; N += 50) {
+    EndForces(d, N, 60, 0, 0, 0);
+    Verdict v = VerdictAfter(d);
+    if (v.governing == Governing::CombinedY && v.IR > d.st.iufa) over = v.IR;
+  }
+  ASSERT_GT(over, 1);
+  EXPECT_LT(double(d.checks.IRcombinedZ), 1);
+  EXPECT_EQ(d.checks.lineBucklingZ.colour, kGreen);
+  const Verdict v = VerdictOf(d);
+  EXPECT_EQ(v.standing, Standing::Fails);
+  EXPECT_TRUE(v.hidden);
+  EXPECT_TRUE(Find(v, NoteCode::GoverningHidden));
+}
+
+TEST(Verdict, LengthOfNothingIsNotChecked) {
+  Design d = StartedDesign(1);
+  d.st.L = -3;
+  EXPECT_TRUE(Find(VerdictAfter(d), NoteCode::LengthNotPositive));
+  EXPECT_NE(VerdictOf(d).standing, Standing::Passes);
+  d.st.L = 3;
+  EXPECT_FALSE(Find(VerdictAfter(d), NoteCode::LengthNotPositive));
+}
+
+/// Only a file can hold a limit that the form refuses.
+TEST(Verdict, UsageLimitThatNoFormTakesIsACaution) {
+  Design d = StartedDesign(1);
+  d.st.iufa = 5;
+  const Verdict v = VerdictAfter(d);
+  EXPECT_TRUE(Has(Text(d, v, NoteCode::UsageLimit), "5.00 lies outside 0.3 to 2.0"));
+  d.st.iufa = 2;
+  EXPECT_FALSE(Find(VerdictAfter(d), NoteCode::UsageLimit));
 }
 
 // --- Codes --------------------------------------------------------------------------------------
