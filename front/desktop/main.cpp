@@ -18,6 +18,7 @@
 #include "front/desktop/main_window.h"
 #include "front/desktop/own_folder.h"
 #include "front/desktop/screenshots.h"
+#include "front/desktop/system_look.h"
 #include "front/desktop/theme.h"
 #include "front/locale.h"
 #include "front/named_session.h"
@@ -165,8 +166,10 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "korvane: %s\n", qPrintable(error));
     return kWrongArguments;
   }
+  korvane::PrepareLook();
   QApplication app(argc, argv);
   parser.process(app);
+  korvane::ChooseLetters();
   korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
   LeaveFailuresToUs();
   try {

@@ -3,7 +3,6 @@
 
 #include <QBuffer>
 #include <QContextMenuEvent>
-#include <QFile>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QMenu>
@@ -11,9 +10,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
-#include <QSvgGenerator>
 
 #include "core/files.h"
+#include "front/desktop/svg_paper.h"
 #include "front/desktop/theme.h"
 #include "front/painter/painter_target.h"
 #include "presentation/figures.h"
@@ -82,26 +81,28 @@ void Pane::contextMenuEvent(QContextMenuEvent* event) {
   menu.exec(event->globalPos());
 }
 
+std::string Pane::AsSvg() {
+  SvgPaper paper(size());
+  render(&paper);
+  return paper.Document();
+}
+
+std::string Pane::AsPng() {
+  QPixmap picture(size() * 2);
+  picture.setDevicePixelRatio(2);
+  render(&picture);
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  picture.save(&bytes, "PNG");
+  return bytes.data().toStdString();
+}
+
 void Pane::Export(bool vector) {
   const QString ending = vector ? QStringLiteral("svg") : QStringLiteral("png");
   const QString path = QFileDialog::getSaveFileName(
       this, QString(), ExportName() + QStringLiteral(".") + ending, QStringLiteral("*.") + ending);
   if (path.isEmpty()) return;
-  QBuffer bytes;
-  bytes.open(QIODevice::WriteOnly);
-  if (vector) {
-    QSvgGenerator generator;
-    generator.setOutputDevice(&bytes);
-    generator.setSize(size());
-    generator.setViewBox(rect());
-    render(&generator);
-  } else {
-    QPixmap picture(size() * 2);
-    picture.setDevicePixelRatio(2);
-    render(&picture);
-    picture.save(&bytes, "PNG");
-  }
-  const WriteResult written = WriteFile(path.toStdString(), bytes.data().toStdString());
+  const WriteResult written = WriteFile(path.toStdString(), vector ? AsSvg() : AsPng());
   if (written) return;
   QMessageBox::warning(this, QString(),
                        tr("The picture could not be written to\n%1").arg(path) + QLatin1Char('\n') +

@@ -22,6 +22,9 @@ public:
   virtual void Refresh() { update(); }
   /// A paled pane shows that what it draws doesn't hold at present.
   void SetPaled(bool paled);
+  /// The pane as a picture: its document with text as text, or twice its size in pixels.
+  std::string AsSvg();
+  std::string AsPng();
 
 signals:
   void Clicked();
