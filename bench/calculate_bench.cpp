@@ -8,7 +8,7 @@
 #include "bench/summary.h"
 #include "bench/workloads.h"
 #include "front/console/batch.h"
-#include "front/console/design_json.h"
+#include "front/design_json.h"
 
 namespace korvane {
 namespace {

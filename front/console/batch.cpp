@@ -14,10 +14,10 @@
 #include "core/file_path.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
-#include "front/console/in_order.h"
 #include "front/console/run_design.h"
 #include "front/console/stop_signal.h"
 #include "front/console/terminal.h"
+#include "studies/in_order.h"
 
 namespace korvane {
 namespace {

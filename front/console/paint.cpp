@@ -15,12 +15,11 @@
 #include "front/console/run_design.h"
 #include "front/console/terminal.h"
 #include "front/data_folder.h"
+#include "front/painter/drawing_job.h"
+#include "front/painter/paint_files.h"
 #include "front/painter/report_job.h"
+#include "front/painter/svg_page.h"
 #include "front/system.h"
-#include "presentation/aprint.h"
-#include "presentation/figures.h"
-#include "presentation/grafik.h"
-#include "presentation/svg_target.h"
 
 namespace korvane {
 
@@ -102,9 +101,7 @@ int Prepare(const Arguments& a, Design& design, std::string* bytes = nullptr) {
 /// One page in its format. Returns an empty text, or what went wrong.
 std::string PaintPage(const PaintJob& job, Format format, std::size_t page, std::string& bytes) {
   if (format == Format::Svg) {
-    SvgTarget target(job.width, job.height, job.title, Palette::Light());
-    job.pages.at(page)(target);
-    bytes = target.Document();
+    bytes = SvgPage(job, page);
     return {};
   }
   PaintJob one = job;
@@ -152,121 +149,27 @@ int Finish(const PaintJob& job, const Arguments& a, Format onStandardOutput) {
   return kAllPass;
 }
 
-/// The sheets behind a word.
-struct Sheets {
-  const char* word;
-  std::vector<Report> reports;
-};
-
-const std::vector<Sheets>& AllSheets() {
-  using enum Report;
-  static const std::vector<Sheets> all{
-      {"section", {SectionProperty}},
-      {"control", {SectionAndStability}},
-      {"checker", {Checker}},
-      {"both", {SectionProperty, SectionAndStability}},
-      {"all", {SectionProperty, SectionAndStability, Checker}},
-  };
-  return all;
-}
-
-const std::vector<Report>& ReportsOf(const std::string& kind) {
-  const auto& all = AllSheets();
-  return std::find_if(all.begin(), all.end(), [&](const Sheets& s) { return kind == s.word; })
-      ->reports;
-}
-
 int RunReport(const Arguments& a) {
   Design design = StartedDesign(ReadLibrary(FindDataFolder(a.data)));
   std::string bytes;
   if (const int status = Prepare(a, design, &bytes)) return status;
   const std::string name =
       a.file == kStandardStream ? "project.kvn" : FileName(FilePath(a.file).filename());
-  const PaintJob job = ReportJob(design, ReportsOf(a.kind), Now(), {name, std::move(bytes)});
+  const PaintJob job =
+      ReportJob(design, FindSheets(a.kind)->reports, Now(), {name, std::move(bytes)});
   if (const int status = Finish(job, a, Format::Pdf)) return status;
   return StatusOf(VerdictOf(design));
 }
 
-/// What can be drawn, and the diagrams behind a word.
-struct Drawing {
-  const char* word;
-  std::vector<DiagramKind> diagrams;
-};
-
-const std::vector<Drawing>& Drawings() {
-  using K = DiagramKind;
-  static const std::vector<Drawing> all{
-      {"beam", {K::BeamSketch}},
-      {"loads-z", {K::LoadPermZ, K::LoadVarZ}},
-      {"loads-y", {K::LoadPermY, K::LoadVarY}},
-      {"my", {K::MomentShearZ}},
-      {"mz", {K::MomentShearY}},
-      {"dz", {K::DeflectionZ}},
-      {"dy", {K::DeflectionY}},
-      {"axial", {K::AxialPermanent, K::AxialVariable}},
-      {"section", {}},
-  };
-  return all;
-}
-
-/// In end-force mode moments and the axial force have diagrams of their own.
-std::vector<DiagramKind> ForMode(std::vector<DiagramKind> kinds, bool loads) {
-  if (loads) return kinds;
-  using K = DiagramKind;
-  if (kinds.front() == K::MomentShearZ) return {K::EndMomentZ};
-  if (kinds.front() == K::MomentShearY) return {K::EndMomentY};
-  if (kinds.front() == K::AxialPermanent) return {K::AxialForce};
-  return kinds;
-}
-
-/// Whether a word asks for what only loads have: end forces give no loads and no deflections.
-bool NeedsLoads(const Drawing& drawing) {
-  using K = DiagramKind;
-  constexpr std::array kinds{K::LoadPermZ, K::LoadPermY, K::DeflectionZ, K::DeflectionY};
-  return !drawing.diagrams.empty() &&
-         std::find(kinds.begin(), kinds.end(), drawing.diagrams.front()) != kinds.end();
-}
-
 int RunDraw(const Arguments& a) {
-  const auto& all = Drawings();
-  const auto drawing =
-      std::find_if(all.begin(), all.end(), [&](const Drawing& d) { return a.what == d.word; });
+  const Drawing& drawing = *FindDrawing(a.what);
   Design design = StartedDesign(ReadLibrary(FindDataFolder(a.data)));
   if (const int status = Prepare(a, design)) return status;
-  if (design.st.AnalysisMode != 1 && NeedsLoads(*drawing)) {
-    std::cerr << "no " << (a.what.front() == 'd' ? "deflections" : "loads")
-              << " to draw: the project gives end forces - " << NameOnErrors(a.file) << "\n";
+  if (const auto why = WhyNotDrawn(drawing, design.st); !why.empty()) {
+    std::cerr << why << " - " << NameOnErrors(a.file) << "\n";
     return kBadInput;
   }
-  PaintJob job;
-  job.title = "KORVANE - " + a.what + " - " + design.st.iproj;
-  const DiagramStyle style;
-  const DiagramData data{design.st, design.beam, design.deflections, design.forces.N};
-  constexpr double margin = 12;  // points on all sides
-  if (drawing->diagrams.empty()) {
-    job.width = 320;
-    job.height = 320;
-    job.pages.emplace_back([&](DrawingTarget& t) {
-      DrawSectionFigure(t, Box{margin, margin, job.width - margin, job.height - margin},
-                        Destination::Page, design.st, design.rec, FigureOptions{});
-    });
-    return Finish(job, a, Format::Svg);
-  }
-  constexpr double scale = 6;  // points per grid unit
-  const auto kinds = ForMode(drawing->diagrams, design.st.AnalysisMode == 1);
-  job.width = kPictureWidth * scale + 2 * margin;
-  job.height = 2 * margin;
-  for (const DiagramKind kind : kinds) job.height += DiagramHeight(kind, data, style) * scale;
-  job.pages.emplace_back([&](DrawingTarget& t) {
-    double top = margin;
-    for (const DiagramKind kind : kinds) {
-      const double height = DiagramHeight(kind, data, style) * scale;
-      DrawDiagramIn(t, kind, Box{margin, top, job.width - margin, top + height}, Destination::Page,
-                    data, style);
-      top += height;
-    }
-  });
-  return Finish(job, a, Format::Svg);
+  return Finish(DrawingJob(design, drawing), a, Format::Svg);
 }
 
 }  // namespace
@@ -298,7 +201,7 @@ void AddPaintCommands(CLI::App& app, int& status) {
   CLI::App* draw = app.add_subcommand("draw", "write a diagram or the section's figure");
   common(draw);
   std::vector<std::string> words;
-  for (const Drawing& d : Drawings()) words.emplace_back(d.word);
+  for (const Drawing& d : AllDrawings()) words.emplace_back(d.word);
   draw->add_option("--what", a->what, "what to draw")->required()->check(CLI::IsMember(words));
   draw->callback([a, &status] { status = RunDraw(*a); });
 }

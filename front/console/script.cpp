@@ -6,10 +6,10 @@
 #include <cstdlib>
 #include <deque>
 
-#include "front/console/design_json.h"
 #include "front/console/exit_status.h"
-#include "front/console/nearest.h"
+#include "front/design_json.h"
 #include "front/named_session.h"
+#include "front/nearest.h"
 
 namespace korvane {
 

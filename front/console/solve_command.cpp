@@ -6,10 +6,10 @@
 
 #include "core/text.h"
 #include "front/console/exit_status.h"
-#include "front/console/json_writer.h"
-#include "front/console/nearest.h"
 #include "front/console/studies.h"
 #include "front/console/terminal.h"
+#include "front/json_writer.h"
+#include "front/nearest.h"
 #include "studies/member.h"
 #include "studies/solve.h"
 

@@ -14,11 +14,11 @@
 #include "core/supports.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
-#include "front/console/in_order.h"
 #include "front/console/stop_signal.h"
 #include "front/console/studies.h"
 #include "front/console/table_rows.h"
 #include "front/console/terminal.h"
+#include "studies/in_order.h"
 #include "studies/member.h"
 
 namespace korvane {

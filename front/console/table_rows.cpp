@@ -9,9 +9,9 @@
 #include <set>
 #include <sstream>
 
-#include "front/console/json_writer.h"
-#include "front/console/nearest.h"
 #include "front/console/terminal.h"
+#include "front/json_writer.h"
+#include "front/nearest.h"
 #include "studies/member.h"
 
 namespace korvane {

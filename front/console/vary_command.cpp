@@ -9,13 +9,13 @@
 
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
-#include "front/console/in_order.h"
-#include "front/console/nearest.h"
 #include "front/console/stop_signal.h"
 #include "front/console/studies.h"
 #include "front/console/table_rows.h"
 #include "front/console/terminal.h"
+#include "front/nearest.h"
 #include "studies/all_sections.h"
+#include "studies/in_order.h"
 #include "studies/member.h"
 
 namespace korvane {

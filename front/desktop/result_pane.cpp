@@ -100,7 +100,7 @@ void ResultPane::Measure() {
   FitLetters();
   bars_ = 0;
   for (const ViewLine& line : view_) {
-    if (HasRatio(line)) bars_ = std::max(bars_, WidthOf(line));
+    if (ValueOf(line) != nullptr) bars_ = std::max(bars_, WidthOf(line));
   }
   bars_ += Ems(this, 1.2);
   double widest = 0;

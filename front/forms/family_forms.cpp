@@ -104,7 +104,8 @@ struct FormLabel {
   SectionControlKind of = SectionControlKind::None;  ///< of the families; None: whoever shows it
 };
 constexpr FormLabel kFormLabels[] = {
-    {"Ncrd", "Ncd =", {}},
+    {"Ncrd", "Ncd =", {}, SectionControlKind::EqualAngle},
+    {"Ncrd", "Ncd =", {}, SectionControlKind::UnequalAngle},
     {"Vdz", "Vzd =", {}, SectionControlKind::UnequalAngle},
     {"Vdy", "Vyd =", {}, SectionControlKind::UnequalAngle},
     {"Ntd", "Ntrd =", {}, SectionControlKind::T},

@@ -3,10 +3,40 @@
 // PDF.
 #pragma once
 
+#include <algorithm>
+#include <span>
+#include <string_view>
+
 #include "front/painter/paint_files.h"
 #include "presentation/aprint.h"
 
 namespace korvane {
+
+/// The sheets behind a word of the command line.
+struct Sheets {
+  const char* word;
+  std::vector<Report> reports;
+};
+
+inline std::span<const Sheets> AllSheets() {
+  using enum Report;
+  static const std::vector<Sheets> all{
+      {"section", {SectionProperty}},
+      {"control", {SectionAndStability}},
+      {"checker", {Checker}},
+      {"both", {SectionProperty, SectionAndStability}},
+      {"all", {SectionProperty, SectionAndStability, Checker}},
+  };
+  return all;
+}
+
+/// The sheets of a word, or nullptr.
+inline const Sheets* FindSheets(std::string_view word) {
+  const auto all = AllSheets();
+  const auto found =
+      std::find_if(all.begin(), all.end(), [&](const Sheets& s) { return word == s.word; });
+  return found == all.end() ? nullptr : &*found;
+}
 
 /// A project as it goes with its sheets.
 struct AttachedProject {

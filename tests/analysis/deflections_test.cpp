@@ -276,8 +276,8 @@ TEST(Deflections, CantileverLoadsOutsideTheMember) {
 // left branch covers them: b = L - a, K*P*L*b*x/6 * (1 - (b/L)^2 - (x/L)^2).
 TEST(Deflections, PointLoadOnANegativeLengthTakesItsLeftBranch) {
   ProjectState st = BareMember(0, -6);
-  st.P[1] = 10;
-  st.x_P[1] = 2;
+  st.pm[1] = 10;
+  st.pmx[1] = 2;
   const Deflections d = Deflected(st);
   const double L = -6;
   const double b = L - 2;

@@ -461,7 +461,7 @@ TEST(Verdict, HiddenBucklingLinesAreTold) {
 /// whose ratio then governs in no line.
 TEST(Verdict, RatioAboutYThatItsLineLostGoverns) {
   Design d = StartedDesign(22);
-  d.st.L = 12;
+  d.st.L = 20;
   d.st.BucklingCaseZ = 4;
   d.st.blz = 0.2;
   d.st.LateralTorsionalBuckling = 1;

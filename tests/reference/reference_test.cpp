@@ -10,8 +10,8 @@
 #include <regex>
 #include <string>
 
-#include "front/console/design_json.h"
 #include "front/console/run_design.h"
+#include "front/design_json.h"
 #include "places.h"
 #include "tests/support/source_library.h"
 

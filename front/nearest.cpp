@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "front/console/nearest.h"
+#include "front/nearest.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "front/console/json_writer.h"
+#include "front/json_writer.h"
 
 #include <algorithm>
 #include <array>

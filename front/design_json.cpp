@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "front/console/design_json.h"
+#include "front/design_json.h"
 
 #include "core/input_fields.h"
-#include "front/console/json_writer.h"
+#include "front/json_writer.h"
 #include "sections/profile_table.h"
 #include "sections/section_fields.h"
 

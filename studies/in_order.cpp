@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "front/console/in_order.h"
+#include "studies/in_order.h"
 
 #include <algorithm>
 #include <system_error>
