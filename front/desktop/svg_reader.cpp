@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 #include <utility>
 
@@ -13,18 +14,11 @@ namespace {
 
 /// The numbers of an attribute, whatever stands between them.
 QList<double> Numbers(QStringView text) {
+  static const QRegularExpression number(
+      QStringLiteral("[-+]?(\\d+\\.?\\d*|\\.\\d+)(e[-+]?\\d+)?"));
   QList<double> numbers;
-  qsizetype at = 0;
-  const auto isPart = [&](qsizetype i) {
-    const QChar c = text[i];
-    return c.isDigit() || c == u'.' || c == u'-' || c == u'+' || c == u'e';
-  };
-  while (at < text.size()) {
-    qsizetype end = at;
-    while (end < text.size() && isPart(end)) ++end;
-    if (end > at) numbers << text.mid(at, end - at).toDouble();
-    at = std::max(end, at + 1);
-  }
+  for (auto it = number.globalMatch(text); it.hasNext();)
+    numbers << it.next().capturedView().toDouble();
   return numbers;
 }
 

@@ -17,7 +17,7 @@
 namespace korvane {
 namespace {
 
-constexpr int kWidth = 600;
+constexpr int kWidth = 400;
 
 QImage Blank(QSizeF size) {
   QImage image(kWidth, static_cast<int>(kWidth * size.height() / size.width()),
@@ -100,8 +100,8 @@ TEST(SvgDrawing, HandsAGroupsPropertiesOn) {
       "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 20 10'>"
       "<g fill='#ff0000'><g transform='translate(10 0)'><rect width='10' height='10'/></g>"
       "<path fill='#0000ff' d='M0 0L10 0L10 10L0 10Z'/></g></svg>");
-  EXPECT_EQ(image.pixelColor(100, 100), QColor(Qt::blue));
-  EXPECT_EQ(image.pixelColor(500, 100), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(100, 50), QColor(Qt::blue));
+  EXPECT_EQ(image.pixelColor(300, 50), QColor(Qt::red));
 }
 
 TEST(SvgPaper, WritesWhatIsPaintedOnIt) {
