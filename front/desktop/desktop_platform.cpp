@@ -2,22 +2,20 @@
 #include "front/desktop/desktop_platform.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QDateTime>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPainter>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QSettings>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/files.h"
 #include "core/project_file.h"
 #include "front/desktop/own_folder.h"
+#include "front/desktop/print_choice.h"
 #include "front/painter/paint_files.h"
 #include "front/painter/painter_target.h"
 #include "front/painter/report_job.h"
@@ -95,23 +93,6 @@ void DesktopPlatform::Beep() {
 
 namespace {
 
-/// A tab of the print dialog for what this program prints.
-class SheetsTab : public QWidget {
-public:
-  explicit SheetsTab(bool withChecker) : box_(new QCheckBox(tr("with checker's sheet"), this)) {
-    setWindowTitle(tr("Sheets"));
-    box_->setObjectName(QStringLiteral("withchecker"));
-    box_->setChecked(withChecker);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(box_);
-    layout->addStretch();
-  }
-  bool WithChecker() const { return box_->isChecked(); }
-
-private:
-  QCheckBox* box_;
-};
-
 /// The project that the design is of: the file itself where the design comes from it as it stands
 /// on disk, else the text of the state.
 AttachedProject ProjectOf(const Design& design) {
@@ -136,12 +117,7 @@ AttachedProject ProjectOf(const Design& design) {
 std::optional<PrintJob> DesktopPlatform::AskPrint() {
   printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer_->setPageSize(QPageSize(QPageSize::A4));
-  QPrintDialog dialog(printer_.get(), Owner());
-  // The dialog takes the tab for its own.
-  auto* sheets = new SheetsTab(withChecker_);
-  dialog.setOptionTabs({sheets});
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  withChecker_ = sheets->WithChecker();
+  if (!AskForPrinter(*printer_, withChecker_, Owner())) return std::nullopt;
   return PrintJob{printer_->copyCount()};
 }
 

@@ -23,11 +23,15 @@ bool SystemIsDark() {
 
 void ChooseLetters() {
   QFont letters = QApplication::font();
-  letters.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Tahoma"),
-                       QStringLiteral("Arial"), QStringLiteral("Liberation Sans"),
-                       QStringLiteral("DejaVu Sans")});
+  letters.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Arial"),
+                       QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")});
   letters.setStyleHint(QFont::SansSerif);
   QApplication::setFont(letters);
+  // The system names letters of their own for these.
+  for (const char* kind : {"QMenu", "QMenuBar", "QMessageBox", "QTipLabel", "QStatusBar",
+                           "QTitleBar", "QMdiSubWindowTitleBar", "QDockWidgetTitle"}) {
+    QApplication::setFont(letters, kind);
+  }
 }
 
 }  // namespace korvane

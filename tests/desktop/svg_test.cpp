@@ -153,5 +153,37 @@ TEST(SvgPaper, KeepsTextAsTextWhateverItHolds) {
   EXPECT_EQ(size, 12);
 }
 
+/// The icons of the programs for Windows are painted from the drawings by tools/make_icon.
+TEST(WindowsIcons, ShowTheDrawingsInAllSizes) {
+  const QString packaging = QStringLiteral(KORVANE_SOURCE_DIR "/packaging/");
+  for (const auto& [drawing, icon] :
+       {std::pair("korvane", "korvane"), std::pair("application-x-korvane-project", "project")}) {
+    const QByteArray file = ContentOf(packaging + QStringLiteral("windows/") + QLatin1String(icon) +
+                                      QStringLiteral(".ico"));
+    QSvgRenderer svg(packaging + QStringLiteral("icons/") + QLatin1String(drawing) +
+                     QStringLiteral(".svg"));
+    ASSERT_GT(file.size(), 6) << icon;
+    const auto number = [&](qsizetype at, int bytes) {
+      quint32 value = 0;
+      for (int i = bytes - 1; i >= 0; --i) value = value << 8U | quint8(file[at + i]);
+      return value;
+    };
+    const auto count = static_cast<int>(number(4, 2));
+    EXPECT_EQ(count, 8) << icon;
+    for (int entry = 0; entry < count; ++entry) {
+      const qsizetype at = 6 + 16 * entry;
+      const QImage shown = QImage::fromData(file.mid(number(at + 12, 4), number(at + 8, 4)), "PNG");
+      const int size = number(at, 1) == 0 ? 256 : static_cast<int>(number(at, 1));
+      ASSERT_EQ(shown.size(), QSize(size, size)) << icon;
+      QImage drawn(shown.size(), QImage::Format_ARGB32);
+      drawn.fill(Qt::transparent);
+      QPainter painter(&drawn);
+      svg.render(&painter);
+      painter.end();
+      EXPECT_LT(Difference(shown, drawn), 0.01) << icon << size;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace korvane
