@@ -382,13 +382,18 @@ bool IsText(const InputField& field) {
   return std::holds_alternative<std::string S::*>(field.member);
 }
 
-double ReadInput(const S& st, const InputRef& input) {
+double StoredInput(const S& st, const InputRef& input) {
   double value = 0;
   WithElement(st, input, [&value](const auto& element) {
     if constexpr (!std::is_same_v<std::remove_cvref_t<decltype(element)>, std::string>) {
       value = element;
     }
   });
+  return value;
+}
+
+double ReadInput(const S& st, const InputRef& input) {
+  const double value = StoredInput(st, input);
   return IsRelative(st, input) ? value / st.L : value;
 }
 

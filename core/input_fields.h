@@ -55,6 +55,9 @@ bool IsText(const InputField& field);
 /// The number of an input in its unit, a position as x/L while its flag says so; 0 for a text.
 double ReadInput(const ProjectState& st, const InputRef& input);
 
+/// The number of an input as the record holds it, a position in m: what PutInput stores.
+double StoredInput(const ProjectState& st, const InputRef& input);
+
 /// Stores a number as the record holds it, a position in m, and tests nothing. Throws
 /// ArithmeticFault for a value that the field can't hold.
 void PutInput(ProjectState& st, const InputRef& input, double value);

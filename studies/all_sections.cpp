@@ -18,7 +18,7 @@ std::vector<CatalogueSize> MakeSizes() {
     for (const FamilyCatalogue& catalogue : family.catalogues) {
       for (int row = 0; row < ListLength(catalogue.cat); ++row) {
         sizes.push_back({&family, &catalogue, row, false});
-        if (CanBeTurned(catalogue)) sizes.push_back({&family, &catalogue, row, true});
+        if (CanBeTurned(catalogue.cat)) sizes.push_back({&family, &catalogue, row, true});
       }
     }
   }
@@ -33,18 +33,6 @@ std::string TurnedName(const std::string& name) {
   if (second == std::string::npos) return name;
   return name.substr(0, digit) + name.substr(first + 1, second - first - 1) + "x" +
          name.substr(digit, first - digit) + name.substr(second);
-}
-
-/// Names without the blank that stands for the sign of each number.
-std::string NameOf(const ProjectState& st, const CatalogueSize& size, const Catalogues& cat) {
-  std::string name = SectionTitle(st, cat);
-  for (std::size_t at = name.find("x "); at != std::string::npos; at = name.find("x ", at)) {
-    name.erase(at + 1, 1);
-  }
-  for (std::size_t at = name.find("  "); at != std::string::npos; at = name.find("  ", at)) {
-    name.erase(at, 1);
-  }
-  return size.turned ? TurnedName(name) : name;
 }
 
 }  // namespace
@@ -66,6 +54,32 @@ ProjectState WithSize(const ProjectState& member, const CatalogueSize& size) {
   return st;
 }
 
+std::vector<std::string> NamesOfSeries(std::string_view word, const Catalogues& cat) {
+  const std::string wanted = SectionKey(word);
+  std::vector<std::string> names;
+  ProjectState st;
+  for (const CatalogueSize& size : AllSizes()) {
+    if (size.turned || size.family->titled > 0 || SectionKey(SeriesWord(size)) != wanted) continue;
+    TakeSize(size, st);
+    names.push_back(SectionTitle(st, cat));
+  }
+  return names;
+}
+
+std::string SectionName(const ProjectState& st, const Catalogues& cat) {
+  std::string name = SectionTitle(st, cat);
+  // The blank that stands for the sign of each number.
+  for (std::size_t at = name.find("x "); at != std::string::npos; at = name.find("x ", at)) {
+    name.erase(at + 1, 1);
+  }
+  for (std::size_t at = name.find("  "); at != std::string::npos; at = name.find("  ", at)) {
+    name.erase(at, 1);
+  }
+  const SizeList list = SizesOf(st);
+  const bool turned = list.hasCatalogue && CanBeTurned(list.catalogue) && st.RhsOrientation == 0;
+  return turned ? TurnedName(name) : name;
+}
+
 SizeResult DesignSize(const Design& started, const ProjectState& member, const CatalogueSize& size,
                       Design& work) {
   SizeResult result;
@@ -73,7 +87,7 @@ SizeResult DesignSize(const Design& started, const ProjectState& member, const C
   const ProjectState input = WithSize(member, size);
   const MemberRun run = DesignMember(started, input, work, Lines::None);
   const Verdict verdict = VerdictOf(work);
-  result.name = NameOf(input, size, work.lib->catalogues);
+  result.name = SectionName(input, work.lib->catalogues);
   result.standing = verdict.standing;
   result.sls = verdict.sls;
   result.h = work.rec.h.Single();

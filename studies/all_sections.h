@@ -5,6 +5,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "checks/verdict.h"
@@ -20,6 +21,14 @@ std::span<const CatalogueSize> AllSizes();
 /// The word that a catalogue is chosen by: that of the optimiser's series ("HEA", "CFRHS"), of the
 /// sub-family ("UB"), else of the family ("L-equal", "J", "Plate + L").
 std::string SeriesWord(const CatalogueSize& size);
+
+/// The sizes of a series by their names, in their order; none where no series has that word, in
+/// whatever case, and of sections whose name takes dimensions too.
+std::vector<std::string> NamesOfSeries(std::string_view word, const Catalogues& cat);
+
+/// The name of the section in force as SectionNames takes it: single blanks alone, a turned section
+/// with its dimensions exchanged. Empty where the family is unknown.
+std::string SectionName(const ProjectState& st, const Catalogues& cat);
 
 /// A size with the member's results.
 struct SizeResult {

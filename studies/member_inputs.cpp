@@ -140,7 +140,7 @@ struct Cells {
   std::span<const InputCell> cells;
   bool Has(InputMember member) const {
     return std::any_of(cells.begin(), cells.end(), [&](const InputCell& cell) {
-      return !cell.text.empty() && Is(*cell.input, member);
+      return cell.IsGiven() && Is(*cell.input, member);
     });
   }
 };
@@ -156,13 +156,25 @@ void FollowCase(const Cells& cells, float32 S::*factor, int16 S::*bucklingCase, 
   }
 }
 
-std::string In(const MemberInput& input, std::string_view message) {
-  const auto first = message.find_first_not_of(' ');
-  const auto last = message.find_last_not_of(' ');
-  return "column " + input.name + ": " + std::string(message.substr(first, last - first + 1));
+RefusedInput In(const MemberInput& input, std::string message) {
+  return {input.name, std::move(message)};
+}
+
+/// The number of a cell; nothing where its text is none.
+std::optional<double> NumberOf(const InputCell& cell, bool decimalComma) {
+  if (cell.number) return cell.number;
+  const bool single = cell.input->ref.field != nullptr && IsSingle(*cell.input->ref.field);
+  return NumberOf(cell.text, decimalComma, single);
 }
 
 }  // namespace
+
+std::string RefusedInput::InColumn(std::optional<std::size_t> row) const {
+  const auto first = message.find_first_not_of(' ');
+  const auto last = message.find_last_not_of(' ');
+  return "column " + name + (row ? ", row " + std::to_string(*row) : "") + ": " +
+         message.substr(first, last - first + 1);
+}
 
 std::optional<MemberInput> FindMemberInput(std::string_view name, const ProjectState& st) {
   for (const Word& word : kWords) {
@@ -212,8 +224,8 @@ std::string RangeOf(const MemberInput& input, const ProjectState& st) {
 MemberInputs::MemberInputs(std::shared_ptr<const Library> library)
     : library_(std::move(library)), names_(library_->catalogues) {}
 
-std::optional<std::string> MemberInputs::SetWord(const InputCell& cell, bool decimalComma,
-                                                 ProjectState& st) const {
+std::optional<RefusedInput> MemberInputs::SetWord(const InputCell& cell, bool decimalComma,
+                                                  ProjectState& st) const {
   const std::string text(cell.text);
   switch (cell.input->kind) {
     case InputKind::Section: {
@@ -249,8 +261,8 @@ std::optional<std::string> MemberInputs::SetWord(const InputCell& cell, bool dec
   return std::nullopt;
 }
 
-std::optional<std::string> MemberInputs::Refused(const MemberInput& input,
-                                                 const ProjectState& st) const {
+std::optional<RefusedInput> MemberInputs::Refused(const MemberInput& input,
+                                                  const ProjectState& st) const {
   const Limit limit = LimitOf(st, input.ref);
   const double value = ReadInput(st, input.ref);
   if (!Accepts(limit, value)) return In(input, limit.message);
@@ -269,21 +281,20 @@ std::optional<std::string> MemberInputs::Refused(const MemberInput& input,
   return std::nullopt;
 }
 
-std::optional<std::string> MemberInputs::Set(std::span<const InputCell> cells, bool decimalComma,
-                                             ProjectState& st) const {
+std::optional<RefusedInput> MemberInputs::Put(std::span<const InputCell> cells, bool decimalComma,
+                                              ProjectState& st) const {
   const auto isNumber = [](const InputCell& cell) {
     return cell.input->kind == InputKind::Field || cell.input->kind == InputKind::Loads;
   };
   for (const InputCell& cell : cells) {
-    if (cell.text.empty() || isNumber(cell)) continue;
+    if (!cell.IsGiven() || isNumber(cell)) continue;
     if (auto refused = SetWord(cell, decimalComma, st)) return refused;
   }
   double factor = 1;
   for (const InputCell& cell : cells) {
-    if (cell.text.empty() || !isNumber(cell)) continue;
+    if (!cell.IsGiven() || !isNumber(cell)) continue;
     const bool loads = cell.input->kind == InputKind::Loads;
-    const auto value =
-        NumberOf(cell.text, decimalComma, !loads && IsSingle(*cell.input->ref.field));
+    const auto value = NumberOf(cell, decimalComma);
     if (!value) return In(*cell.input, kUnreadable);
     try {
       loads ? void(factor = *value) : PutInput(st, cell.input->ref, *value);
@@ -296,7 +307,7 @@ std::optional<std::string> MemberInputs::Set(std::span<const InputCell> cells, b
   FollowCase(given, &S::blz, &S::BucklingCaseZ, 6, st);
   FollowCase(given, &S::k_ltb, &S::LateralBucklingCase, 5, st);
   for (const InputCell& cell : cells) {
-    if (cell.text.empty()) continue;
+    if (!cell.IsGiven()) continue;
     if (cell.input->kind == InputKind::Field) {
       if (auto refused = Refused(*cell.input, st)) return refused;
     } else if (cell.input->kind == InputKind::Section) {
@@ -314,17 +325,21 @@ std::optional<std::string> MemberInputs::Set(std::span<const InputCell> cells, b
     try {
       ScaleLoads(factor, st);
     } catch (const ArithmeticFault& fault) {
-      return "column loads: " + std::string(fault.what());
+      return RefusedInput{"loads", fault.what()};
     }
   }
   return std::nullopt;
 }
 
+std::optional<std::string> MemberInputs::Set(std::span<const InputCell> cells, bool decimalComma,
+                                             ProjectState& st) const {
+  const auto refused = Put(cells, decimalComma, st);
+  return refused ? std::optional(refused->InColumn()) : std::nullopt;
+}
+
 std::optional<std::string> MemberInputs::Set(const MemberInput& input, double value,
                                              ProjectState& st) const {
-  std::array<char, 32> text;
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
-  const InputCell cell{&input, {text.data(), static_cast<std::size_t>(end - text.data())}};
+  const InputCell cell{&input, {}, value};
   return Set({&cell, 1}, false, st);
 }
 

@@ -46,10 +46,21 @@ const char* UnitOf(const MemberInput& input);
 /// Accepted values in words, "" for any.
 std::string RangeOf(const MemberInput& input, const ProjectState& st);
 
-/// A cell of a row.
+/// A cell of a row: a text, or a number that was one before. Without either the base's value stays.
 struct InputCell {
   const MemberInput* input = nullptr;
-  std::string_view text;  ///< empty: the base's value stays
+  std::string_view text = {};
+  std::optional<double> number = {};
+  bool IsGiven() const { return number || !text.empty(); }
+};
+
+/// An input that was not taken.
+struct RefusedInput {
+  std::string name;     ///< of the input
+  std::string message;  ///< literal, as the forms show it
+  /// "column q1: ..." without the message's blanks at its ends; with a row "column q1, row 17:
+  /// ...".
+  std::string InColumn(std::optional<std::size_t> row = {}) const;
 };
 
 /// What the inputs by name need beside the state.
@@ -57,24 +68,28 @@ class MemberInputs {
 public:
   explicit MemberInputs(std::shared_ptr<const Library> library);
 
-  /// Sets the inputs that have a text: the words first, then the fields in their order, as they
+  /// Sets the inputs that are given: the words first, then the fields in their order, as they
   /// stand in a project file (positions in m). What a form sets along with a field is set too,
   /// unless a cell of its own says otherwise: the buckling case of a factor and the factor of a
   /// case; the buckling cases of a support chosen by its words. Then tests what was set against
-  /// the limits that hold for the finished state. Returns nothing, or "column q1: ..." of the
-  /// first that is refused or unreadable.
+  /// the limits that hold for the finished state. Returns nothing, or the first that is refused or
+  /// unreadable; the state then holds a part.
+  std::optional<RefusedInput> Put(std::span<const InputCell> cells, bool decimalComma,
+                                  ProjectState& st) const;
+
+  /// The same with the words of a table, "column q1: ...".
   std::optional<std::string> Set(std::span<const InputCell> cells, bool decimalComma,
                                  ProjectState& st) const;
 
-  /// Sets one number in the same way; the message alone.
+  /// Sets one number in the same way.
   std::optional<std::string> Set(const MemberInput& input, double value, ProjectState& st) const;
 
   const SectionNames& Names() const { return names_; }
 
 private:
-  std::optional<std::string> SetWord(const InputCell& cell, bool decimalComma,
-                                     ProjectState& st) const;
-  std::optional<std::string> Refused(const MemberInput& input, const ProjectState& st) const;
+  std::optional<RefusedInput> SetWord(const InputCell& cell, bool decimalComma,
+                                      ProjectState& st) const;
+  std::optional<RefusedInput> Refused(const MemberInput& input, const ProjectState& st) const;
   std::shared_ptr<const Library> library_;
   SectionNames names_;
 };

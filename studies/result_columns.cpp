@@ -84,6 +84,14 @@ std::string Digits(float value) {
   return {text.data(), end};
 }
 
+double Typed(float value) {
+  std::array<char, 32> text{};
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+  double typed = 0;
+  std::from_chars(text.data(), end, typed);
+  return typed;
+}
+
 std::string CellOf(const ResultColumn& column, const Designed& member) {
   if (member.verdict.standing == Standing::Stopped && !column.always) return {};
   if (column.text != nullptr) return column.text(member);

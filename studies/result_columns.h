@@ -38,6 +38,8 @@ const ResultColumn* FindResultColumn(std::string_view name);
 std::string CellOf(const ResultColumn& column, const Designed& member);
 /// The shortest digits that read back to the same value.
 std::string Digits(float value);
+/// The decimals that stand for a value in single precision, 0.1 for 0.100000001.
+double Typed(float value);
 
 /// x of the greatest deflection L/x along z and along y; none without deflection and with end
 /// forces, which give none.

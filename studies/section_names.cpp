@@ -61,8 +61,8 @@ std::string SectionKey(std::string_view name) {
   return key;
 }
 
-bool CanBeTurned(const FamilyCatalogue& catalogue) {
-  return catalogue.cat == Cat::RHS || catalogue.cat == Cat::CFRHS;
+bool CanBeTurned(Cat catalogue) {
+  return catalogue == Cat::RHS || catalogue == Cat::CFRHS;
 }
 
 void TakeSize(const CatalogueSize& size, ProjectState& st) {
@@ -70,7 +70,7 @@ void TakeSize(const CatalogueSize& size, ProjectState& st) {
   if (size.family->familyWord != nullptr) st.FamilyName = size.family->familyWord;
   if (size.family->sub != nullptr) st.*size.family->sub = size.catalogue->sub;
   st.*size.catalogue->index = size.row;
-  if (CanBeTurned(*size.catalogue)) st.RhsOrientation = size.turned ? 0 : 1;
+  if (CanBeTurned(size.catalogue->cat)) st.RhsOrientation = size.turned ? 0 : 1;
 }
 
 SectionNames::SectionNames(const Catalogues& cat) {
@@ -92,7 +92,7 @@ SectionNames::SectionNames(const Catalogues& cat) {
   // What is no name of its own is a section turned.
   auto turned = sizes_;
   for (const auto& [key, size] : sizes_) {
-    if (!CanBeTurned(*size.catalogue)) continue;
+    if (!CanBeTurned(size.catalogue->cat)) continue;
     CatalogueSize other = size;
     other.turned = true;
     turned.try_emplace(TurnedKey(key), other);

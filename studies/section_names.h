@@ -20,7 +20,7 @@ struct CatalogueSize {
 };
 
 /// Whether a catalogue holds sections that can be turned.
-bool CanBeTurned(const FamilyCatalogue& catalogue);
+bool CanBeTurned(Cat catalogue);
 
 /// Puts a size in force, as the family's form does.
 void TakeSize(const CatalogueSize& size, ProjectState& st);

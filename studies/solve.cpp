@@ -2,7 +2,6 @@
 #include "studies/solve.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 #include "studies/member.h"
@@ -98,10 +97,7 @@ Trial TryValue(const Design& started, const ProjectState& member, const MemberIn
 double PresentValue(const ProjectState& member, const MemberInput& input) {
   if (input.kind == InputKind::Loads) return 1;
   // The decimals that were typed, not those of single precision.
-  const std::string digits = Digits(float32(ReadInput(member, input.ref)).Single());
-  double value = 0;
-  std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  return value;
+  return Typed(float32(StoredInput(member, input.ref)).Single());
 }
 
 void DefaultRange(const ProjectState& member, Question& q) {

@@ -11,14 +11,13 @@
 #include "core/file_path.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
-#include "front/console/painter_module.h"
 #include "front/console/run_design.h"
 #include "front/console/terminal.h"
 #include "front/data_folder.h"
 #include "front/painter/drawing_job.h"
-#include "front/painter/paint_files.h"
 #include "front/painter/report_job.h"
 #include "front/painter/svg_page.h"
+#include "front/painter_module.h"
 #include "front/system.h"
 
 namespace korvane {
@@ -27,16 +26,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Paints through the loadable module. Returns an empty text, or what went wrong.
-std::string PaintByModule(const PaintJob& job, std::string& bytes) {
-  std::string error;
-  if (const PaintEntry paint = LoadPainter(error)) paint(&job, &bytes, &error);
-  return error;
-}
-
-ReportTime Now() {
-  const std::tm local = LocalTime(std::time(nullptr));
-  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min};
+/// Paints through the module beside the program or in the library folder.
+std::string Paint(const PaintJob& job, std::string& bytes) {
+  const fs::path here = ProgramFolder();
+  return PaintByModule(job, {here, here / KORVANE_MODULE_FROM_BIN}, bytes);
 }
 
 struct Arguments {
@@ -107,13 +100,13 @@ std::string PaintPage(const PaintJob& job, Format format, std::size_t page, std:
   PaintJob one = job;
   one.format = PaintFormat::Png;
   one.pages = {job.pages.at(page)};
-  return PaintByModule(one, bytes);
+  return Paint(one, bytes);
 }
 
 /// Paints everything before anything is written: a PDF holds all pages, a picture one.
 std::string PaintAll(const PaintJob& job, Format format, const std::string& output,
                      std::vector<Made>& made) {
-  if (format == Format::Pdf) return PaintByModule(job, made.emplace_back(Made{output, {}}).bytes);
+  if (format == Format::Pdf) return Paint(job, made.emplace_back(Made{output, {}}).bytes);
   const bool several = job.pages.size() > 1;
   for (std::size_t page = 0; page < job.pages.size(); ++page) {
     Made& file = made.emplace_back(Made{several ? PagePath(output, page + 1) : output, {}});
@@ -156,7 +149,7 @@ int RunReport(const Arguments& a) {
   const std::string name =
       a.file == kStandardStream ? "project.kvn" : FileName(FilePath(a.file).filename());
   const PaintJob job =
-      ReportJob(design, FindSheets(a.kind)->reports, Now(), {name, std::move(bytes)});
+      ReportJob(design, FindSheets(a.kind)->reports, TimeOfPrint(), {name, std::move(bytes)});
   if (const int status = Finish(job, a, Format::Pdf)) return status;
   return StatusOf(VerdictOf(design));
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/console/run_design.h"
 
-#include <string_view>
 #include <utility>
 
-#include "core/text.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
 
@@ -12,20 +10,12 @@ namespace korvane {
 
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-/// A text at the version's place counts as 0, which is an old version.
-bool HoldsVersion(std::string_view bytes) {
-  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
-  return BeginsWithNumber(bytes.substr(0, bytes.find_first_of("\r\n")));
-}
-
 FileResult ReadProjectInput(const std::string& path, ProjectState& st, DesignRun& run) {
   bool notFound = false;
   auto bytes = ReadInput(path, &notFound);
   if (!bytes) return notFound ? FileResult::NotFound : FileResult::OtherError;
   const FileResult result = ReadProject(*bytes, st);
-  if (result == FileResult::Ok && !HoldsVersion(*bytes)) run.remarks.emplace_back(kNoVersion);
+  if (result == FileResult::Ok) run.remarks = RemarksOn(*bytes);
   run.bytes = std::move(*bytes);
   return result;
 }
@@ -50,20 +40,6 @@ int StatusOf(const Verdict& verdict) {
     default:
       return kCheckFails;
   }
-}
-
-std::string FileMessage(FileResult result, const std::string& path) {
-  switch (result) {
-    case FileResult::Ok:
-      return {};
-    case FileResult::NotFound:
-      return "can't find file - " + path;
-    case FileResult::TooShort:
-      return "Input file not compatible with this version ";
-    case FileResult::OtherError:
-      break;
-  }
-  return "can't read file - " + path;
 }
 
 }  // namespace korvane

@@ -9,13 +9,10 @@
 
 #include "core/calculation.h"
 #include "core/project_file.h"
+#include "front/file_message.h"
 #include "studies/member.h"
 
 namespace korvane {
-
-/// The remark on a file that is read as an old project for want of a version.
-inline constexpr const char* kNoVersion =
-    "first line holds no version number; read as an old project";
 
 /// What came of a project.
 struct DesignRun : MemberRun {
@@ -30,8 +27,5 @@ DesignRun RunProject(Design& design, const std::string& path);
 
 /// The exit status of a verdict: 0 only where the member passes, 3 where the calculation stopped.
 int StatusOf(const Verdict& verdict);
-
-/// The message of a file that could not be opened, empty when it could.
-std::string FileMessage(FileResult result, const std::string& path);
 
 }  // namespace korvane

@@ -222,19 +222,16 @@ void RowDesigner::DesignRows(TablePiece& piece) {
 }
 
 std::optional<std::string> RowDesigner::SetInputs(std::size_t number) {
-  const std::string row = "row " + std::to_string(number);
   for (std::size_t i = plan_.columns.size(); i < cells_.size(); ++i) {
-    if (!cells_[i].empty()) return row + ": more cells than headings";
+    if (!cells_[i].empty()) return "row " + std::to_string(number) + ": more cells than headings";
   }
   set_.clear();
   for (std::size_t i = 0; i < std::min(cells_.size(), plan_.columns.size()); ++i) {
     if (plan_.columns[i].input) set_.push_back({&*plan_.columns[i].input, cells_[i]});
   }
   input_ = plan_.base;
-  auto refused = inputs_.Set(set_, plan_.manner.decimalComma, input_);
-  // "column q1: ..." as "column q1, row 17: ...".
-  if (refused) refused->insert(refused->find(": "), ", " + row);
-  return refused;
+  const auto refused = inputs_.Put(set_, plan_.manner.decimalComma, input_);
+  return refused ? std::optional(refused->InColumn(number)) : std::nullopt;
 }
 
 void RowDesigner::DesignRow(std::size_t number, TablePiece& piece) {

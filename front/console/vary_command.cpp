@@ -71,16 +71,7 @@ bool ParseFamily(const std::string& text, const Library& library,
                  std::vector<std::string>& values) {
   constexpr std::string_view kFamily = "family:";
   if (!text.starts_with(kFamily)) return false;
-  const std::string wanted = SectionKey(std::string_view(text).substr(kFamily.size()));
-  ProjectState st;
-  for (const CatalogueSize& size : AllSizes()) {
-    if (size.turned || SectionKey(SeriesWord(size)) != wanted) continue;
-    // Those alone that a name tells apart.
-    if (size.family->titled > 0) continue;
-    TakeSize(size, st);
-    std::string name = SectionTitle(st, library.catalogues);
-    values.push_back(std::move(name));
-  }
+  values = NamesOfSeries(std::string_view(text).substr(kFamily.size()), library.catalogues);
   return !values.empty();
 }
 

@@ -4,10 +4,12 @@
 #pragma once
 
 #include <algorithm>
+#include <ctime>
 #include <span>
 #include <string_view>
 
 #include "front/painter/paint_files.h"
+#include "front/system.h"
 #include "presentation/aprint.h"
 
 namespace korvane {
@@ -36,6 +38,12 @@ inline const Sheets* FindSheets(std::string_view word) {
   const auto found =
       std::find_if(all.begin(), all.end(), [&](const Sheets& s) { return word == s.word; });
   return found == all.end() ? nullptr : &*found;
+}
+
+/// The moment of a print.
+inline ReportTime TimeOfPrint() {
+  const std::tm local = LocalTime(std::time(nullptr));
+  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min};
 }
 
 /// A project as it goes with its sheets.

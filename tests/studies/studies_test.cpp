@@ -127,6 +127,46 @@ TEST_F(Inputs, SectionsAreKnownInAnySpelling) {
   EXPECT_EQ(Set("section", "I 600x3x12x20"), "column section: b >= 5");
 }
 
+TEST_F(Inputs, ANumberIsTakenAsItsDigitsAre) {
+  const auto L = FindMemberInput("L", st);
+  const auto q1 = FindMemberInput("q1", st);
+  const InputCell cells[] = {{&*L, {}, 6.25}, {&*q1, {}, 12.1}};
+  EXPECT_FALSE(inputs.Put(cells, false, st));
+  EXPECT_EQ(st.L.Single(), 6.25F);
+  EXPECT_EQ(st.q1.Single(), 12.1F);
+  EXPECT_EQ(Typed(st.q1.Single()), 12.1);
+  const InputCell shorter{&*L, {}, 0.0};
+  const auto refused = inputs.Put({&shorter, 1}, false, st);
+  ASSERT_TRUE(refused);
+  EXPECT_EQ(refused->name, "L");
+  EXPECT_EQ(refused->message, LimitOf(st, L->ref).message);
+  EXPECT_EQ(refused->InColumn(17).rfind("column L, row 17: ", 0), 0U);
+  const InputCell none{&*L};
+  EXPECT_FALSE(none.IsGiven());
+}
+
+// A position is asked in m whatever the form shows: what stands now is tried as it stands.
+TEST_F(Inputs, APresentPositionIsThatOfTheRecord) {
+  st.pm[1] = 10;
+  st.pmx[1] = 2;
+  st.pmx_relative = 1;
+  EXPECT_EQ(PresentValue(st, *FindMemberInput("pmx[1]", st)), 2.0);
+}
+
+TEST_F(Inputs, NamesOfSectionsAreReadBack) {
+  const Catalogues& cat = SourceLibrary()->catalogues;
+  for (const char* name :
+       {"HEA200", "RHS 100x50x5", "RHS 50x100x5", "UB 457x191x67", "I 600x300x12x20"}) {
+    EXPECT_EQ(Set("section", name), "");
+    EXPECT_EQ(SectionName(st, cat), name);
+  }
+  const auto series = NamesOfSeries("ipe", cat);
+  EXPECT_EQ(series.size(), 18U);  // IPE 80 to IPE 600
+  EXPECT_EQ(series.front(), "IPE80");
+  EXPECT_EQ(series.back(), "IPE600");
+  EXPECT_TRUE(NamesOfSeries("IPEX", cat).empty());
+}
+
 TEST_F(Inputs, EverySizeIsFoundByItsName) {
   for (const CatalogueSize& size : AllSizes()) {
     if (size.turned) continue;

@@ -168,15 +168,76 @@ Case LateralBucklingOff() {
           ""};
 }
 
+/// 200 x 10 on a flat 150 x 12.
+void PlateOnAFlat(ProjectState& st) {
+  st.p51_b = 200;
+  st.p51_tf1 = 10;
+  st.p51_h = 150;
+  st.p51_tw = 12;
+  st.LateralTorsionalBuckling = 0;
+}
+
+Case CompressedSideOfAFlat() {
+  const double Md = FigureOf(NoteCode::ClassByTensionSide, 2, 51, [](ProjectState& st) {
+    PlateOnAFlat(st);
+    st.AnalysisMode = 0;
+    st.My_end[1] = -10;
+    st.My_end[2] = -10;
+  });
+  return {"class-by-tension-side: MdyBottom of plate 200x10 on flat 150x12, hogging",
+          "class 3 by the compressed share 0.78: 12.5 above 11 eps/alpha = 11.5, below 14.9",
+          "Wel = 9454825/117.105 mm3, 355/1.1",
+          26.0563,
+          Md,
+          "kNm",
+          kExact,
+          ""};
+}
+
+Case RemovedBeyond() {
+  const double ratio = FigureOf(NoteCode::RemovedBeyondCapacity, 0, 51, [](ProjectState& st) {
+    PlateOnAFlat(st);
+    st.NP = 2000;
+    st.q1 = 0;
+  });
+  return {"removed-beyond-capacity: N of plate 200x10 on flat 150x12",
+          "N/(A fd)",
+          "1.2 2000/(3800 0.355/1.1)",
+          1.95700,
+          ratio,
+          "",
+          kExact,
+          ""};
+}
+
+Case MomentFactorBelowZero() {
+  const double ky = FigureOf(NoteCode::NegativeMomentFactor, 0, 1, [](ProjectState& st) {
+    st.L = 12;
+    st.AnalysisMode = 0;
+    st.Ne = 1000;
+    st.My_end[1] = 10;
+    st.My_end[2] = -10;
+  });
+  return {"negative-moment-factor: ky of HEA 200, 12 m, N = 1000 kN, moments 10 and -10",
+          "1 - 0.9 N/(Xy A fyk), curve b, iy = 82.8 mm and A = 53.83 cm2 as catalogues print them",
+          "lambda = 1.8967, Xy = 0.23005",
+          -1.0472,
+          ky,
+          "",
+          kPrinted,
+          ""};
+}
+
 }  // namespace
 
 Chapter NoteFigures() {
-  return {"Figures of the verdict's notes",
-          "What a note says beside the check lines. Which note a member has, and that ordinary "
-          "members have few, is tested apart.",
-          {TrippingOfT(), TrippingOfAngle(), SlendernessOfTheNote(), TensionBeyondTheSection(),
-           DeflectionOfTheNote(), RemovedForce(), OutstandsOfABox(), UnreadForceOfAnI(),
-           LateralBucklingOff()}};
+  return {
+      "Figures of the verdict's notes",
+      "What a note says beside the check lines. Which note a member has, and that ordinary "
+      "members have few, is tested apart.",
+      {TrippingOfT(), TrippingOfAngle(), SlendernessOfTheNote(), TensionBeyondTheSection(),
+       DeflectionOfTheNote(), RemovedForce(), OutstandsOfABox(), UnreadForceOfAnI(),
+       LateralBucklingOff(), CompressedSideOfAFlat(), RemovedBeyond(), MomentFactorBelowZero()}};
 }
 
 }  // namespace korvane::verification

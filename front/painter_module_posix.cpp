@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <dlfcn.h>
 
-#include <filesystem>
-
-#include "front/console/painter_module.h"
-#include "front/system.h"
+#include "front/painter_module.h"
 
 namespace korvane {
 
-PaintEntry LoadPainter(std::string& error) {
+PaintEntry LoadPainter(const std::vector<std::filesystem::path>& folders, std::string& error) {
   constexpr const char* name = "korvane_paint.so";
-  const std::filesystem::path here = ProgramFolder();
-  for (const auto& folder : {here, here / KORVANE_MODULE_FROM_BIN}) {
+  for (const std::filesystem::path& folder : folders) {
     std::error_code ignored;
     if (!std::filesystem::exists(folder / name, ignored)) continue;
     void* handle = dlopen((folder / name).c_str(), RTLD_NOW | RTLD_LOCAL);
