@@ -190,8 +190,8 @@ int main(int argc, char** argv) {
   korvane::PrepareLook();
   QApplication app(argc, argv);
   parser.process(app);
-  korvane::ChooseLetters();
   korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
+  korvane::ChooseLetters();
   LeaveFailuresToUs();
   try {
     return Run(app, parser, parser.value(shots));

@@ -10,7 +10,8 @@ void PrepareLook();
 /// Whether the person has asked the system for dark windows; once the application has begun.
 bool SystemIsDark();
 
-/// The letters of all windows, where the system's own choice can't be relied on.
+/// The letters of all windows, where the system's own choice can't be relied on. After the theme:
+/// a style brings the system's letters along.
 void ChooseLetters();
 
 }  // namespace korvane

@@ -22,16 +22,19 @@ bool SystemIsDark() {
 }
 
 void ChooseLetters() {
+  const QStringList plain{QStringLiteral("Segoe UI"), QStringLiteral("Arial"),
+                          QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")};
   QFont letters = QApplication::font();
-  letters.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Arial"),
-                       QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")});
+  letters.setFamilies(plain);
   letters.setStyleHint(QFont::SansSerif);
   QApplication::setFont(letters);
-  // The system names letters of their own for these.
-  for (const char* kind : {"QMenu", "QMenuBar", "QMessageBox", "QTipLabel", "QStatusBar",
-                           "QTitleBar", "QMdiSubWindowTitleBar", "QDockWidgetTitle"}) {
-    QApplication::setFont(letters, kind);
-  }
+  // The names that pages and drawings use.
+  QFont::insertSubstitutions(QStringLiteral("sans-serif"), plain);
+  QFont::insertSubstitutions(QStringLiteral("Sans Serif"), plain);
+  QFont::insertSubstitutions(
+      QStringLiteral("monospace"),
+      {QStringLiteral("Consolas"), QStringLiteral("Courier New"), QStringLiteral("Liberation Mono"),
+       QStringLiteral("DejaVu Sans Mono")});
 }
 
 }  // namespace korvane
