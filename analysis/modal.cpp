@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "analysis/loads.h"
+#include "core/powers.h"
 #include "core/supports.h"
 
 namespace korvane {
@@ -28,7 +29,7 @@ void ModalAnalysisRun(const ProjectState& st, double S, double Iy, ModalResults&
   if (support == nullptr || IsSpring(st.SupportType)) return;
   const std::array<double, 3>& constants = kModes.at(static_cast<std::size_t>(support->stiff));
   const double EI = Iy * st.E * 1E-6;
-  const double base = std::sqrt(EI / (std::pow(st.L, 4) * out.ModalMass));
+  const double base = std::sqrt(EI / (Fourth(st.L) * out.ModalMass));
   for (int n = 1; n <= 3; ++n) {
     out.ModalFreq[n] = base * constants[static_cast<std::size_t>(n - 1)];
   }

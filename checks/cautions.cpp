@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "checks/lateral_buckling.h"
+#include "core/powers.h"
 #include "sections/capacities.h"
 #include "sections/elements.h"
 #include "sections/p05bas.h"
@@ -94,7 +95,7 @@ void TrapezoidFlats(const Family& family, const Finished& d, NoteList& notes) {
 /// trapezoid stand apart.
 double StiffenerIz(const Family& family, const Finished& d) {
   const SectionRecord& rec = d.rec;
-  const double flange = rec.tf2 * std::pow(rec.b2, 3) / 12;
+  const double flange = rec.tf2 * Cube(rec.b2) / 12;
   if (family.outline == OutlineKind::PlateTrapez) {
     const double a = d.st.p55_a;
     const double thickness = rec.tw / std::cos(std::atan(a / d.st.p55_h));

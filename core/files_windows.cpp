@@ -342,7 +342,6 @@ WriteResult WriteInPlace(const Target& target, const Content& content) {
       [&](const std::wstring& random) { return target.path + L".before" + random; }, name);
   if (!copy) return ResultOfError(::GetLastError());
   OwnFile copyFile(name);
-  std::string old;
   if (!CopyAll(file.Get(), copy.Get()) || ::FlushFileBuffers(copy.Get()) == 0) {
     return ResultOfError(::GetLastError());
   }
@@ -420,6 +419,11 @@ WriteResult WriteBeside(const Target& target, const Content& content) {
     return failed;
   }
   temporary.Keep();
+  // Not every file system hands them on.
+  const DWORD attributes = target.old.dwFileAttributes;
+  if (target.exists && ::GetFileAttributesW(target.path.c_str()) != attributes) {
+    ::SetFileAttributesW(target.path.c_str(), attributes);
+  }
   FlushEntry(target.path);
   return {};
 }

@@ -19,22 +19,8 @@ constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
 constexpr std::string_view kSansSerif = "'Liberation Sans',Arial,Arimo,Helvetica,sans-serif";
 constexpr int kDecimals = 3;
 
-/// A length in page units: 3 decimals, no zeros at the end. What no picture can hold counts as 0.
-std::string Number(double value) {
-  constexpr double largest = 1E7;
-  if (!(std::abs(value) < largest)) return "0";
-  std::array<char, 32> text{};
-  char* end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed,
-                            kDecimals)
-                  .ptr;
-  while (end[-1] == '0') --end;
-  if (end[-1] == '.') --end;
-  std::string number(text.data(), end);
-  return number == "-0" ? "0" : number;
-}
-
 std::string Pair(Point p) {
-  return Number(p.x) + ' ' + Number(p.y);
+  return SvgNumber(p.x) + ' ' + SvgNumber(p.y);
 }
 
 std::string Hex(Colour c) {
@@ -64,6 +50,19 @@ std::string FamilyOf(const std::string& name) {
 }
 
 }  // namespace
+
+std::string SvgNumber(double value) {
+  constexpr double largest = 1E7;
+  if (!(std::abs(value) < largest)) return "0";
+  std::array<char, 32> text{};
+  char* end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed,
+                            kDecimals)
+                  .ptr;
+  while (end[-1] == '0') --end;
+  if (end[-1] == '.') --end;
+  std::string number(text.data(), end);
+  return number == "-0" ? "0" : number;
+}
 
 std::string XmlText(std::string_view bytes) {
   const std::string text = ToUtf8(bytes);
@@ -95,8 +94,8 @@ std::string XmlText(std::string_view bytes) {
 
 SvgTarget::SvgTarget(double width, double height, std::string_view title, const Palette& palette)
     : palette_(palette) {
-  const std::string w = Number(width);
-  const std::string h = Number(height);
+  const std::string w = SvgNumber(width);
+  const std::string h = SvgNumber(height);
   head_ =
       "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
       "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
@@ -119,7 +118,7 @@ std::string SvgTarget::Document() const {
 }
 
 void SvgTarget::Attribute(std::string_view name, double value) {
-  ((body_ += ' ') += name) += "=\"" + Number(value) + '"';
+  ((body_ += ' ') += name) += "=\"" + SvgNumber(value) + '"';
 }
 
 void SvgTarget::Painted(const Stroke& stroke, const Fill& fill) {
@@ -131,7 +130,7 @@ void SvgTarget::Painted(const Stroke& stroke, const Fill& fill) {
     body_ += " stroke=\"" + Hex(palette_[stroke.colour]) + '"';
     Attribute("stroke-width", stroke.width);
     std::string dashes;
-    for (const double dash : DashesOf(stroke.dash)) dashes += Number(dash * stroke.width) + ' ';
+    for (const double dash : DashesOf(stroke.dash)) dashes += SvgNumber(dash * stroke.width) + ' ';
     if (!dashes.empty()) body_ += " stroke-dasharray=\"" + dashes + '"';
   }
   body_ += "/>\n";

@@ -14,6 +14,10 @@ namespace korvane {
 /// characters that XML can't hold replaced by U+FFFD.
 std::string XmlText(std::string_view text);
 
+/// A length as an SVG picture has it: 3 decimals, no zeros at the end. What no picture can hold
+/// counts as 0.
+std::string SvgNumber(double value);
+
 /// Collects the picture of one page in page units (points). The page is filled with the paper's
 /// colour. Widths of text are those of TextWidth; the file asks for them, whatever font shows it.
 class SvgTarget : public DrawingTarget {

@@ -32,9 +32,16 @@ fail() {
   exit 1
 }
 
+# Where Debian's Qt tells CMake of its programs, which run while Qt for another system is built.
+qt_host_cmake() {
+  dpkg-query -L qt6-base-dev | sed -n 's|/Qt6/Qt6Config.cmake$||p'
+}
+
 BUILD_PACKAGES="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev"
 DESKTOP_PACKAGES="qt6-base-dev qt6-base-dev-tools qt6-svg-dev libgl-dev fonts-liberation"
 PYTHON_PACKAGES="pybind11-dev python3-dev python3-numpy python3-setuptools python3-wheel"
 TEST_PACKAGES="libgtest-dev libbenchmark-dev poppler-utils xvfb xdotool strace fonts-dejavu-core python3-pip python3-pytest python3-pandas"
 DISPLAY_PACKAGES="xvfb openbox"
 BOOK_PACKAGES="chromium fonts-lmodern poppler-utils python3"
+WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix nsis zip"
+WINE_PACKAGES="wine64"

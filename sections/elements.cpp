@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/powers.h"
+
 namespace korvane {
 
 // The reduced slenderness sqrt(fy/sigma_cr) with sigma_cr = k*pi^2*E/(12*(1 - nu^2))*(t/c)^2 and
@@ -95,7 +97,7 @@ BentSection ReduceInBending(const CompressedSide& s, double eps) {
   const double A2 = A1 - strip;
   const double e2 = (moment - strip * m - s.removedMoments * s.t / 2) / A2;
   const double own = s.fullStripInertia ? (1 - rho) * s.webs * hc * hc * hc / 12
-                                        : s.webs * std::pow((1 - rho) * hc, 3) / 12;
+                                        : s.webs * Cube((1 - rho) * hc) / 12;
   const double flange = s.removedMoments * (s.t * s.t / 12 + s.t * s.t / 4);
   return {e2, s.z * moment + s.I - own - strip * m * m - flange - A2 * e2 * e2};
 }

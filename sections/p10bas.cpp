@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "core/powers.h"
 #include "sections/capacities.h"
 #include "sections/elements.h"
 
@@ -56,7 +57,7 @@ void LoadEqualAngle(const ProjectState& st, const Catalogues& cat, SectionRecord
   rec.v1 = rec.v3;
   rec.u3 = rec.b * k - rec.u2 + rec.tw / 2 * s;
   rec.u1 = rec.u3;
-  rec.Ix = std::pow(rec.tw, 3) * (rec.b - rec.tw / 2) * (2.0 / 3);
+  rec.Ix = Cube(rec.tw) * (rec.b - rec.tw / 2) * (2.0 / 3);
   rec.Wu1 = rec.Iv / rec.u3;
   rec.Wu2 = rec.Iv / rec.u2;
   rec.Wv1 = rec.Iu / rec.v1;
@@ -88,7 +89,7 @@ void LoadUnequalAngle(const ProjectState& st, const Catalogues& cat, SectionReco
   rec.u3 = rec.b * k - rec.u2 + half * s;
   rec.v1 = rec.h * k - rec.v2 - half * s;
   rec.u1 = rec.h * s - rec.u2 + half * k;
-  rec.Ix = std::pow(rec.tw, 3) * ((rec.b - half) + (rec.h - half)) * (1.0 / 3);
+  rec.Ix = Cube(rec.tw) * ((rec.b - half) + (rec.h - half)) * (1.0 / 3);
   rec.Wu1 = rec.Iv / rec.u1;
   rec.Wu2 = rec.Iv / rec.u2;
   rec.Wu3 = rec.Iv / rec.u3;

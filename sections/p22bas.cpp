@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/powers.h"
 #include "sections/capacities.h"
 #include "sections/elements.h"
 #include "sections/p01bas.h"
@@ -35,7 +36,7 @@ void LoadWeldedI(const ProjectState& st, const Catalogues&, SectionRecord& rec) 
   rec.g = (4 * rec.tf + 2 * rec.b + 2 * (rec.b - rec.tw) + 2 * rec.hw) / 1000;
   rec.Wely = rec.Iy / (rec.h - sum.ybar);
   rec.Welz = rec.Iz / (rec.b - sum.xbar);
-  rec.Iw = std::pow(rec.b, 3) * rec.tf / 24 * std::pow(rec.h - rec.tf, 2);
+  rec.Iw = Cube(rec.b) * rec.tf / 24 * std::pow(rec.h - rec.tf, 2);
   rec.Wply = (rec.h - rec.tf) * rec.tf * rec.b + rec.hw * rec.hw * rec.tw / 4;
   rec.Wplz = std::pow(rec.tw / 2, 2) * (2 * rec.hw) / 2 + 4 * std::pow(rec.b / 2, 2) * rec.tf / 2;
   rec.tmax = std::max<double>(rec.tf, rec.tw);
@@ -59,8 +60,8 @@ void WeldedShear(const ProjectState& st, SectionRecord& rec) {
 }
 
 void TwoFlangeWarping(double H, SectionRecord& rec) {
-  const double I1 = std::pow(rec.b1, 3) * rec.tf1 / 12;
-  const double I2 = std::pow(rec.b2, 3) * rec.tf2 / 12;
+  const double I1 = Cube(rec.b1) * rec.tf1 / 12;
+  const double I2 = Cube(rec.b2) * rec.tf2 / 12;
   const double hs = H - rec.tf1 / 2 - rec.tf2 / 2;
   rec.Iw = I1 * I2 * hs * hs / (I1 + I2);
   const double betafTop = I1 / (I1 + I2);

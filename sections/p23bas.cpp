@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "analysis/loads.h"
+#include "core/powers.h"
 #include "sections/capacities.h"
 #include "sections/elements.h"
 #include "sections/p22bas.h"
@@ -39,10 +40,10 @@ void LoadBox(const ProjectState& st, const Catalogues&, SectionRecord& rec) {
   rec.Welz = rec.Iz / (rec.b - sum.xbar);
   const double p = rec.b - 2 * a - rec.tw;  // between web centres
   const double q = rec.h - rec.tf;          // between flange centres
-  rec.Ix = 2 * p * p * q * q / (p / rec.tf + q / rec.tw) + 4 * std::pow(rec.tf, 3) * a / 3;
+  rec.Ix = 2 * p * p * q * q / (p / rec.tf + q / rec.tw) + 4 * Cube(rec.tf) * a / 3;
   const double webs = p * p * rec.tw;
   const double flanges = rec.b * q * rec.tf;
-  rec.Iw = q * q / 24 * (p * p * q * rec.tw + std::pow(rec.b, 3) * rec.tf) *
+  rec.Iw = q * q / 24 * (p * p * q * rec.tw + Cube(rec.b) * rec.tf) *
            std::pow((webs - flanges) / (webs + flanges), 2);
   rec.Wply = rec.hw * rec.hw * rec.tw / 2 + (rec.h - rec.tf) * rec.tf * rec.b;
   rec.Wplz = rec.b * rec.b * rec.tf / 2 + p * rec.hw * rec.tw;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/powers.h"
 #include "sections/capacities.h"
 #include "sections/elements.h"
 #include "sections/section_sum.h"
@@ -11,7 +12,7 @@
 namespace korvane {
 
 double WarpingOfT(double b, double tf, double tw, double h) {
-  return (std::pow(b, 3) * std::pow(tf, 3) + 4 * std::pow(tw, 3) * std::pow(h, 3)) / 144;
+  return (Cube(b) * Cube(tf) + 4 * Cube(tw) * Cube(h)) / 144;
 }
 
 void LoadT(const ProjectState& st, const Catalogues&, SectionRecord& rec) {
@@ -69,10 +70,10 @@ void LoadFlatBar(const ProjectState& st, const Catalogues&, SectionRecord& rec) 
   rec.Aeff = rec.A;
   rec.betaA = 1;
   rec.S = st.density * rec.A * 1E-6;
-  rec.Ix = std::pow(rec.tw, 3) * rec.h / 3;
+  rec.Ix = Cube(rec.tw) * rec.h / 3;
   rec.Iw = 0;
-  rec.Iy = std::pow(rec.h, 3) * rec.tw / 12;
-  rec.Iz = std::pow(rec.tw, 3) * rec.h / 12;
+  rec.Iy = Cube(rec.h) * rec.tw / 12;
+  rec.Iz = Cube(rec.tw) * rec.h / 12;
   rec.ez = rec.h / 2;
   rec.ey = rec.tw / 2;
   rec.Wely = rec.Iy / (rec.h - rec.h / 2);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/powers.h"
 #include "sections/capacities.h"
 #include "sections/elements.h"
 
@@ -18,11 +19,11 @@ void LoadTube(const ProjectState& st, const Catalogues&, SectionRecord& rec) {
   rec.A = (kPi / 4) * (d * d - di * di);
   rec.S = st.density * rec.A * 1E-6;
   rec.g = (d * 2 * kPi / 2) / 1000;
-  rec.Iy = (kPi / 64) * (std::pow(d, 4) - std::pow(di, 4));
+  rec.Iy = (kPi / 64) * (Fourth(d) - Fourth(di));
   rec.Iz = rec.Iy;
   rec.Wely = rec.Iy / (d / 2);
   rec.Welz = rec.Wely;
-  rec.Wply = (1.0 / 6) * (std::pow(d, 3) - std::pow(di, 3));
+  rec.Wply = (1.0 / 6) * (Cube(d) - Cube(di));
   rec.Wplz = rec.Wply;
   rec.Ix = ((dm / 2) * (dm / 2) + rec.tw * rec.tw / 4) * (dm * kPi * rec.tw);
   rec.tmax = rec.tw;

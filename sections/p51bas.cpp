@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/powers.h"
 #include "sections/capacities.h"
 #include "sections/elements.h"
 #include "sections/p22bas.h"
@@ -66,10 +67,8 @@ void LoadAngleStiffener(const ProjectState& st, const AngleStiffener& s, double 
   list.Add(Rect{s.b - s.tw, s.t2, xw + s.tw, 0});
   const double root = s.r1 * s.r1 * q;
   const double toe = s.r2 * s.r2 * q;
-  list.Add(
-      Fillet{root, xw + s.tw + 0.2234 * s.r1, s.t2 + 0.2234 * s.r1, 0.007545 * std::pow(s.r1, 4)});
-  list.Add(
-      Fillet{-toe, xw + s.b - 0.2234 * s.r2, s.t2 - 0.2234 * s.r2, -0.007545 * std::pow(s.r2, 4)});
+  list.Add(Fillet{root, xw + s.tw + 0.2234 * s.r1, s.t2 + 0.2234 * s.r1, 0.007545 * Fourth(s.r1)});
+  list.Add(Fillet{-toe, xw + s.b - 0.2234 * s.r2, s.t2 - 0.2234 * s.r2, -0.007545 * Fourth(s.r2)});
   const double A = DerivePlate(st, list, rec).A;
 
   const double H = rec.h;

@@ -2,24 +2,22 @@
 #include "front/desktop/desktop_platform.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QDateTime>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPainter>
-#include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QSettings>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/files.h"
 #include "core/project_file.h"
 #include "front/desktop/own_folder.h"
+#include "front/desktop/print_choice.h"
 #include "front/desktop/project_place.h"
 #include "front/painter/paint_files.h"
 #include "front/painter/painter_target.h"
@@ -118,29 +116,6 @@ void DesktopPlatform::Beep() {
 
 namespace {
 
-/// A tab of the print dialog for what this program prints.
-class SheetsTab : public QWidget {
-public:
-  explicit SheetsTab(bool withChecker) : box_(new QCheckBox(tr("with checker's sheet"), this)) {
-    setWindowTitle(tr("Sheets"));
-    box_->setObjectName(QStringLiteral("withchecker"));
-    box_->setChecked(withChecker);
-    preview_ = new QPushButton(tr("Preview..."), this);
-    preview_->setObjectName(QStringLiteral("preview"));
-    preview_->setAutoDefault(false);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(box_);
-    layout->addWidget(preview_, 0, Qt::AlignLeft);
-    layout->addStretch();
-  }
-  bool WithChecker() const { return box_->isChecked(); }
-  QPushButton* Preview() { return preview_; }
-
-private:
-  QPushButton* preview_;
-  QCheckBox* box_;
-};
-
 /// The project that the design is of: the file itself where the design comes from it as it stands
 /// on disk, else the text of the state.
 AttachedProject ProjectOf(const Design& design) {
@@ -198,14 +173,8 @@ std::optional<PrintJob> DesktopPlatform::AskPrint() {
         kind_ == 0 ? QStringLiteral("-section.pdf") : QStringLiteral("-control.pdf");
     printer_->setOutputFileName(BesideProject(*session_, kind));
   }
-  QPrintDialog dialog(printer_.get(), Owner());
-  // The dialog takes the tab for its own.
-  auto* sheets = new SheetsTab(withChecker_);
-  dialog.setOptionTabs({sheets});
-  connect(sheets->Preview(), &QPushButton::clicked, this,
-          [this, sheets] { Preview(sheets->WithChecker()); });
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  withChecker_ = sheets->WithChecker();
+  const auto preview = [this](bool withChecker) { Preview(withChecker); };
+  if (!AskForPrinter(*printer_, withChecker_, preview, Owner())) return std::nullopt;
   // A printer prints on paper, whatever name was proposed for a file.
   if (printer_->outputFormat() != QPrinter::PdfFormat) printer_->setOutputFileName(QString());
   return PrintJob{printer_->copyCount()};

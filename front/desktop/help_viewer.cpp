@@ -18,7 +18,6 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStyledItemDelegate>
-#include <QSvgRenderer>
 #include <QTextBlock>
 #include <QToolBar>
 #include <QToolButton>
@@ -27,6 +26,7 @@
 #include <algorithm>
 
 #include "front/desktop/own_folder.h"
+#include "front/desktop/svg_reader.h"
 #include "front/desktop/theme.h"
 
 namespace korvane {
@@ -40,8 +40,8 @@ constexpr double kLeastWidth = 160;
 constexpr double kRim = 8;
 
 QImage Drawing(const QByteArray& file, double ratio, double widest) {
-  QSvgRenderer svg(file);
-  const QSizeF own = svg.viewBoxF().size();
+  const SvgDrawing svg(file);
+  const QSizeF own = svg.ViewBox().size();
   // Section figures are square and stand beside their text: smaller than a diagram.
   const double width =
       std::min(own.width() == own.height() ? 240.0 : own.width(), widest - 2 * kRim);
@@ -51,7 +51,7 @@ QImage Drawing(const QByteArray& file, double ratio, double widest) {
   image.setDevicePixelRatio(ratio);
   image.fill(Qt::white);
   QPainter painter(&image);
-  svg.render(&painter, QRectF(QPointF(kRim, kRim), drawn));
+  svg.Paint(painter, QRectF(QPointF(kRim, kRim), drawn));
   return image;
 }
 
@@ -81,14 +81,14 @@ QImage FormulaImage(QByteArray file, double ratio, const QPalette& palette, doub
   // Those of scripts/help_formulas have 16 pixels; their small letters are lower than the page's.
   constexpr double kDrawnLetters = 16 / 1.2;
   file.replace("#000", palette.color(QPalette::Text).name().toLatin1());
-  QSvgRenderer svg(file);
-  const QSizeF own = svg.defaultSize();
+  const SvgDrawing svg(file);
+  const QSizeF own = svg.Size();
   const QSizeF drawn = own * std::min(letters / kDrawnLetters, widest / own.width());
   QImage image((drawn * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
   image.setDevicePixelRatio(ratio);
   image.fill(Qt::transparent);
   QPainter painter(&image);
-  svg.render(&painter, QRectF(QPointF(0, 0), drawn));
+  svg.Paint(painter, QRectF(QPointF(0, 0), drawn));
   return image;
 }
 

@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPainter>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
@@ -23,6 +25,8 @@
 #include "front/desktop/own_folder.h"
 #include "front/desktop/recovery.h"
 #include "front/desktop/screenshots.h"
+#include "front/desktop/svg_reader.h"
+#include "front/desktop/system_look.h"
 #include "front/desktop/theme.h"
 #include "front/named_session.h"
 #include "front/system.h"
@@ -151,6 +155,23 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
   return QApplication::exec();
 }
 
+/// The window's icon where no desktop entry gives one.
+QIcon ProgramIcon() {
+  QFile file(QStringLiteral(":/korvane.svg"));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const korvane::SvgDrawing drawing(file.readAll());
+  QIcon icon;
+  for (const int size : {16, 32, 48, 128}) {
+    QPixmap picture(size, size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawing.Paint(painter, picture.rect());
+    painter.end();
+    icon.addPixmap(picture);
+  }
+  return icon;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -190,10 +211,12 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "korvane: %s\n", qPrintable(error));
     return kWrongArguments;
   }
+  korvane::PrepareLook();
   QApplication app(argc, argv);
   parser.process(app);
-  QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/korvane.svg")));
+  QGuiApplication::setWindowIcon(ProgramIcon());
   korvane::ApplyTheme(ThemeOf(parser.value(QStringLiteral("theme"))));
+  korvane::ChooseLetters();
   LeaveFailuresToUs();
   try {
     return Run(app, parser, parser.value(shots));

@@ -9,7 +9,8 @@
 
 namespace korvane {
 
-/// The program's data folder where it can be written, else the person's own, which is made.
+/// The program's data folder where it can be written, else the person's own, which is made; on
+/// Windows always the person's own.
 Folders FoldersOf(const std::string& data, const QString& own);
 
 /// The person's settings: places of windows, recent files.

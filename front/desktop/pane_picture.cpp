@@ -10,11 +10,11 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
-#include <QSvgGenerator>
 
 #include "core/files.h"
 #include "front/desktop/panes.h"
 #include "front/desktop/project_place.h"
+#include "front/desktop/svg_paper.h"
 #include "front/desktop/theme.h"
 
 namespace korvane {
@@ -62,6 +62,21 @@ QImage Pane::Picture() {
   return image;
 }
 
+std::string Pane::AsSvg() {
+  SvgPaper paper(PictureSize());
+  QPainter painter(&paper);
+  PaintPicture(painter);
+  painter.end();
+  return paper.Document();
+}
+
+std::string Pane::AsPng() {
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  Picture().save(&bytes, "PNG");
+  return bytes.data().toStdString();
+}
+
 void Pane::CopyPicture() {
   QApplication::clipboard()->setImage(Picture());
 }
@@ -96,19 +111,7 @@ void Pane::Export(bool vector) {
       BesideProject(session_, QLatin1Char('-') + ExportName() + QLatin1Char('.') + ending),
       QStringLiteral("*.") + ending);
   if (path.isEmpty()) return;
-  QBuffer bytes;
-  bytes.open(QIODevice::WriteOnly);
-  if (vector) {
-    QSvgGenerator generator;
-    generator.setOutputDevice(&bytes);
-    generator.setSize(PictureSize());
-    generator.setViewBox(QRect(QPoint(), PictureSize()));
-    QPainter painter(&generator);
-    PaintPicture(painter);
-  } else {
-    Picture().save(&bytes, "PNG");
-  }
-  const WriteResult written = WriteFile(path.toStdString(), bytes.data().toStdString());
+  const WriteResult written = WriteFile(path.toStdString(), vector ? AsSvg() : AsPng());
   if (written) return;
   QMessageBox::warning(this, QString(),
                        tr("The picture could not be written to\n%1").arg(path) + QLatin1Char('\n') +

@@ -29,6 +29,9 @@ public:
   /// The pane as it is copied and saved, without the marks of pointer and focus; a notice at the
   /// head where the results aren't those of the state in force.
   QImage Picture();
+  /// The same as documents: text as text, or twice its size in pixels.
+  std::string AsSvg();
+  std::string AsPng();
   /// What the pane shows as a table for the clipboard; empty where it is none.
   virtual QString Table() const { return {}; }
   /// The copy key: picture and table, whichever the other program takes.

@@ -22,7 +22,7 @@ namespace {
 constexpr int kDelay = 1000;
 
 std::string Encoded(const QString& path) {
-  return QFile::encodeName(path).toStdString();
+  return path.toStdString();
 }
 
 /// Held by a running program for as long as it keeps this file.

@@ -6,6 +6,7 @@
 #include <QStyle>
 
 #include "front/desktop/clear_style.h"
+#include "front/desktop/system_look.h"
 
 namespace korvane {
 
@@ -52,7 +53,7 @@ Colour From(const QColor& c) {
 }  // namespace
 
 void ApplyTheme(Theme theme) {
-  const bool systemDark = IsDark(QApplication::palette());
+  const bool systemDark = SystemIsDark();
   QApplication::setStyle(new ClearStyle);
   const bool dark = theme == Theme::Dark || (theme == Theme::System && systemDark);
   QApplication::setPalette(Made(dark ? kDark : kLight));

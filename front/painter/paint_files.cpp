@@ -30,7 +30,7 @@ public:
   }
 
 private:
-  std::string name_ = "korvane", option_ = "-platform", platform_ = "offscreen";
+  std::string name_ = "korvane", option_ = "-platform", platform_ = KORVANE_PAINT_PLATFORM;
   std::array<char*, 4> words_{name_.data(), option_.data(), platform_.data(), nullptr};
   int count_ = 3;
   std::unique_ptr<QGuiApplication> application_;

@@ -146,7 +146,8 @@ TEST_F(PlotTest, InteractionDrawsThreeDiagrams) {
   EXPECT_EQ(Interaction(4, folder_ / "i.svg", folder_ / "i.csv"), 0);
   EXPECT_TRUE(Has("i.csv", "My-Mz,governing"));
   EXPECT_EQ(Interaction(4, "", "", true), 0);
-  EXPECT_NE(out_.str().find("\"diagram\": \"N-My\""), std::string::npos) << out_.str().substr(0, 99);
+  EXPECT_NE(out_.str().find("\"diagram\": \"N-My\""), std::string::npos)
+      << out_.str().substr(0, 99);
 }
 
 TEST_F(PlotTest, TheProgramWritesPngAndPdfThroughThePainter) {
