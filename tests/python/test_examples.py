@@ -80,4 +80,4 @@ def test_the_pages_of_the_help_print_what_they_show(source, tmp_path):
             (tmp_path / "lines.py").write_text(html.unescape(code))
             assert run(source, tmp_path / "lines.py", folder=source / "examples").split() == html.unescape(prints).split()
             blocks += 1
-    assert blocks >= 5
+    assert blocks == 4
