@@ -88,8 +88,12 @@ MaterialTable ReadMaterials(const std::string& folder) {
   return table;
 }
 
+std::string DefaultsPath(const std::string& folder) {
+  return PathIn(folder, kDefaultsFile);
+}
+
 void ReadDefaults(const std::string& folder, ProjectState& st) {
-  const auto bytes = ReadWholeFile(PathIn(folder, kDefaultsFile));
+  const auto bytes = ReadWholeFile(DefaultsPath(folder));
   if (!bytes) return;
   FieldReader reader(*bytes, NoDigits::EndTheReading);
   try {
@@ -103,7 +107,7 @@ void ReadDefaults(const std::string& folder, ProjectState& st) {
 WriteResult WriteDefaults(const std::string& folder, const ProjectState& st) {
   FieldWriter writer;
   WalkDefaults(writer, st);
-  return WriteFile(PathIn(folder, kDefaultsFile), writer.Bytes());
+  return WriteFile(DefaultsPath(folder), writer.Bytes());
 }
 
 void SetMaterial(const MaterialTable& materials, double tmax, ProjectState& st) {

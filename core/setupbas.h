@@ -29,6 +29,9 @@ struct MaterialTable {
 /// ends. Errors are ignored: what was read before one counts.
 MaterialTable ReadMaterials(const std::string& folder);
 
+/// The path of default_ns.dat in a folder.
+std::string DefaultsPath(const std::string& folder);
+
 /// Reads default_ns.dat in the folder into the state; errors are ignored, fields not read keep
 /// their value.
 void ReadDefaults(const std::string& folder, ProjectState& st);

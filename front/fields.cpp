@@ -24,9 +24,12 @@ void Fields::Release(const Form& form) {
   if (inUse_ != nullptr && inUse_->form == &form) Left(*inUse_);
 }
 
-void Fields::Refuse(const Control& field, const ProjectState& before) {
-  if (refused_ && refused_->field == &field) return;
-  refused_ = RefusedValue{&field, before};
+void Fields::Refuse(const Control& field, const ProjectState& before, const ProjectState& after) {
+  if (refused_ && refused_->field == &field) {
+    refused_->after = after;
+  } else {
+    refused_ = RefusedValue{&field, before, after};
+  }
 }
 
 void Fields::Accept(const Control& field) {

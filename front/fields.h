@@ -15,6 +15,7 @@ namespace korvane {
 struct RefusedValue {
   const Control* field = nullptr;
   ProjectState before;  ///< the state with the last accepted value
+  ProjectState after;   ///< and with the refused one
 };
 
 class Fields {
@@ -42,7 +43,7 @@ public:
 
   /// The value in force is refused; `before` is the state ahead of it. The first one counts
   /// while a field goes from one refused value to the next.
-  void Refuse(const Control& field, const ProjectState& before);
+  void Refuse(const Control& field, const ProjectState& before, const ProjectState& after);
   void Accept(const Control& field);
   void ForgetRefused() { refused_.reset(); }
   const std::optional<RefusedValue>& Refused() const { return refused_; }

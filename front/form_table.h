@@ -74,6 +74,7 @@ struct Control {
   std::function<void(Session&)> returnKey;  ///< of a picture that knows the Return key
   std::function<bool(const Session&)> enabled;
   std::function<bool(const Session&)> visible;
+  std::function<bool(const Session&)> alarm;  ///< of a label: in red, as its words say too
   std::string unit;
   std::string tip;
   std::string letter;  ///< of a dimension, as the figure writes it

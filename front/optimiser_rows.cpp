@@ -42,11 +42,20 @@ void SearchAgain(Design& design, OptimiserRows& rows, int criterion,
   }
 }
 
-const char* WordsOf(const OptimiserRows& rows, int row) {
-  if (!rows.row[row].included) return "";
-  if (!rows.row[row].searched) return "not searched";
-  if (!rows.results.Passes[row]) return "none passes";
-  return LightestRow(rows) == row ? "lightest" : "";
+std::string WordsOf(const OptimiserRows& rows, int row) {
+  const OptimiserRows::Row& one = rows.row[row];
+  if (!one.included) return {};
+  std::string words = !one.searched               ? "not searched"
+                      : !rows.results.Passes[row] ? "none passes"
+                      : LightestRow(rows) == row  ? "lightest"
+                                                  : "";
+  if (!one.view.remark.empty()) words += (words.empty() ? "" : "; ") + one.view.remark;
+  return words;
+}
+
+bool RowFails(const OptimiserRows& rows, int row) {
+  const OptimiserRows::Row& one = rows.row[row];
+  return one.included && (one.view.fails || (one.searched && !rows.results.Passes[row]));
 }
 
 int LightestRow(const OptimiserRows& rows) {

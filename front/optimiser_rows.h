@@ -2,6 +2,8 @@
 // The rows of the optimiser form: which are included, what they show, what their searches left.
 #pragma once
 
+#include <string>
+
 #include "optimiser/optimize.h"
 
 namespace korvane {
@@ -24,8 +26,10 @@ void ToggleRow(Design& design, OptimiserRows& rows, int row, const SearchProgres
 /// A criterion is chosen: all rows that are included are searched again.
 void SearchAgain(Design& design, OptimiserRows& rows, int criterion,
                  const SearchProgress& progress);
-/// What is to be said of a row beside its figures, or nothing.
-const char* WordsOf(const OptimiserRows& rows, int row);
+/// What is to be said of a row beside its figures, with the verdict's note; or nothing.
+std::string WordsOf(const OptimiserRows& rows, int row);
+/// The row's section doesn't do, which WordsOf says too.
+bool RowFails(const OptimiserRows& rows, int row);
 /// The searched row of the least weight whose size passes, 0 for none.
 int LightestRow(const OptimiserRows& rows);
 

@@ -46,8 +46,13 @@ public:
     return std::nullopt;
   }
 
+  /// Whether a file that has changed on disk since it was read may be overwritten.
+  virtual bool AskOverwrite(const std::string&) { return false; }
+
   /// A message box with the exclamation icon.
   virtual void Message(const std::string&) {}
+  /// What needs no box: windows show it by the state, a script prints it.
+  virtual void Remark(const std::string&) {}
   virtual void Beep() {}
   virtual std::optional<PrintJob> AskPrint() { return std::nullopt; }
   /// Prints report 0 (section property and capacity) or 1 (section and stability control).

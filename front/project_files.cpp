@@ -9,6 +9,9 @@ namespace korvane {
 
 namespace {
 
+/// The name of a project without a file.
+const std::string kNewFile = ProjectState().CurrentFileName;
+
 std::string Key(int entry) {
   return "RecentFile" + std::to_string(entry);
 }
@@ -55,31 +58,59 @@ void ProjectFiles::PromoteEntry(int entry) {
   session_.platform_.SetSetting(Key(1), name);
 }
 
-// --- Commands -----------------------------------------------------------------------------------
+// --- New and Open -------------------------------------------------------------------------------
 
 void ProjectFiles::New() {
   session_.KeepTexts();
   NewProject(session_.st(), session_.folders().program);
   ResetDatabase(session_.database());
   ForgetFormerInput(session_.design());
+  record_.path.clear();
+  record_.disk.reset();
+  record_.savedAt.reset();
+  record_.projectFailed.clear();
   session_.Calculate();
+  Settle();
 }
 
 bool ProjectFiles::Read(const std::string& path) {
-  switch (OpenProject(path, session_.st())) {
+  bool notFound = false;
+  const auto bytes = ReadWholeFile(path, &notFound);
+  record_.path = path;
+  record_.disk.reset();
+  record_.saved.clear();
+  record_.savedAt.reset();
+  record_.projectFailed.clear();
+  if (bytes) record_.disk = MarkOf(*bytes);
+  if (notFound) {
+    session_.platform_.Message("can't find file - " + path);
+    return false;
+  }
+  record_.unread.insert(path);
+  if (!bytes) return false;
+  switch (ReadProject(*bytes, session_.st())) {
     case FileResult::Ok:
+      record_.unread.erase(path);
       return true;
-    case FileResult::NotFound:
-      session_.platform_.Message("can't find file - " + path);
-      return false;
     case FileResult::TooShort:
       session_.platform_.Message("Input file not compatible with this version ");
       return false;
-    case FileResult::OtherError:
+    default:
       return false;
   }
-  return false;
 }
+
+namespace {
+
+/// What each calculation finds anew is no change of the project.
+void CopyCalculated(const ProjectState& from, ProjectState& to) {
+  to.fyk = from.fyk;
+  to.BucklingCurveY = from.BucklingCurveY;
+  to.BucklingCurveZ = from.BucklingCurveZ;
+  to.LtbCriticalSegment = from.LtbCriticalSegment;
+}
+
+}  // namespace
 
 /// No form may show or keep an input of the project before. The main window has the focus then and
 /// calculates as at each focus, with the weight of the section that the first calculation found.
@@ -88,17 +119,23 @@ void ProjectFiles::AfterOpen() {
     if (form.input) session_.Unload(form);
   }
   session_.fields_.ForgetRefused();
+  session_.FillMainWindow();
   ForgetFormerInput(session_.design());
+  ProjectState read = session_.st();
+  session_.BeginProject();
   try {
     const Design& d = session_.design();
     SetMaterial(d.lib->materials, d.rec.tmax, session_.st());
-    session_.FillMainWindow();
-    session_.Calculate();
-    session_.Focus(*TheForms().main);
   } catch (const ArithmeticFault&) {
-    // The commands on files pass over any other error; the window says that nothing is calculated.
-    session_.FillMainWindow();
+    // The calculation meets it again, and the window says so.
   }
+  session_.Calculate();
+  // The second calculation may be the one that fails.
+  session_.mending_ = true;
+  session_.Focus(*TheForms().main);
+  if (session_.Mending()) session_.calculated_.reset();
+  CopyCalculated(session_.st(), read);
+  record_.saved = ProjectText(read);
 }
 
 void ProjectFiles::OpenPath(const std::string& path) {
@@ -130,17 +167,20 @@ void ProjectFiles::OpenRecent(int entry) {
   if (Read(path)) AfterOpen();
 }
 
-/// The texts of the two free fields are read on saving only.
-void ProjectFiles::TakeTexts() {
-  const MainControls& on = TheForms().onMain;
-  session_.st().iident = session_.Text(*on.iident);
-  session_.st().iproj = session_.Text(*on.iproj);
+void ProjectFiles::TakeUp(const ProjectState& state, FileRecord record, bool modified) {
+  session_.st() = state;
+  title_ = TitleOf(state.CurrentFileName == kNewFile ? std::string() : state.CurrentFileName);
+  AfterOpen();
+  const std::string saved = record_.saved;
+  record_ = std::move(record);
+  record_.saved = modified ? std::string() : saved;
 }
 
-bool ProjectFiles::Write(const std::string& path) {
-  const WriteStatus written = SaveProject(path, session_.st()).status;
-  if (written == WriteStatus::NoFolder) session_.platform_.Message("can't save file - " + path);
-  return written == WriteStatus::Ok;
+// --- Save ---------------------------------------------------------------------------------------
+
+/// The texts of the two free fields are read on saving only.
+void ProjectFiles::TakeTexts() {
+  session_.st() = ToSave();
 }
 
 void ProjectFiles::SavePathAs(const std::string& path) {
@@ -158,7 +198,7 @@ void ProjectFiles::SaveAs() {
 }
 
 void ProjectFiles::Save() {
-  if (session_.st().CurrentFileName == "New File") {
+  if (session_.st().CurrentFileName == kNewFile) {
     SaveAs();
     return;
   }

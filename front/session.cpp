@@ -5,6 +5,8 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "front/input_words.h"
+#include "front/state_compare.h"
 
 namespace korvane {
 
@@ -28,10 +30,11 @@ void Session::Start() {
   database_.DbFile = "korvane.db";
   ReadDatabase(folders_.own + "/" + database_.DbFile, database_);
   FillMainWindow();
+  files_.Settle();
 }
 
 void Session::ReadOwnDefaults() {
-  if (folders_.own == folders_.program) return;
+  if (folders_.own == folders_.program || !folders_.ownDefaults) return;
   ReadDefaults(folders_.own, design_.st);
   try {
     SetMaterial(design_.lib->materials, design_.rec.tmax, design_.st);
@@ -49,7 +52,9 @@ bool Session::IsOpen(const Form& form) const {
 void Session::Show(const Form& form) {
   std::erase(open_, &form);
   open_.push_back(&form);
-  if (form.onShow) form.onShow(*this);
+  Guard([&] {
+    if (form.onShow) form.onShow(*this);
+  });
   Focus(form);
 }
 
@@ -57,7 +62,12 @@ void Session::Focus(const Form& form) {
   if (!IsOpen(form)) throw UnknownControl("form " + form.name + " is not open");
   std::erase(open_, &form);
   open_.push_back(&form);
-  if (form.onFocus) form.onFocus(*this);
+  const bool first = calculations_ == 0;
+  Guard([&] {
+    if (form.onFocus) form.onFocus(*this);
+  });
+  // What the first calculation writes is no change of the person's.
+  if (first && &form == TheForms().main) files_.Settle();
 }
 
 void Session::Unload(const Form& form) {
@@ -73,7 +83,9 @@ bool Session::Close(const Form& form) {
   if (!IsOpen(form)) return true;
   const Control* field = FocusedField();
   if (field != nullptr && field->form == &form && !Leave(*field)) return false;
-  if (form.onClose && !form.onClose(*this)) return false;
+  bool closes = true;
+  Guard([&] { closes = !form.onClose || form.onClose(*this); });
+  if (!closes) return false;
   Unload(form);
   return true;
 }
@@ -86,20 +98,38 @@ std::string Session::Title(const Form& form) const {
 
 void Session::Calculate() {
   ++calculations_;
-  calculated_.reset();
   try {
     korvane::Calculate(design_);
   } catch (const CalculationFault& fault) {
     failedStep_ = fault.Step();
     TellMessages();
+    if (mending_) return;
     throw;
   }
+  failedStep_.clear();
+  mending_ = false;
   calculated_ = design_.st;
   TellMessages();
 }
 
+void Session::BeginProject() {
+  calculated_.reset();
+  failedStep_.clear();
+  mending_ = true;
+}
+
+void Session::Guard(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const ArithmeticFault&) {
+    if (!mending_) throw;
+  }
+}
+
 void Session::ComposeResults() {
   korvane::ComposeResults(design_);
+  failedStep_.clear();
+  mending_ = false;
   calculated_ = design_.st;
 }
 
@@ -108,56 +138,14 @@ void Session::TellMessages() {
   design_.messages.clear();
 }
 
-namespace {
-
-/// Fields that results don't follow, or that name things alone.
-constexpr const char* kAside[] = {
-    "CurrentFileName", "CurrentDir",       "iproj",        "iident",      "FamilyName",
-    "DeflectionLimit", "pmx_relative",     "qtx_relative", "cp_relative", "OptimiseOpen",
-    "ResultView",      "FigureNotToScale", "DatabaseMode"};
-
-template <class T>
-bool Same(const T& a, const T& b) {
-  if constexpr (requires {
-                  a.begin();
-                  b.end();
-                } &&
-                !std::is_same_v<T, std::string>) {
-    return std::equal(a.begin(), a.end(), b.begin());
-  } else {
-    return a == b;
-  }
-}
-
-std::vector<InputMember> MembersOfResults() {
-  std::vector<InputMember> members;
-  for (const InputField& field : AllInputFields()) {
-    if (std::find(std::begin(kAside), std::end(kAside), std::string_view(field.name)) ==
-        std::end(kAside)) {
-      members.push_back(field.member);
-    }
-  }
-  return members;
-}
-
-/// Whether two states have the same results.
-bool SameResults(const ProjectState& a, const ProjectState& b) {
-  static const std::vector<InputMember> members = MembersOfResults();
-  return std::all_of(members.begin(), members.end(), [&](const InputMember& of) {
-    return std::visit([&](auto member) { return Same(a.*member, b.*member); }, of);
-  });
-}
-
-}  // namespace
-
 std::string Session::NotCalculated() const {
-  if (calculated_ && SameResults(*calculated_, design_.st)) return {};
+  const bool failed = !failedStep_.empty();
+  if (!failed && calculated_ && SameResults(*calculated_, design_.st)) return {};
   if (const auto& refused = fields_.Refused()) {
-    const Control& field = *refused->field;
-    const std::string unit = field.unit.empty() ? "" : " " + field.unit;
-    return "not calculated: " + field.caption + " " + StateText(field) + unit + " is refused";
+    return "not calculated: " + InputWords(*this, *refused->field) +
+           (failed ? " can't be calculated" : " is refused");
   }
-  if (!calculated_ && !failedStep_.empty()) return "not calculated: failure in " + failedStep_;
+  if (failed) return "not calculated: " + OnScreen(FailureWords(design_));
   return "not calculated with these inputs yet";
 }
 
@@ -165,7 +153,10 @@ std::string Session::NotCalculated() const {
 
 void Session::Click(const Control& control) {
   if (!Enabled(control) || !Visible(control)) return;
-  if (control.click) control.click(*this);
+  lastInput_ = &control;
+  Guard([&] {
+    if (control.click) control.click(*this);
+  });
 }
 
 void Session::Select(const Control& list, int index) {
@@ -174,7 +165,8 @@ void Session::Select(const Control& list, int index) {
   if (index < 0 || index >= static_cast<int>(Items(list).size())) {
     throw UnknownControl(list.name + " has no entry " + std::to_string(index));
   }
-  list.select(*this, index);
+  lastInput_ = &list;
+  Guard([&] { list.select(*this, index); });
 }
 
 void Session::Menu(const Control& command) {
@@ -185,7 +177,9 @@ void Session::Menu(const Control& command) {
     if (above == TheForms().onMain.mnustiff) st().ManualBucklingCurves = 0;
     above = above->parent.empty() ? nullptr : FindControl(*TheForms().main, above->parent);
   }
-  if (command.click && Visible(command)) command.click(*this);
+  if (!command.click || !Visible(command)) return;
+  lastInput_ = &command;
+  Guard([&] { command.click(*this); });
 }
 
 std::string Session::Text(const Control& c) const {

@@ -3,6 +3,7 @@
 // the forms need to carry it out.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -31,13 +32,16 @@ public:
 struct Folders {
   std::string program;  ///< catalogues, materials, defaults
   std::string own;      ///< what the program writes; the program folder when empty
+  /// Whether the defaults in the own folder are read.
+  bool ownDefaults = true;
 };
 
 /// One running program. A window shows the state, and only typing changes it: the text of a field
 /// is made from the state when asked for, but for the field being typed in and for the main
 /// window's fields after New. A text field that meets an arithmetic failure says "Input string
 /// mismatch "; from any other control the failure leaves the call as CalculationFault, and the
-/// owner ends the program with a report.
+/// owner ends the program with a report. A project that can't be calculated when it is opened is
+/// mended first: until a calculation succeeds no failure leaves a call.
 class Session {
 public:
   /// decimalComma: the locale writes a comma.
@@ -87,10 +91,14 @@ public:
   bool Green(const Control& field) const;
   /// The field's text is not what the calculation uses, or its value was refused.
   bool Marked(const Control& field) const;
-  /// The value of the field in use was refused, and can be taken back.
-  bool IsRefused(const Control& field) const {
-    return fields_.Refused() && fields_.Refused()->field == &field;
-  }
+  /// Keys were typed into the field in use, or its value was refused.
+  bool Typed(const Control& field) const { return fields_.IsTyped(field); }
+  /// The value of the field was refused, and can be taken back.
+  bool IsRefused(const Control& field) const { return Refused() == &field; }
+  /// The field whose value was refused and still stands, or nullptr.
+  const Control* Refused() const { return fields_.Refused() ? fields_.Refused()->field : nullptr; }
+  /// What TakeBack puts back, as it will be shown; empty where nothing was refused.
+  std::string LastAccepted() const;
   /// What the state holds of a field, as it would be shown.
   std::string StateText(const Control& field) const;
   std::vector<std::string> Items(const Control& list) const;
@@ -107,6 +115,12 @@ public:
   int Calculations() const { return calculations_; }
   /// Why the results are not those of the state in force, as a sentence; empty when they are.
   std::string NotCalculated() const;
+  /// The state of the last calculation that succeeded since the project was opened or begun.
+  const std::optional<ProjectState>& LastCalculated() const { return calculated_; }
+  /// The opened project could not be calculated yet.
+  bool Mending() const { return mending_; }
+  /// The control that was operated last, or nullptr.
+  const Control* LastInput() const { return lastInput_; }
   /// A number as it is shown, with the platform's decimal mark.
   std::string Shown(double value, const char* format) const;
   /// A text of the engine, its numbers with the platform's decimal mark.
@@ -148,6 +162,10 @@ private:
   void TellMessages();
   bool Accept(const Control& field, const FieldRule& rule);
   void Mismatch(const Control& field);
+  /// Another project is in force; nothing has been calculated with it.
+  void BeginProject();
+  /// Runs an action; while a project is mended its failure goes no further.
+  void Guard(const std::function<void()>& action);
   /// New's exception: the fields of the main window keep their texts.
   void KeepTexts();
 
@@ -160,9 +178,11 @@ private:
   ProjectFiles files_;
   Fields fields_;
   std::vector<const Form*> open_;
-  /// The state that the results are of; none before the first calculation and after a failed one.
+  /// The state of the last calculation that succeeded; none yet for a project that was opened.
   std::optional<ProjectState> calculated_;
-  std::string failedStep_;
+  std::string failedStep_;  ///< of the last calculation; empty where it succeeded
+  bool mending_ = false;
+  const Control* lastInput_ = nullptr;
   int calculations_ = 0;
   int focusings_ = 0;
   bool ended_ = false;

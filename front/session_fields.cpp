@@ -4,6 +4,7 @@
 
 #include "core/text.h"
 #include "front/session.h"
+#include "front/state_compare.h"
 
 namespace korvane {
 
@@ -91,15 +92,18 @@ bool Session::Accept(const Control& field, const FieldRule& rule) {
       ReadInput(st(), rule.input),
       refusal != nullptr && rule.refusedFormat != nullptr ? rule.refusedFormat : rule.Format()));
   if (refusal != nullptr) {
-    fields_.Refuse(field, before);
+    fields_.Refuse(field, before, st());
     platform_.Message(refusal);
     if (rule.afterRefusal) rule.afterRefusal(*this);
     return false;
   }
+  const int calculations = calculations_;
   try {
     if (rule.then) rule.then(*this);
+    if (mending_ && calculations_ != calculations) throw ArithmeticFault("not mended yet");
   } catch (const ArithmeticFault&) {
-    fields_.Refuse(field, before);
+    // While a project is mended the failure may be another input's.
+    if (!mending_) fields_.Refuse(field, before, st());
     throw;
   }
   fields_.Accept(field);
@@ -118,10 +122,17 @@ bool Session::Leave(const Control& field) {
 
 bool Session::LeaveBy(const Control& field, const FieldRule& rule) {
   if (field.kind != Kind::Input) return true;
+  lastInput_ = &field;
+  const int calculations = calculations_;
   try {
     if (!Accept(field, rule)) return false;
   } catch (const ArithmeticFault&) {
     Mismatch(field);
+    if (mending_ && calculations_ != calculations) {
+      // The value is stored; the next input may be the one that mends.
+      fields_.Left(field);
+      fields_.Use(field);
+    }
     return false;
   }
   fields_.Left(field);
@@ -149,15 +160,34 @@ void Session::Return(const Control& control) {
   }
 }
 
+std::string Session::LastAccepted() const {
+  const auto& refused = fields_.Refused();
+  if (!refused) return {};
+  const FieldRule& rule = refused->field->field;
+  return Shown(ReadInput(refused->before, rule.input), rule.Format());
+}
+
 bool Session::TakeBack() {
   if (!fields_.Refused()) return false;
   const RefusedValue refused = *fields_.Refused();
-  CopyInput(refused.before, st(), refused.field->field.input);
+  // What followed the value, such as loads cut to a new length, goes back with it.
+  if (SameInputs(st(), refused.after)) {
+    st() = refused.before;
+  } else {
+    CopyInput(refused.before, st(), refused.field->field.input);
+  }
   fields_.ForgetRefused();
   // The field stays in use, showing what is in force.
   if (fields_.IsTyped(*refused.field)) {
     fields_.Left(*refused.field);
     fields_.Use(*refused.field);
+  }
+  if (!NotCalculated().empty()) {
+    try {
+      Calculate();
+    } catch (const ArithmeticFault&) {
+      // As it was before the value came; the headline tells it.
+    }
   }
   return true;
 }

@@ -145,9 +145,8 @@ void SearchRow(Design& design, int row, OptimiserResults& results, const SearchP
 namespace {
 
 /// The remark of a row: see OptimiserRowView.
-std::string RemarkOf(const Design& design, const OptimiserRow& series) {
+std::string RemarkOf(const Design& design, const OptimiserRow& series, const Verdict& verdict) {
   std::string remark;
-  const Verdict verdict = VerdictOf(design);
   if (!verdict.Passes()) {
     remark = StandingWord(verdict.standing);
     if (!verdict.notes.empty()) remark += std::string(": ") + KindOf(verdict.notes[0].code).word;
@@ -157,6 +156,11 @@ std::string RemarkOf(const Design& design, const OptimiserRow& series) {
     remark += std::string(remark.empty() ? "" : "; ") + "without lateral torsional buckling";
   }
   return remark;
+}
+
+bool Fails(const Verdict& verdict, int criterion) {
+  return verdict.standing == Standing::Fails ||
+         (criterion != kCriterionUls && verdict.sls == Serviceability::Fails);
 }
 
 }  // namespace
@@ -173,7 +177,9 @@ OptimiserRowView ShowRow(const Design& design, int row, OptimiserResults& result
   view.surface = Format(view.g, "#0.00");
   view.ir = Format(view.IR, "#0.00");
   view.deflection = DeflectionText(design);
-  view.remark = RemarkOf(design, series);
+  const Verdict verdict = VerdictOf(design);
+  view.remark = RemarkOf(design, series, verdict);
+  view.fails = Fails(verdict, design.st.ResultView);
   return view;
 }
 

@@ -69,6 +69,8 @@ struct OptimiserRowView {
   /// What the ratio alone doesn't say: that the size doesn't pass by the verdict, with the code of
   /// its gravest note, and that lateral torsional buckling was off. Mostly empty.
   std::string remark;
+  /// By the verdict, in a limit state that the criterion names.
+  bool fails = false;
   double S = 0.0;  ///< kg/m
   double g = 0.0;  ///< m2/m
   double IR = 0.0;

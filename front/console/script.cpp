@@ -19,6 +19,15 @@ namespace {
 class ScriptPlatform : public Platform {
 public:
   explicit ScriptPlatform(std::ostream& out) : out_(out) {}
+  /// Nobody is there to be asked.
+  bool AskOverwrite(const std::string& path) override {
+    Remark(path + " has changed on disk since it was read, and is overwritten");
+    return true;
+  }
+  void Remark(const std::string& text) override {
+    const bool failed = text.find("not saved: ") != std::string::npos;
+    out_ << (failed ? "" : "remark: ") << text << "\n";
+  }
   std::optional<std::string> AskOpen(const std::string&, const std::string&) override {
     return Next();
   }
@@ -59,13 +68,15 @@ struct ScriptError : std::runtime_error {
 
 class Script {
 public:
-  Script(std::shared_ptr<const Library> library, bool comma, std::ostream& out)
-      : out_(out), platform_(out), session_(std::move(library), platform_, comma) {
+  Script(std::shared_ptr<const Library> library, bool comma, std::ostream& out, std::ostream& err)
+      : out_(out), err_(err), platform_(out), session_(std::move(library), platform_, comma) {
     session_.Start();
   }
 
-  void Run(const std::string& line) {
+  /// where: the line, for what is said of it.
+  void Run(const std::string& line, const std::string& where) {
     named_ = Named::Nothing;
+    where_ = where;
     auto [action, rest] = Split(line);
     rest.erase(0, std::min(rest.find_first_not_of(' '), rest.size()));
     using Handler = void (Script::*)(const std::string&);
@@ -126,6 +137,20 @@ private:
     return session_.OpenForms().empty() ? "korvane" : session_.OpenForms().back();
   }
 
+  /// Says that a person could not have used the control: the script goes on.
+  void RemarkUnusable(const std::string& address) {
+    RemarkUnusable(session_.Find(address), address);
+  }
+  void RemarkUnusable(const Control& c, const std::string& address) {
+    const char* why = !session_.Session::IsOpen(*c.form) ? " is on a form that isn't open"
+                      : !session_.Session::Visible(c)    ? " is hidden"
+                      : !session_.Session::Enabled(c)    ? " is disabled"
+                                                         : nullptr;
+    if (why == nullptr) return;
+    out_ << "remark: " << address << why << "\n";
+    err_ << where_ << address << why << "\n";
+  }
+
   /// Says where the focus is now.
   void ReportFocus() {
     const std::string key = session_.FocusedField();
@@ -135,22 +160,30 @@ private:
   }
 
   void Focus(const std::string& form) { session_.Focus(Name(Named::Form, form)); }
-  void MenuCommand(const std::string& name) { session_.Menu(Name(Named::Command, name)); }
+  void MenuCommand(const std::string& name) {
+    Name(Named::Command, name);
+    const Control* command = FindControl(*TheForms().main, name);
+    if (command != nullptr) RemarkUnusable(*command, name);
+    session_.Menu(name);
+  }
   void Enter(const std::string& rest) {
     const auto [control, text] = Split(rest);
-    if (!session_.Enter(Name(Named::Control, control), text)) ReportFocus();
+    RemarkUnusable(Name(Named::Control, control));
+    if (!session_.Enter(control, text)) ReportFocus();
   }
   void ReturnKey(const std::string& control) {
-    session_.Return(Name(Named::Control, control));
+    RemarkUnusable(Name(Named::Control, control));
+    session_.Return(control);
     ReportFocus();
   }
   void ClickOn(const std::string& control) {
-    session_.Click(Name(Named::Control, control));
+    RemarkUnusable(Name(Named::Control, control));
+    session_.Click(control);
     ReportMovedFocus();
   }
   void SelectEntry(const std::string& rest) {
     const auto [control, text] = Split(rest);
-    Name(Named::Control, control);
+    RemarkUnusable(Name(Named::Control, control));
     char* end = nullptr;
     const long index = std::strtol(text.c_str(), &end, 10);
     if (text.empty() || *end != '\0') throw ScriptError("select needs an index, not " + text);
@@ -197,6 +230,7 @@ private:
 
   void Results(const std::string&) {
     const Design& d = session_.design();
+    if (const std::string why = session_.NotCalculated(); !why.empty()) out_ << why << "\n";
     PrintView(SectionControlShort(d.st, d.checks));
     if (ShowsBuckling(d.st, d.forces.N)) {
       PrintView(BucklingShort(d.st, d.checks, d.buckling));
@@ -214,9 +248,14 @@ private:
     }
   }
 
-  void Json(const std::string&) { out_ << DesignJson(session_.design(), std::nullopt) << "\n"; }
+  void Json(const std::string&) {
+    const std::string why = session_.NotCalculated();
+    out_ << DesignJson(session_.design(), why.empty() ? std::nullopt : std::optional(why)) << "\n";
+  }
 
   std::ostream& out_;
+  std::ostream& err_;
+  std::string where_;
   ScriptPlatform platform_;
   NamedSession session_;
   Named named_ = Named::Nothing;
@@ -238,7 +277,7 @@ std::string Trimmed(std::string line) {
 
 int RunScript(std::shared_ptr<const Library> library, bool decimalComma, std::istream& in,
               std::ostream& out, std::ostream& err) {
-  Script script(std::move(library), decimalComma, out);
+  Script script(std::move(library), decimalComma, out, err);
   std::string line;
   for (int number = 1; !script.Ended() && std::getline(in, line); ++number) {
     if (number == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
@@ -247,7 +286,7 @@ int RunScript(std::shared_ptr<const Library> library, bool decimalComma, std::is
     if (line.empty() || line.front() == '#') continue;
     const std::string where = "line " + std::to_string(number) + ": ";
     try {
-      script.Run(line);
+      script.Run(line, where);
     } catch (const UnknownControl& error) {
       err << where << error.what() << script.Hint() << "\n";
       return kBadInput;

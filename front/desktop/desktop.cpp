@@ -2,13 +2,9 @@
 #include "front/desktop/desktop.h"
 
 #include <QApplication>
-#include <QDateTime>
-#include <QDir>
-#include <QStandardPaths>
 #include <QWindow>
 #include <utility>
 
-#include "core/project_file.h"
 #include "front/desktop/form_binder.h"
 #include "front/desktop/form_window.h"
 #include "front/desktop/main_window.h"
@@ -44,10 +40,8 @@ void Desktop::Act(const std::function<void()>& action) {
   ++busy_;
   try {
     action();
-  } catch (const CalculationFault& fault) {
-    Report(fault.Step(), fault.what());
   } catch (const ArithmeticFault& fault) {
-    Report({}, fault.what());
+    Report(fault.what());
   }
   if (session_.Ended()) {
     ended_ = true;
@@ -158,23 +152,10 @@ void Desktop::PlaceFocus() {
   }
 }
 
-void Desktop::Report(const std::string& step, const char* what) {
-  const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-  folder.mkpath(QStringLiteral("."));
-  const QString path =
-      folder.filePath(QStringLiteral("recovery-") +
-                      QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss")) +
-                      QStringLiteral(".kvn"));
-  const bool saved(SaveProject(path.toStdString(), session_.st()));
-  QString text = tr("The calculation failed in the step %1 and the program ends.")
-                     .arg(QString::fromStdString(step.empty() ? std::string(what) : step));
-  text += QStringLiteral("\n\n");
-  text += saved ? tr("The project as it stands was written to\n%1\nOpen it with File, Open, and "
-                     "change the last input.")
-                      .arg(path)
-                : tr("The project could not be written to\n%1").arg(path);
+void Desktop::Report(const char* what) {
+  const FailureReport report = ReportOf(session_, what);
   session_.End();
-  emit Failed(text);
+  emit Failed(report);
 }
 
 }  // namespace korvane

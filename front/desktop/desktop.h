@@ -8,6 +8,7 @@
 #include <map>
 #include <string>
 
+#include "front/failure_report.h"
 #include "front/session.h"
 
 namespace korvane {
@@ -55,12 +56,12 @@ signals:
   void Refreshed();
   void Ended();
   /// An arithmetic failure outside a text field: what a person has to know before the end.
-  void Failed(const QString& report);
+  void Failed(const korvane::FailureReport& report);
 
 private:
   void SyncWindows();
   void PlaceFocus();
-  void Report(const std::string& step, const char* what);
+  void Report(const char* what);
 
   Session& session_;
   int busy_ = 0;

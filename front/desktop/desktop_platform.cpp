@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QSettings>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -31,6 +32,10 @@ QString RecentKey(const std::string& key) {
 }
 
 }  // namespace
+
+bool WritesComma(const QLocale& locale) {
+  return locale.decimalPoint() == QLatin1String(",");
+}
 
 DesktopPlatform::DesktopPlatform() = default;
 
@@ -68,6 +73,17 @@ std::optional<std::string> DesktopPlatform::AskOpen(const std::string& filter,
 std::optional<std::string> DesktopPlatform::AskSave(const std::string& filter,
                                                     const std::string& extension) {
   return AskFile(true, filter, extension);
+}
+
+bool DesktopPlatform::AskOverwrite(const std::string& path) {
+  QMessageBox box(QMessageBox::Warning, QStringLiteral("KORVANE-NS3472"),
+                  tr("%1\nhas changed on disk since it was read. Overwrite it?")
+                      .arg(QString::fromStdString(path)),
+                  QMessageBox::Cancel, Owner());
+  QPushButton* overwrite = box.addButton(tr("Overwrite"), QMessageBox::AcceptRole);
+  box.setDefaultButton(QMessageBox::Cancel);
+  box.exec();
+  return box.clickedButton() == overwrite;
 }
 
 void DesktopPlatform::Message(const std::string& text) {

@@ -2,6 +2,7 @@
 // The platform of the windows: settings, dialogs, message boxes, printer and clock of Qt.
 #pragma once
 
+#include <QLocale>
 #include <QObject>
 #include <QPointer>
 #include <QPrinter>
@@ -13,6 +14,9 @@
 #include "presentation/aprint.h"
 
 namespace korvane {
+
+/// Whether fields show a decimal comma under a locale.
+bool WritesComma(const QLocale& locale);
 
 class DesktopPlatform : public QObject, public Platform {
   Q_OBJECT
@@ -30,6 +34,7 @@ public:
                                      const std::string& extension) override;
   std::optional<std::string> AskSave(const std::string& filter,
                                      const std::string& extension) override;
+  bool AskOverwrite(const std::string& path) override;
   /// The box comes up when the action that said so is over and its result is on the screen.
   void Message(const std::string& text) override;
   void Beep() override;

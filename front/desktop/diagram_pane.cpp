@@ -8,6 +8,7 @@
 #include <cmath>
 #include <map>
 
+#include "front/desktop/diagram_names.h"
 #include "front/desktop/theme.h"
 #include "front/painter/painter_target.h"
 #include "front/pane_text.h"
@@ -59,9 +60,15 @@ DiagramData DataOf(const Session& s) {
 
 DiagramBox::DiagramBox(const Session& session, DiagramKind kind, QWidget* parent)
     : Pane(session, parent), kind_(kind) {
+  NameDiagramsWhenAsked();
   setMouseTracking(true);
   setFocusPolicy(Qt::TabFocus);
   setObjectName(QString::fromUtf8(InfoOf(kind).control));
+}
+
+QString DiagramBox::Texts() const {
+  return QString::fromStdString(
+      session_.OnScreen(PaneText(session_.design(), objectName().toStdString())));
 }
 
 void DiagramBox::SetScale(double unit, double letters) {
@@ -133,9 +140,7 @@ void DiagramPane::Refresh() {
                                [](DiagramKind k, const DiagramBox* b) { return b->kind() == k; });
   if (!same) Rebuild(kinds);
   for (DiagramBox* box : boxes_) {
-    const std::string control = box->objectName().toStdString();
-    box->setAccessibleName(
-        QString::fromStdString(session_.OnScreen(PaneText(session_.design(), control))));
+    TellNewName(*box);
     box->Refresh();
   }
   Arrange();

@@ -16,6 +16,8 @@ class DiagramBox : public Pane {
 public:
   DiagramBox(const Session& session, DiagramKind kind, QWidget* parent);
   DiagramKind kind() const { return kind_; }
+  /// The texts in the diagram as a screen reader is told them.
+  QString Texts() const;
   /// Grid units per pixel of height decide; the letters keep their size on the screen.
   void SetScale(double unit, double letters);
   /// Relative position of the hairline; below 0: none.

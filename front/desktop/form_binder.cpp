@@ -3,11 +3,13 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <optional>
 
 #include "front/desktop/desktop.h"
@@ -47,6 +49,11 @@ private:
 
 void ShowText(QLabel* label, const QString& text) {
   if (label->text() != text) label->setText(text);
+}
+
+void ShowAlarm(QLabel* label, bool alarm, QPalette palette) {
+  if (alarm) palette.setColor(QPalette::WindowText, ColourFor(Role::Fail, palette));
+  label->setPalette(palette);
 }
 
 bool IsReturn(const QEvent* event) {
@@ -98,7 +105,10 @@ void FormBinder::BindOne(const Control& control, QWidget* widget) {
   } else if (auto* label = qobject_cast<QLabel*>(widget)) {
     // A literal caption stays as it was made.
     if (c->text) {
-      bound.refresh = [this, label, c] { ShowText(label, Q(desktop_.session().Text(*c))); };
+      bound.refresh = [this, label, c] {
+        ShowText(label, Q(desktop_.session().Text(*c)));
+        if (c->alarm) ShowAlarm(label, c->alarm(desktop_.session()), root_->palette());
+      };
     }
   } else if (auto* pane = qobject_cast<Pane*>(widget)) {
     bound.refresh = [pane] { pane->Refresh(); };
@@ -265,6 +275,10 @@ bool FormBinder::FieldEvent(const Control& field, QLineEdit* edit, QEvent* event
     desktop_.Act([&] { s.TakeBack(); });
     return true;
   }
+  if (event->type() == QEvent::ContextMenu && s.IsRefused(field)) {
+    OfferLastAccepted(edit, static_cast<QContextMenuEvent*>(event)->globalPos());
+    return true;
+  }
   if (event->type() == QEvent::FocusIn) {
     FieldGainsFocus(field, edit, static_cast<QFocusEvent*>(event)->reason());
   }
@@ -280,6 +294,21 @@ bool FormBinder::FieldEvent(const Control& field, QLineEdit* edit, QEvent* event
     }
   }
   return false;
+}
+
+/// The menu of a refused field begins with the value that Escape puts back.
+void FormBinder::OfferLastAccepted(QLineEdit* edit, const QPoint& where) {
+  Session& s = desktop_.session();
+  QMenu* menu = edit->createStandardContextMenu();
+  menu->setObjectName(QStringLiteral("refusedfield"));
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  auto* back = new QAction(tr("Put back %1").arg(Q(s.LastAccepted())), menu);
+  back->setObjectName(QStringLiteral("putback"));
+  back->setShortcut(QKeySequence(Qt::Key_Escape));
+  connect(back, &QAction::triggered, this, [this, &s] { desktop_.Act([&s] { s.TakeBack(); }); });
+  menu->insertAction(menu->actions().value(0), back);
+  menu->insertSeparator(menu->actions().value(1));
+  menu->popup(where);
 }
 
 void FormBinder::FieldGainsFocus(const Control& field, QLineEdit* edit, Qt::FocusReason reason) {

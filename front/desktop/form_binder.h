@@ -52,6 +52,7 @@ private:
   void BindOpenList(Bound& bound, SizeList* list);
   void Describe(const Bound& bound) const;
   bool FieldEvent(const Control& field, QLineEdit* edit, QEvent* event);
+  void OfferLastAccepted(QLineEdit* edit, const QPoint& where);
   void FieldGainsFocus(const Control& field, QLineEdit* edit, Qt::FocusReason reason);
 
   Desktop& desktop_;

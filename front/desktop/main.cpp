@@ -2,8 +2,11 @@
 // The desktop program.
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
+#include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
 #include <algorithm>
@@ -17,9 +20,9 @@
 #include "front/desktop/help_desk.h"
 #include "front/desktop/main_window.h"
 #include "front/desktop/own_folder.h"
+#include "front/desktop/recovery.h"
 #include "front/desktop/screenshots.h"
 #include "front/desktop/theme.h"
-#include "front/locale.h"
 #include "front/named_session.h"
 #include "front/system.h"
 
@@ -93,13 +96,25 @@ protected:
   }
 };
 
+/// The program ends, and another one begins with the same data and colours.
+void StartAgain(const QCommandLineParser& parser, QStringList arguments) {
+  for (const char* name : {"data", "theme"}) {
+    const QString option = QString::fromLatin1(name);
+    if (parser.isSet(option)) arguments << QStringLiteral("--") + option << parser.value(option);
+  }
+  if (!QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments)) {
+    std::fprintf(stderr, "korvane: the program can't be started again\n");
+  }
+}
+
 int Run(QApplication& app, const QCommandLineParser& parser, const QString& screenshots) {
   const auto library =
       ReadLibrary(FindDataFolder(parser.value(QStringLiteral("data")).toStdString()));
   DesktopPlatform platform;
-  NamedSession session(library, platform, LocaleWritesComma(),
-                       FoldersOf(library->folder, QStandardPaths::writableLocation(
-                                                      QStandardPaths::AppDataLocation)));
+  const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+  Folders folders = FoldersOf(library->folder, own);
+  folders.ownDefaults = !parser.isSet(QStringLiteral("program-defaults"));
+  NamedSession session(library, platform, WritesComma(QLocale::system()), folders);
   session.Start();
   Desktop desktop(session);
   platform.SetWindow(&desktop.window());
@@ -113,15 +128,16 @@ int Run(QApplication& app, const QCommandLineParser& parser, const QString& scre
     app.closeAllWindows();
     app.quit();
   });
-  QObject::connect(&desktop, &Desktop::Failed, &desktop.window(), [&desktop](const QString& text) {
-    QMessageBox::critical(&desktop.window(), QString(), text);
-  });
   if (!screenshots.isEmpty()) return WriteScreenshots(desktop, session, screenshots) ? 0 : 1;
-  if (parser.isSet(QStringLiteral("until-painted"))) {
-    desktop.window().installEventFilter(new FirstPaint(&desktop));
-  }
+  Recovery recovery(desktop, QDir(own).filePath(QStringLiteral("kept")));
+  QObject::connect(&recovery, &Recovery::StartAgain, &app,
+                   [&parser](QStringList arguments) { StartAgain(parser, std::move(arguments)); });
+  const bool painted = parser.isSet(QStringLiteral("until-painted"));
+  if (painted) desktop.window().installEventFilter(new FirstPaint(&desktop));
+  const QString kept = parser.value(QStringLiteral("recover"));
+  const bool tookUp = !kept.isEmpty() ? recovery.TakeUp(kept) : !painted && recovery.Offer();
   desktop.window().show();
-  if (const QStringList files = parser.positionalArguments(); !files.isEmpty()) {
+  if (const QStringList files = parser.positionalArguments(); !files.isEmpty() && !tookUp) {
     desktop.OpenFile(QFileInfo(files.first()).absoluteFilePath());
   }
   // A window system that activates nothing must not leave the first calculation out.
@@ -147,12 +163,17 @@ int main(int argc, char** argv) {
   shots.setFlags(QCommandLineOption::HiddenFromHelp);
   QCommandLineOption painted(QStringLiteral("until-painted"));
   painted.setFlags(QCommandLineOption::HiddenFromHelp);
+  QCommandLineOption recover(QStringLiteral("recover"), QString(), QStringLiteral("KEPT"));
+  recover.setFlags(QCommandLineOption::HiddenFromHelp);
   parser.addOptions(
       {{QStringLiteral("data"), QApplication::tr("Data folder"), QStringLiteral("FOLDER")},
        {QStringLiteral("theme"), QApplication::tr("light, dark or system"),
         QStringLiteral("THEME")},
+       {QStringLiteral("program-defaults"),
+        QApplication::tr("Start with the program's default values, not with your own")},
        shots,
-       painted});
+       painted,
+       recover});
   QStringList arguments;
   for (const std::string& word : CommandWords(argc, argv))
     arguments << QString::fromStdString(word);

@@ -24,6 +24,7 @@
 #include "front/desktop/own_folder.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
+#include "front/save_words.h"
 
 namespace korvane {
 
@@ -46,6 +47,9 @@ MainWindow::MainWindow(Desktop& desktop) : desktop_(desktop) {
   progress_->setMaximumHeight(Ems(this, 1.2));
   progress_->hide();
   statusBar()->addPermanentWidget(progress_);
+  saving_ = new QLabel;
+  saving_->setObjectName(QStringLiteral("saving"));
+  statusBar()->addPermanentWidget(saving_);
   for (DiagramPane* plane : planes_) {
     connect(plane, &DiagramPane::Pointed, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
@@ -128,8 +132,19 @@ void MainWindow::RefreshMenus() {
   }
 }
 
+void MainWindow::RefreshSaving() {
+  const Session& s = desktop_.session();
+  const QString mark = s.files().Modified() ? QStringLiteral(" *") : QString();
+  setWindowTitle(QString::fromStdString(s.Title(*TheForms().main)) + mark);
+  const SaveWords words = SaveWordsOf(s);
+  saving_->setText(QString::fromStdString(words.text));
+  QPalette colours = palette();
+  if (words.failed) colours.setColor(QPalette::WindowText, ColourFor(Role::Fail, palette()));
+  saving_->setPalette(colours);
+}
+
 void MainWindow::Refresh() {
-  setWindowTitle(QString::fromStdString(desktop_.session().Title(*TheForms().main)));
+  RefreshSaving();
   RefreshMenus();
   for (DiagramPane* plane : planes_) plane->Refresh();
   // The verdict is no control of the form.

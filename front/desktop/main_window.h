@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <vector>
 
+class QLabel;
 class QProgressBar;
 class QSplitter;
 
@@ -42,6 +43,7 @@ private:
   void MakeMenus();
   void AddKeys();
   void RefreshMenus();
+  void RefreshSaving();
   void Refresh();
   QWidget* InputColumn(WidgetMaker& maker);
   QWidget* ResultSide(WidgetMaker& maker);
@@ -57,6 +59,7 @@ private:
   std::vector<DiagramPane*> planes_;
   std::vector<QSplitter*> splitters_;
   QProgressBar* progress_ = nullptr;
+  QLabel* saving_ = nullptr;
 };
 
 }  // namespace korvane

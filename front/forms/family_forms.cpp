@@ -195,6 +195,17 @@ void AddClassLabel(const Family& family, Form& form) {
   Put(form, std::move(c));
 }
 
+/// Hollow sections set no Iw: their forms, and not their pages, show what the record holds of the
+/// section before. Kept.
+void AddWarpingConstant(const Family& family, std::string_view symbol, Form& form) {
+  if (family.outline != OutlineKind::Hollow || symbol != "Iz") return;
+  Control c = TextLabel(
+      "ostiw", [](const Session& s) { return s.Shown(s.design().rec.Iw, "0.000E+0") + " mm6"; });
+  c.caption = "Iw =";
+  c.block = Block::Properties;
+  Put(form, std::move(c));
+}
+
 /// One label for each value of a block: its caption is the symbol.
 void AddBlock(const Family& family, Block block, std::vector<Wanted>& wanted, Form& form) {
   S st;
@@ -215,6 +226,7 @@ void AddBlock(const Family& family, Block block, std::vector<Wanted>& wanted, Fo
     label.value = static_cast<int>(wanted.size());
     wanted.push_back({block, v.name, own.unit});
     Put(form, std::move(label));
+    AddWarpingConstant(family, v.name, form);
   }
 }
 

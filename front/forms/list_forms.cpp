@@ -27,6 +27,11 @@ Control RowField(const std::string& name, int row, std::string OptimiserRowView:
   });
 }
 
+Control OfFailing(int row, Control control) {
+  control.alarm = [row](const Session& s) { return RowFails(s.rows(), row); };
+  return control;
+}
+
 OptimiserControls::Row AddRow(Form& form, int row) {
   const auto included = [row](const Session& s) { return s.rows().row[row].included; };
   const OptimiserRow& series = OptimiserRowOf(row);
@@ -45,11 +50,11 @@ OptimiserControls::Row AddRow(Form& form, int row) {
   on.name = Put(form, RowField("oname", row, &OptimiserRowView::name));
   on.weight = Put(form, RowField("oweight", row, &OptimiserRowView::weight));
   on.surface = Put(form, RowField("osurface", row, &OptimiserRowView::surface));
-  on.ir = Put(form, RowField("oir", row, &OptimiserRowView::ir));
+  on.ir = Put(form, OfFailing(row, RowField("oir", row, &OptimiserRowView::ir)));
   on.deflection = Put(form, RowField("odefl", row, &OptimiserRowView::deflection));
-  on.words = Put(form, TextLabel("owords" + std::to_string(row), [row](const Session& s) {
-                   return std::string(WordsOf(s.rows(), row));
-                 }));
+  on.words = Put(
+      form, OfFailing(row, TextLabel("owords" + std::to_string(row),
+                                     [row](const Session& s) { return WordsOf(s.rows(), row); })));
   return on;
 }
 
@@ -148,7 +153,7 @@ void SaveDatabase(Session& s) {
   const auto path = s.platform().AskSave("*.db", "db");
   if (!path) return;
   s.database().DbFile = *path;
-  WriteDatabase(*path, s.database());
+  s.files().WroteDatabase(WriteDatabase(*path, s.database()));
   s.files().SetTitle(s.st().FamilyName + ": " + *path);
 }
 
@@ -177,6 +182,10 @@ void AddOptimiserForm(Forms& forms) {
                     return "UFmax = " + s.Shown(s.st().iufa, "#0.00");
                   }));
   for (int row = 1; row <= kOptimiserRows; ++row) on.rows[row] = AddRow(form, row);
+  Control untested =
+      Label("onodefl", "End forces give no deflections: the deflection is not tested");
+  untested.visible = [](const Session& s) { return s.st().AnalysisMode != 1; };
+  Put(form, std::move(untested));
   Put(form, Label("onote", "Note: All optimization is based on profile weight"));
   Put(form, Button("Command2", "OK", [](Session& s) {
         TakeOverRow(s.design(), s.rows().results);

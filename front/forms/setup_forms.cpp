@@ -42,8 +42,9 @@ void AddDefaults(Forms& forms) {
   Put(form, Input("ilfv2_Sls", "SLS Variable (V2) =", Calculated(&S::lfv2_sls)));
   Put(form, Input("ilfsw_ULS", "Selfweight =", Calculated(&S::lfsw_uls)));
   Put(form, SlsFactorLabel());
-  Put(form, Button("Command2", "Save to file",
-                   [](Session& s) { WriteDefaults(s.folders().own, s.st()); }));
+  Put(form, Button("Command2", "Save to file", [](Session& s) {
+        s.files().WroteDefaults(WriteDefaults(s.folders().own, s.st()));
+      }));
   Put(form, Button("Command1", "OK", [](Session& s) {
         s.Calculate();
         s.FillMainWindow();

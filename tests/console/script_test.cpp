@@ -109,9 +109,34 @@ TEST(ScriptAction, ClickSelectAndMenuDoWhatTheirControlsDo) {
       "Cbo = IPE 80\nobeam = IPE80\n");
 }
 
-TEST(ScriptAction, ClickOnALockedControlDoesNothing) {
-  EXPECT_EQ(Output("focus korvane\nclick cmd_modresult\nshow cmd_modresult\n"),
-            "cmd_modresult = Modeshape 1-3 [disabled]\n");
+/// What a person could not have done is remarked, with its line, and the script goes on.
+void ExpectRemark(const std::string& script, const std::string& line, const std::string& words,
+                  const std::string& rest = {}) {
+  const Played run = Play(script);
+  EXPECT_EQ(run.status, 0) << script;
+  EXPECT_EQ(run.output, "remark: " + words + "\n" + rest) << script;
+  EXPECT_EQ(run.errors, line + ": " + words + "\n") << script;
+}
+
+TEST(ScriptAction, ClickOnALockedControlDoesNothingAndIsRemarked) {
+  ExpectRemark("focus korvane\nclick cmd_modresult\nshow cmd_modresult\n", "line 2",
+               "cmd_modresult is disabled", "cmd_modresult = Modeshape 1-3 [disabled]\n");
+  ExpectRemark("focus korvane\n\nclick korvane.ULS\n", "line 3", "korvane.ULS is hidden");
+  ExpectRemark("menu mnurecentfile(2)\n", "line 1", "mnurecentfile(2) is hidden");
+}
+
+TEST(ScriptAction, EnterIntoWhatNobodyCouldUseIsRemarkedAndGoesOn) {
+  ExpectRemark("focus korvane\nenter ispring 40\n", "line 2", "ispring is hidden");
+  ExpectRemark("focus korvane\nenter ifyk 300\nshow ifyk\n", "line 2", "ifyk is disabled",
+               "ifyk = 355 [disabled]\n");
+  ExpectRemark("focus korvane\nenter loading.iq1 12\nmenu mnuload1\nshow iq1\n", "line 2",
+               "loading.iq1 is on a form that isn't open", "iq1 = 12.0\n");
+  ExpectRemark("focus korvane\nclick setup.check_slend\n", "line 2",
+               "setup.check_slend is on a form that isn't open");
+  ExpectRemark("focus korvane\nselect p01.Cbo 3\n", "line 2",
+               "p01.Cbo is on a form that isn't open");
+  ExpectRemark("focus korvane\nreturn loading.iq2\n", "line 2",
+               "loading.iq2 is on a form that isn't open", "focus: loading.iq3\n");
 }
 
 TEST(ScriptAction, CloseLeavesAFormUnlessItRefuses) {
@@ -140,7 +165,38 @@ TEST(ScriptAction, SaveAndOpenAnswerTheirDialogs) {
   EXPECT_EQ(Output("open " + (folder / "none.kvn") + "\n"),
             "message: can't find file - " + (folder / "none.kvn") + "\n");
   EXPECT_EQ(Output("save " + (folder / "no/such.kvn") + "\n"),
-            "message: can't save file - " + (folder / "no/such.kvn") + "\n");
+            "message: can't save file - " + (folder / "no/such.kvn") +
+                "\nnot saved: the folder doesn't exist\n");
+}
+
+TEST(ScriptAction, ASavingThatFailsIsTold) {
+  const TempFolder folder;
+  const std::string file = folder / "a.kvn";
+  PutFile(file, "mine");
+  std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+  EXPECT_EQ(Output("save " + file + "\n"), "not saved: the file is read-only\n");
+  EXPECT_EQ(GetFile(file), "mine");
+  EXPECT_EQ(Output("answer " + file + "\nmenu mnudb\nclick save_db\n"),
+            "database not saved: the file is read-only\n");
+}
+
+TEST(ScriptAction, ASavingOverAFileThatHasChangedIsRemarked) {
+  const TempFolder folder;
+  const std::string file = folder / "a.kvn";
+  // A database under the project's name changes what the project has written.
+  EXPECT_EQ(Output("enter il 7\nsave " + file + "\nanswer " + file +
+                   "\nmenu mnudb\nclick save_db\nmenu mnusave\n"),
+            "remark: " + file + " has changed on disk since it was read, and is overwritten\n");
+  EXPECT_EQ(Output("open " + file + "\nshow il\n"), "il = 7.000\n");
+}
+
+TEST(ScriptAction, ResultsThatDontHoldSayWhy) {
+  const auto lines = Lines(Output("focus korvane\nenter il 0.01\nresults\n"));
+  EXPECT_NE(std::find(lines.begin(), lines.end(), "not calculated: L 0.010 m is refused"),
+            lines.end());
+  const std::string json = Output("focus korvane\nenter il 0.01\njson\n");
+  EXPECT_EQ(nlohmann::json::parse(json.substr(json.find('{'))).at("fault"),
+            "not calculated: L 0.010 m is refused");
 }
 
 TEST(ScriptAction, AnswerIsForTheNextDialog) {
@@ -247,7 +303,7 @@ TEST(ScriptShow, TellsTheTextByTheKindAndTheStateInOrder) {
            {"menu mnup10\nfocus korvane\nshow obuckling0",
             "obuckling0 = Plastic section modulus [disabled] [checked]"},
            {"menu mnuopt\nshow idef_limit", "idef_limit = 300 [disabled] [hidden]"},
-           {"click ULS\nclick optimize\nclick ULS\nfocus korvane\nshow ULS",
+           {"click optimize\nclick ULS\nfocus korvane\nshow ULS",
             "ULS = ULS (Buckling/Section Control) [hidden]"},
            {"click optimize\nclick ULS\nshow ULS",
             "ULS = ULS (Buckling/Section Control) [checked]"},

@@ -70,6 +70,22 @@ INSTANTIATE_TEST_SUITE_P(Families, FormLabels, ::testing::ValuesIn(kLabels), [](
   return std::string(test.param.form) + "_" + test.param.control + "_" + std::to_string(test.index);
 });
 
+// A hollow section sets no Iw: the field keeps what it held.
+TEST(FormLabels, HollowSectionsShowTheIwOfTheSectionBefore) {
+  Running r;
+  r.session.Menu("mnup01");
+  r.session.Select("Cbo", 5);
+  const std::string before = r.session.Text("p01.ostiw");
+  EXPECT_NE(before, "0.000E+0 mm6");
+  for (const char* form : {"p06", "p07", "p08", "p09"}) {
+    r.session.Menu(std::string("mnu") + form);
+    r.session.Select("Cbo", 3);
+    EXPECT_EQ(r.session.Text(std::string(form) + ".ostiw"), before) << form;
+    EXPECT_EQ(FindControl(*FindForm(form), "ostiw")->caption, "Iw =");
+  }
+  EXPECT_EQ(FindControl(*FindForm("p31"), "ostiw"), nullptr);
+}
+
 TEST(FormLabels, TheSingleSymmetricSectionHasNoTorsionConstant) {
   const Form& form = *FindForm("p22");
   for (const char* absent : {"ostix", "ostwplz", "ostweffz"}) {

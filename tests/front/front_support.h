@@ -16,6 +16,12 @@ namespace korvane::testing {
 class RememberingPlatform : public Platform {
 public:
   void Message(const std::string& text) override { messages.push_back(text); }
+  void Remark(const std::string& text) override { remarks.push_back(text); }
+  bool AskOverwrite(const std::string& path) override {
+    overwriteAsked.push_back(path);
+    return overwrite;
+  }
+  DateTime Now() override { return {2026, 3, 1, 14, 5}; }
   void Beep() override { ++beeps; }
   std::optional<std::string> AskOpen(const std::string& filter, const std::string&) override {
     filters.push_back(filter);
@@ -35,7 +41,8 @@ public:
   }
   void OpenHelp(const std::string& topic) override { help.push_back(topic); }
 
-  std::vector<std::string> messages, filters, help, notices;
+  std::vector<std::string> messages, remarks, filters, help, notices, overwriteAsked;
+  bool overwrite = false;  ///< answer to the question about a file that has changed
   std::deque<std::optional<std::string>> answers;
   std::optional<PrintJob> print;
   std::vector<std::pair<int, int>> printed;

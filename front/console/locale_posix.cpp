@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "front/locale.h"
+#include "front/console/locale.h"
 
 namespace korvane {
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/windows_text.h"
-#include "front/locale.h"
+#include "front/console/locale.h"
 
 namespace korvane {
 

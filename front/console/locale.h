@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How the person's system writes numbers.
+// How the person's system writes numbers, for a program without Qt.
 #pragma once
 
 namespace korvane {
