@@ -58,4 +58,25 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ
   GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+if(KORVANE_PYTHON)
+  # A package of its own: whoever runs scripts needs no window, and the program no Python.
+  set(KORVANE_PYTHON_DOC ${CMAKE_INSTALL_DATADIR}/doc/python3-korvane)
+  install(FILES packaging/copyright ${KORVANE_CHANGELOG} DESTINATION ${KORVANE_PYTHON_DOC}
+    COMPONENT python)
+  file(GLOB KORVANE_PYTHON_EXAMPLES ${CMAKE_SOURCE_DIR}/examples/python/*.py)
+  install(FILES ${KORVANE_PYTHON_EXAMPLES} DESTINATION ${KORVANE_PYTHON_DOC}/examples
+    COMPONENT python)
+  set(CPACK_DEB_COMPONENT_INSTALL ON)
+  set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_NAME korvane)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-korvane)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "${KORVANE_PYTHON_VERSIONS}, python3-numpy")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_RECOMMENDS "korvane, python3-pandas")
+  set(CPACK_DEBIAN_PYTHON_DESCRIPTION
+"design of steel members to NS 3472 from Python
+ KORVANE designs one steel member, a column or a beam, to NS 3472, 3rd
+ edition. This is its module for Python: members by the names of their
+ fields, tables of members in arrays and frames, studies, drawings and
+ reports.")
+endif()
 include(CPack)

@@ -39,6 +39,8 @@ const pages = [
   ["files.html", "Files", "Tools"],
   ["console.html", "The console program", "Tools"],
   ["tables.html", "Tables of members and studies", "Tools"],
+  ["python.html", "Python", "Tools"],
+  ["clusters.html", "Many machines", "Tools"],
   ["fails.html", "It fails, what now?", "When in doubt"],
   ["notes.html", "Verdict and notes", "When in doubt"],
   ["messages.html", "Messages and what to do", "When in doubt"],
