@@ -43,7 +43,7 @@ bool ReadBeginning(const TableOptions& options, TableReader& reader, TablePlan& 
   const char separator = plan.manner.separator;
   const std::string headings(reader.Row(separator));
   if (headings.empty()) {
-    errors << "the table is empty\n";
+    if (!reader.Failed()) errors << "the table is empty\n";
     return false;
   }
   plan.manner.carriageReturns = headings.ends_with("\r\n");
@@ -151,7 +151,14 @@ int DesignTable(std::shared_ptr<const Library> library, const TableOptions& opti
   if (!results) return kBadInput;
   plan.results = std::move(*results);
   TableReader reader(in);
-  if (!ReadBeginning(options, reader, plan, errors)) return kBadInput;
+  const auto failed = [&] {
+    if (reader.Failed()) errors << "can't read file - " << NameOnErrors(options.members) << '\n';
+    return reader.Failed();
+  };
+  if (!ReadBeginning(options, reader, plan, errors)) {
+    failed();
+    return kBadInput;
+  }
   const Share share = ShareOf(options, reader.Offset(), size);
   const MemberInputs inputs(library);
   ProgressBar bar(errors, showProgress, "members");
@@ -171,7 +178,7 @@ int DesignTable(std::shared_ptr<const Library> library, const TableOptions& opti
         return bool(out);
       });
   bar.Finish();
-  return kAllPass;
+  return failed() ? kBadInput : kAllPass;
 }
 
 int RunTable(std::shared_ptr<const Library> library, const TableOptions& options,

@@ -72,6 +72,8 @@ public:
   std::size_t Offset() const { return offset_; }
   std::size_t Rows() const { return rows_; }
   void Skip(std::size_t bytes);
+  /// Whether the disk failed before the end.
+  bool Failed() const;
 
 private:
   bool Fill();
