@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <iostream>
 #include <streambuf>
 
@@ -55,8 +56,13 @@ std::optional<std::string> ReadInput(const std::string& path, bool* notFound) {
     std::cin.read(some.data(), some.size());
     bytes.append(some.data(), static_cast<std::size_t>(std::cin.gcount()));
   } while (std::cin);
-  if (std::cin.bad()) return std::nullopt;
+  if (ReadingFailed(std::cin)) return std::nullopt;
   return bytes;
+}
+
+bool ReadingFailed(const std::istream& in) {
+  // The standard input reads through the C library, whose failures look like its end.
+  return in.bad() || (&in == &std::cin && std::ferror(stdin) != 0);
 }
 
 void TellNotSaved(const std::string& path, const WriteResult& result, std::ostream& errors) {

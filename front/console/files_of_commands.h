@@ -19,6 +19,9 @@ inline constexpr std::string_view kStandardStream = "-";
 /// The bytes of a file, or of the standard input for "-"; nothing when it can't be read.
 std::optional<std::string> ReadInput(const std::string& path, bool* notFound = nullptr);
 
+/// Whether a stream came to its end because the disk failed: what it gave is a part only.
+bool ReadingFailed(const std::istream& in);
+
 /// Says that a file was not written, and why.
 void TellNotSaved(const std::string& path, const WriteResult& result, std::ostream& errors);
 

@@ -8,6 +8,7 @@
 
 #include "front/console/design_text.h"
 #include "front/console/exit_status.h"
+#include "front/console/files_of_commands.h"
 #include "front/design_json.h"
 #include "front/named_session.h"
 #include "front/nearest.h"
@@ -309,6 +310,10 @@ int RunScript(std::shared_ptr<const Library> library, bool decimalComma, std::is
       err << where << "arithmetic failure: " << fault.what() << "\n";
       return kArithmeticFailure;
     }
+  }
+  if (ReadingFailed(in)) {
+    err << "can't read the script to its end\n";
+    return kBadInput;
   }
   return script.NotSaved() ? kBadInput : kAllPass;
 }

@@ -46,7 +46,7 @@ bool ReadBeginning(const TableOptions& options, TableReader& reader, TablePlan& 
   const char separator = plan.manner.separator;
   const std::string headings(reader.Row(separator));
   if (headings.empty()) {
-    errors << "the table is empty\n";
+    if (!reader.Failed()) errors << "the table is empty\n";
     return false;
   }
   plan.manner.carriageReturns = headings.ends_with("\r\n");
@@ -177,7 +177,14 @@ int DesignTable(std::shared_ptr<const Library> library, const TableOptions& opti
   if (!results) return kBadInput;
   plan.results = std::move(*results);
   TableReader reader(in);
-  if (!ReadBeginning(options, reader, plan, errors)) return kBadInput;
+  const auto failed = [&] {
+    if (reader.Failed()) errors << "can't read file - " << NameOnErrors(options.members) << '\n';
+    return reader.Failed();
+  };
+  if (!ReadBeginning(options, reader, plan, errors)) {
+    failed();
+    return kBadInput;
+  }
   const Share share = ShareOf(options, reader.Offset(), size);
   if (reader.Seek(reader.Offset(), share.begin)) {
     plan.rowsBefore = RowsInFront(options.members, plan.manner.separator, reader.Offset());
@@ -200,7 +207,7 @@ int DesignTable(std::shared_ptr<const Library> library, const TableOptions& opti
         return bool(out);
       });
   bar.Finish();
-  return kAllPass;
+  return failed() ? kBadInput : kAllPass;
 }
 
 int RunTable(std::shared_ptr<const Library> library, const TableOptions& options,

@@ -9,6 +9,7 @@
 #include <set>
 #include <sstream>
 
+#include "front/console/files_of_commands.h"
 #include "front/console/terminal.h"
 #include "front/json_writer.h"
 #include "front/nearest.h"
@@ -174,6 +175,10 @@ bool TableReader::Fill() {
   buffer_.resize(had + got);
   ended_ = got < kReadAtOnce;
   return got > 0;
+}
+
+bool TableReader::Failed() const {
+  return ReadingFailed(in_);
 }
 
 std::string_view TableReader::Ahead(std::size_t bytes) {

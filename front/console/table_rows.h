@@ -81,6 +81,8 @@ public:
   /// where the longest row before the place doesn't tell: it holds a quote or no line end. first:
   /// where the rows begin.
   bool Seek(std::size_t first, std::size_t place);
+  /// Whether the disk failed before the end.
+  bool Failed() const;
 
 private:
   bool Fill();

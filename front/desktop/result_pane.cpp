@@ -22,11 +22,6 @@ const TextRun* ValueOf(const ViewLine& line) {
   return it == line.runs.end() ? nullptr : &*it;
 }
 
-bool Fails(const ViewLine& line) {
-  return std::any_of(line.runs.begin(), line.runs.end(),
-                     [](const TextRun& run) { return RoleOfIndex(run.colour) == Role::Fail; });
-}
-
 QString TextOf(const ViewLine& line) {
   QString text;
   for (const TextRun& run : line.runs) {
@@ -130,7 +125,7 @@ void ResultPane::Refresh() {
   if (Lines() != before) marked_.reset();
   QStringList tips;
   for (const ViewLine& line : view_) {
-    if (Fails(line)) tips << tr("FAILS: %1").arg(TextOf(line).simplified());
+    if (Fails(line, session_.st().iufa)) tips << tr("FAILS: %1").arg(TextOf(line).simplified());
   }
   setToolTip(tips.join(QLatin1Char('\n')));
   update();
@@ -224,7 +219,7 @@ double ResultPane::WidthOf(const ViewLine& line) const {
 
 void ResultPane::DrawLine(QPainter& painter, const ViewLine& line, double y) {
   const double left = Ems(this, 0.9);
-  const bool fails = Fails(line);
+  const bool fails = Fails(line, session_.st().iufa);
   double x = left;
   for (const TextRun& run : line.runs) {
     const QFont style = FontOf(run, fails);

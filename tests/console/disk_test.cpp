@@ -138,6 +138,32 @@ bool StraceWorks() {
   return RunShell("strace -o /dev/null -e inject=fsync:error=EIO:when=1 true").status == 0;
 }
 
+// A part of a table, or of a script, would pass for the whole.
+TEST(Disk, AnInputThatFailsHalfWayIsTold) {
+  if (!StraceWorks()) GTEST_SKIP() << "strace is not installed or may not trace";
+  const TempFolder folder;
+  std::string rows = "L\n", lines;
+  for (int i = 0; i < 100000; ++i) rows += "3\n";
+  for (int i = 0; i < 2000; ++i) lines += "enter il 3\n";
+  PutFile(folder / "rows.csv", rows);
+  PutFile(folder / "script", lines + "save " + (folder / "saved.kvn") + "\n");
+  const auto failing = [&](const std::string& name, const std::string& command) {
+    return RunShell("strace -o /dev/null -P " + Quoted(folder / name) +
+                    " -e inject=read:error=EIO:when=2 " + Quoted(KORVANE_CLI) + command);
+  };
+  const std::string table = Quoted(folder / "rows.csv"), out = folder / "out.csv";
+  for (const std::string& input : {" " + table, " - <" + table}) {
+    const ProgramRun run = failing("rows.csv", " table --columns MaxIR -o " + Quoted(out) + input);
+    EXPECT_EQ(run.status, 2) << run.output;
+    EXPECT_NE(run.output.find("can't read file - "), std::string::npos) << run.output;
+    EXPECT_FALSE(fs::exists(out));
+  }
+  const ProgramRun run = failing("script", " session " + Quoted(folder / "script"));
+  EXPECT_EQ(run.status, 2);
+  EXPECT_EQ(run.output, "can't read the script to its end\n");
+  EXPECT_FALSE(fs::exists(folder / "saved.kvn"));
+}
+
 /// A call of the system: its name and its number among those of the name.
 struct Call {
   std::string name;

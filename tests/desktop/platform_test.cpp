@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <sys/resource.h>
+
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSettings>
 #include <QSplitter>
+#include <csignal>
 
 #include "front/desktop/desktop_platform.h"
 #include "tests/desktop/desktop_fixture.h"
@@ -19,6 +22,50 @@ TEST(DesktopPlatformTest, SettingsStandInTheSectionRecentFiles) {
   EXPECT_EQ(platform.Setting("RecentFile9"), "/a/b.kvn");
   const QSettings store(QSettings::IniFormat, QSettings::UserScope, "Korvane_ns", "Korvane_ns");
   EXPECT_EQ(store.value("Recent Files/RecentFile9").toString(), "/a/b.kvn");
+}
+
+/// While one stands, no file can grow: writing fails as on a full disk.
+class FullDisk {
+public:
+  FullDisk() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit none{0, before_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &none);
+  }
+  ~FullDisk() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+  rlimit before_{};
+  void (*handler_)(int);
+};
+
+QByteArray BytesOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST(DesktopPlatformTest, AFullDiskLeavesTheRecentFilesAsTheyWere) {
+  DesktopPlatform platform;
+  platform.SetSetting("RecentFile8", "/a/old.kvn");
+  const QString path =
+      QSettings(QSettings::IniFormat, QSettings::UserScope, "Korvane_ns", "Korvane_ns").fileName();
+  const QByteArray old = BytesOf(path);
+  ASSERT_TRUE(old.contains("/a/old.kvn"));
+  {
+    const FullDisk full;
+    platform.SetSetting("RecentFile8", "/a/new.kvn");
+    EXPECT_EQ(BytesOf(path), old);
+  }
+  const QFileInfo file(path);
+  const QString mine = file.fileName() + QStringLiteral(".*");
+  EXPECT_EQ(file.dir().entryList({mine}, QDir::Files | QDir::Hidden), QStringList());
+  platform.SetSetting("RecentFile8", "/a/new.kvn");
+  EXPECT_TRUE(BytesOf(path).contains("/a/new.kvn"));
 }
 
 TEST(DesktopPlatformTest, DecimalMarkIsThatOfTheLocale) {
