@@ -113,6 +113,17 @@ void Session::Calculate() {
   TellMessages();
 }
 
+void Session::TakeSection(const std::function<void()>& take) {
+  const ProjectState before = st();
+  try {
+    take();
+  } catch (const ArithmeticFault&) {
+    platform_.Beep();
+    st() = before;
+    Calculate();
+  }
+}
+
 void Session::BeginProject() {
   calculated_.reset();
   failedStep_.clear();

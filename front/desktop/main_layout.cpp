@@ -10,6 +10,7 @@
 #include "front/desktop/diagram_pane.h"
 #include "front/desktop/form_binder.h"
 #include "front/desktop/main_window.h"
+#include "front/desktop/study_buttons.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
 
@@ -241,6 +242,7 @@ QWidget* MainWindow::ResultSide(WidgetMaker& maker) {
   head->addSpacing(Ems(this, 1));
   head->addWidget(maker.Make(On().cmdpic));
   head->addWidget(maker.Make(On().de));
+  AddStudyButtons(desktop_, head);
   head->addStretch(1);
   verdict_ = new VerdictPane(desktop_.session());
   head->addWidget(verdict_);

@@ -385,6 +385,18 @@ TEST(ScriptError, NamesTheLineAndTheNearestName) {
 constexpr const char* kNoFlange = "focus korvane\nmenu mnup21\nenter isttf 0\n";
 constexpr const char* kRefused = "message:  tf >= 0.1 \nfocus: isttf\n";
 
+// The section of a new project, HEA200, 5 m and 100 kN: L/iz = 5000/49.8 = 100.
+TEST(ScriptAction, VerdictIsThatOfTheProgramWithItsNotes) {
+  const std::string said = Output(
+      "focus korvane\nmenu mnusetup\nclick check_slend\nenter islend_limit 90\nclose setup\n"
+      "focus korvane\nverdict\n");
+  EXPECT_TRUE(said.starts_with("Verdict: fails   greatest IR = ")) << said;
+  EXPECT_NE(said.find("\n  fails: The slenderness L/i = 100 about z is above the limit 90. "
+                      "[slenderness-exceeded]\n"),
+            std::string::npos)
+      << said;
+}
+
 TEST(ScriptFailure, OutsideATextFieldEndsTheScript) {
   const Played run = Play(std::string(kNoFlange) + "focus korvane\nshow il\n");
   EXPECT_EQ(run.status, 3);
