@@ -110,7 +110,8 @@ void Session::Calculate() {
   }
   failedStep_.clear();
   mending_ = false;
-  calculated_ = design_.st;
+  // What was calculated with a refused value holds for nothing.
+  if (Refused() == nullptr) calculated_ = design_.st;
   TellRemoved(before, true);
   TellMessages();
 }
@@ -168,8 +169,8 @@ void Session::TellMessages() {
 std::string Session::NotCalculated() const {
   const bool failed = !failedStep_.empty();
   if (!failed && calculated_ && SameResults(*calculated_, design_.st)) return {};
-  if (const auto& refused = fields_.Refused()) {
-    return "not calculated: " + InputWords(*this, *refused->field) +
+  if (const Control* refused = Refused()) {
+    return "not calculated: " + InputWords(*this, *refused) +
            (failed ? " can't be calculated" : " is refused");
   }
   if (failed) return "not calculated: " + OnScreen(FailureWords(design_));

@@ -104,7 +104,7 @@ public:
   /// The value of the field was refused, and can be taken back.
   bool IsRefused(const Control& field) const { return Refused() == &field; }
   /// The field whose value was refused and still stands, or nullptr.
-  const Control* Refused() const { return fields_.Refused() ? fields_.Refused()->field : nullptr; }
+  const Control* Refused() const;
   /// What TakeBack puts back, as it will be shown; empty where nothing was refused.
   std::string LastAccepted() const;
   /// What the state holds of a field, as it would be shown.

@@ -85,7 +85,7 @@ bool Session::Accept(const Control& field, const FieldRule& rule) {
     return false;
   }
   const double value = float32(*typed);
-  const ProjectState before = st();
+  const ProjectState before = IsRefused(field) ? fields_.Refused()->before : st();
   const char* refusal =
       StoreInput(st(), rule.input, value, rule.limit ? *rule.limit : rule.input.field->limit);
   fields_.Use(field);
@@ -100,6 +100,7 @@ bool Session::Accept(const Control& field, const FieldRule& rule) {
     return false;
   }
   const int calculations = calculations_;
+  fields_.Accept(field);
   try {
     if (rule.then) rule.then(*this);
     if (mending_ && calculations_ != calculations) throw ArithmeticFault("not mended yet");
@@ -108,7 +109,6 @@ bool Session::Accept(const Control& field, const FieldRule& rule) {
     if (!mending_) fields_.Refuse(field, before, st());
     throw;
   }
-  fields_.Accept(field);
   return true;
 }
 
@@ -162,6 +162,15 @@ void Session::Return(const Control& control) {
   }
 }
 
+const Control* Session::Refused() const {
+  const auto& refused = fields_.Refused();
+  if (!refused) return nullptr;
+  // Another control may have put another value in its place.
+  ProjectState probe = refused->after;
+  CopyInput(st(), probe, refused->field->field.input);
+  return SameInputs(probe, refused->after) ? refused->field : nullptr;
+}
+
 std::string Session::LastAccepted() const {
   const auto& refused = fields_.Refused();
   if (!refused) return {};
@@ -184,12 +193,11 @@ bool Session::TakeBack() {
     fields_.Left(*refused.field);
     fields_.Use(*refused.field);
   }
-  if (!NotCalculated().empty()) {
-    try {
-      Calculate();
-    } catch (const ArithmeticFault&) {
-      // As it was before the value came; the headline tells it.
-    }
+  // A focus may have calculated with the value, and a failure left its results half way.
+  try {
+    Calculate();
+  } catch (const ArithmeticFault&) {
+    // As it was before the value came; the headline tells it.
   }
   return true;
 }

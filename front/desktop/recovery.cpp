@@ -33,6 +33,12 @@ std::unique_ptr<QLockFile> LockOf(const QString& path) {
   return lock;
 }
 
+/// A kept file of no program that runs, with what its lock has left.
+void Discard(const QString& path) {
+  QFile::remove(path);
+  QFile::remove(path + QStringLiteral(".lock"));
+}
+
 std::optional<KeptProject> Read(const QString& path, const ProjectState& fresh) {
   const auto text = ReadWholeFile(Encoded(path));
   return text ? ReadKept(*text, fresh) : std::nullopt;
@@ -122,7 +128,7 @@ bool Recovery::Offer() {
     box.setEscapeButton(later);
     box.exec();
     if (box.clickedButton() == again) return TakeUp(path);
-    if (box.clickedButton() == forget) QFile::remove(path);
+    if (box.clickedButton() == forget) Discard(path);
     return false;
   }
   return false;
@@ -134,7 +140,7 @@ bool Recovery::TakeUp(const QString& path) {
   if (!kept) return false;
   desktop_.Act([&] { s.files().TakeUp(kept->st, kept->file, kept->modified); });
   Keep();
-  if (Settled()) QFile::remove(path);
+  if (Settled()) Discard(path);
   return true;
 }
 

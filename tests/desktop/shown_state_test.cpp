@@ -18,6 +18,17 @@
 namespace korvane {
 namespace {
 
+/// Names of the inputs that differ.
+std::string Differences(const ProjectState& a, const ProjectState& b) {
+  std::string names;
+  for (const InputField& field : AllInputFields()) {
+    ProjectState probe = a;
+    std::visit([&](auto member) { probe.*member = b.*member; }, field.member);
+    if (!SameInputs(probe, a)) names += std::string(" ") + field.name;
+  }
+  return names;
+}
+
 class ShownState : public DesktopTest {
 protected:
   void Click(QWidget& widget) {
@@ -60,7 +71,7 @@ TEST_F(ShownState, AProjectOpenedBehindTheLoadsKeepsItsOwn) {
   FormWindow& loading = Window("loading");
   Activate(loading);
   Click(On<QLineEdit>(loading, "iq2"));
-  ASSERT_TRUE(On<QLineEdit>(loading, "iq2").hasFocus());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return On<QLineEdit>(loading, "iq2").hasFocus(); }));
   platform_.answers = {path};
   Menu("mnuopen");
   EXPECT_FALSE(loading.isVisible());
@@ -146,7 +157,7 @@ TEST_F(ShownState, AWalkWithoutTypingChangesNoInputAndShowsTheState) {
     after.BucklingCurveY = before.BucklingCurveY;
     after.BucklingCurveZ = before.BucklingCurveZ;
     after.LtbCriticalSegment = before.LtbCriticalSegment;
-    EXPECT_TRUE(SameInputs(before, after)) << where;
+    EXPECT_TRUE(SameInputs(before, after)) << where << Differences(before, after);
     const std::vector<const Form*> open = session_.Session::OpenForms();
     desktop_->Act([&] {
       for (const Form* one : open) {
@@ -213,6 +224,7 @@ TEST_F(ShownState, CloseBoxTakesTheFieldAndKeepsARefusedOneOpen) {
   auto& load = On<QLineEdit>(window, "iq1");
   Activate(window);
   load.setFocus();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return load.hasFocus(); }));
   load.selectAll();
   QTest::keyClicks(&load, "12");
   window.close();
@@ -223,12 +235,13 @@ TEST_F(ShownState, CloseBoxTakesTheFieldAndKeepsARefusedOneOpen) {
   Activate(window);
   auto& factor = On<QLineEdit>(window, "ilfp_uls");
   factor.setFocus();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return factor.hasFocus(); }));
   factor.selectAll();
   QTest::keyClicks(&factor, "9");
   window.close();
   EXPECT_TRUE(window.isVisible());
   EXPECT_EQ(platform_.messages, std::vector<std::string>{" 0 < Loadfactor < 4.0 "});
-  EXPECT_TRUE(factor.hasFocus());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return factor.hasFocus(); }));
   QTest::keyClick(&factor, Qt::Key_Escape);
   window.close();
   EXPECT_FALSE(window.isVisible());

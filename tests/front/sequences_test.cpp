@@ -156,13 +156,27 @@ TEST(Refused, AfterTakingBackTheResultsAreThoseOfTheState) {
   EXPECT_EQ(r.session.LastAccepted(), "");
   EXPECT_EQ(r.session.NotCalculated(), "");
   EXPECT_EQ(Ratio(r), before);
-  // A focus in between calculates with the refused value; taking it back calculates again.
+  // A focus in between calculates with the refused value, which holds for nothing; taking it back
+  // calculates again.
   EXPECT_FALSE(r.session.Enter("il", "0.01"));
   r.session.Focus("korvane");
-  EXPECT_EQ(r.session.NotCalculated(), "");
+  EXPECT_NE(Ratio(r), before);
+  EXPECT_EQ(HeadlineOf(r.session).word, "not calculated");
+  EXPECT_EQ(HeadlineOf(r.session).below, "L 0.010 m is refused");
   EXPECT_TRUE(r.session.TakeBack());
   EXPECT_EQ(r.session.NotCalculated(), "");
   EXPECT_EQ(Ratio(r), before);
+}
+
+TEST(Refused, StandsUntilAnotherControlPutsAnotherValueInItsPlace) {
+  Running r;
+  EXPECT_FALSE(r.session.Enter("igammam1", "0.3"));
+  r.session.Menu("mnusetup");
+  EXPECT_EQ(r.session.NotCalculated(), "not calculated: gm1 = 0.30 is refused");
+  EXPECT_TRUE(r.session.Enter("setup.igammam1", "1.2"));
+  EXPECT_EQ(r.session.NotCalculated(), "");
+  EXPECT_EQ(r.session.Refused(), nullptr);
+  EXPECT_FALSE(r.session.Marked("korvane.igammam1"));
 }
 
 TEST(Refused, OfANewSectionIsNamedAndNothingIsCalculatedWithIt) {
