@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Times at the windows, on no display: from a key to the new picture, from a start to the first.
+#include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "front/desktop/desktop.h"
@@ -48,48 +50,103 @@ double Milliseconds(const QElapsedTimer& timer) {
   return double(timer.nsecsElapsed()) / 1e6;
 }
 
-/// From Return in the length field to the repainted window. False when nothing was painted.
-bool ReturnToPicture() {
-  const QTemporaryDir own;
-  const auto library = ReadLibrary(KORVANE_DATA_FOLDER);
+/// A desktop with a loaded beam column.
+struct Bench {
+  QTemporaryDir own;
+  std::shared_ptr<const Library> library = ReadLibrary(KORVANE_DATA_FOLDER);
   Platform platform;
-  NamedSession session(library, platform, false,
-                       Folders{library->folder, own.path().toStdString()});
-  session.Start();
-  session.st().q1 = 10;
-  session.st().q2 = 4;
-  session.st().q2_yz = 0;
-  session.st().NP = 100;
-  Desktop desktop(session);
-  MainWindow& window = desktop.window();
-  window.resize(1920, 1080);
-  window.show();
-  QCoreApplication::processEvents();
-  desktop.Activated(*TheForms().main);
-  auto* length = window.findChild<QLineEdit*>(QStringLiteral("il"));
+  NamedSession session{library, platform, false,
+                       Folders{library->folder, own.path().toStdString()}};
+  std::unique_ptr<Desktop> desktop;
+
+  Bench() {
+    session.Start();
+    session.st().q1 = 10;
+    session.st().q2 = 4;
+    session.st().q2_yz = 0;
+    session.st().NP = 100;
+    desktop = std::make_unique<Desktop>(session);
+    Window().resize(1920, 1080);
+    Window().show();
+    QCoreApplication::processEvents();
+    desktop->Activated(*TheForms().main);
+  }
+  MainWindow& Window() { return desktop->window(); }
+  /// Opens a window of a study by its button.
+  QWidget* Open(const QString& name) {
+    Window().findChild<QAbstractButton*>(QStringLiteral("open_") + name)->click();
+    QCoreApplication::processEvents();
+    return Window().findChild<QWidget*>(name);
+  }
+};
+
+/// Types texts into a field, each as one key's work, and takes the times until all is painted.
+/// False when nothing was painted.
+template <class TextOf, class Key>
+bool KeyToPicture(const char* what, QLineEdit& field, const TextOf& textOf, const Key& key) {
   PaintCount paints;
   qApp->installEventFilter(&paints);
   std::vector<double> times;
+  bool painted = true;
   for (int k = 0; k < kRepeats; ++k) {
-    length->setFocus();
-    const QString text = QString::number(4 + 0.01 * k, 'f', 3);
-    length->setText(text);
-    emit length->textEdited(text);
-    QCoreApplication::processEvents();
+    field.setFocus();
     const int before = paints.count;
-    QElapsedTimer timer;
-    timer.start();
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    QCoreApplication::sendEvent(length, &press);
-    QCoreApplication::processEvents();
-    times.push_back(Milliseconds(timer));
-    const bool taken = std::abs(double(session.st().L) - text.toDouble()) < 1e-4;
-    if (paints.count == before || !taken) return false;
+    times.push_back(key(field, textOf(k)));
+    painted = painted && paints.count > before;
   }
   qApp->removeEventFilter(&paints);
-  std::printf("window %d x %d\n", window.width(), window.height());
-  Print("Return in the length field to the new picture", times);
-  return true;
+  Print(what, times);
+  return painted;
+}
+
+QString LengthOf(int k) {
+  return QString::number(4 + 0.01 * k, 'f', 3);
+}
+
+/// Return behind a typed text.
+double Return(QLineEdit& field, const QString& text) {
+  field.setText(text);
+  emit field.textEdited(text);
+  QCoreApplication::processEvents();
+  QElapsedTimer timer;
+  timer.start();
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  QCoreApplication::sendEvent(&field, &press);
+  QCoreApplication::processEvents();
+  return Milliseconds(timer);
+}
+
+/// From Return in the length field to the repainted windows: the main one alone, with the window
+/// of all sections, with that of the curves.
+bool ReturnToPicture() {
+  Bench bench;
+  auto* length = bench.Window().findChild<QLineEdit*>(QStringLiteral("il"));
+  std::printf("window %d x %d\n", bench.Window().width(), bench.Window().height());
+  bool good =
+      KeyToPicture("Return in the length field to the new picture", *length, LengthOf, Return);
+  good = good && std::abs(double(bench.session.st().L) - LengthOf(kRepeats - 1).toDouble()) < 1e-4;
+  QWidget* sections = bench.Open(QStringLiteral("sections"));
+  good = good &&
+         KeyToPicture("the same with the window of all sections open", *length, LengthOf, Return);
+  sections->close();
+  bench.Open(QStringLiteral("whatif"));
+  return good && KeyToPicture("the same with the window of curves open", *length, LengthOf, Return);
+}
+
+/// From a key in the range of the curves to the repainted ones: 200 values, all checks.
+bool KeyToCurves() {
+  Bench bench;
+  QWidget* window = bench.Open(QStringLiteral("whatif"));
+  auto* to = window->findChild<QLineEdit*>(QStringLiteral("to"));
+  const auto key = [](QLineEdit& field, const QString& text) {
+    QElapsedTimer timer;
+    timer.start();
+    field.setText(text);
+    emit field.textEdited(text);
+    QCoreApplication::processEvents();
+    return Milliseconds(timer);
+  };
+  return KeyToPicture("a key in the range to the new curves", *to, LengthOf, key);
 }
 
 /// Microseconds of one call, the least of some rounds.
@@ -161,5 +218,8 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   korvane::ApplyTheme(korvane::Theme::Light);
-  return korvane::ReturnToPicture() && korvane::Refreshes() && korvane::StartToPicture() ? 0 : 1;
+  return korvane::ReturnToPicture() && korvane::KeyToCurves() && korvane::Refreshes() &&
+                 korvane::StartToPicture()
+             ? 0
+             : 1;
 }

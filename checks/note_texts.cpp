@@ -24,6 +24,13 @@ std::string F2(double v) {
   return Format(v, "#0.00");
 }
 
+/// Up to three decimals; a whole number without the point that the format leaves behind it.
+std::string UpTo3(double v) {
+  std::string text = Format(v, "#0.###");
+  if (text.ends_with('.')) text.pop_back();
+  return text;
+}
+
 /// Ratios that only say "far over" keep no decimals.
 std::string Ratio(double v) {
   return std::fabs(v) < 1000 ? F2(v) : F0(v);
@@ -199,7 +206,7 @@ std::string NoteText(const Note& n, const Catalogues& cat) {
     case C::UnknownSupport:
       return "The support " + F0(n.v[0]) + " is unknown: the loads give no forces.";
     case C::SectionImpossible:
-      return "The section can't exist: " + word + " is " + Format(n.v[0], "#0.###") + ".";
+      return "The section can't exist: " + word + " is " + UpTo3(n.v[0]) + ".";
     case C::LengthNotPositive:
       return "The length " + Format(n.v[0], "#0.000") + " m isn't above 0.";
     case C::ForceUnread:

@@ -29,6 +29,7 @@ constexpr std::array kSentences{
     Sentence{WriteStatus::InUse, "Another program has the file open."},
     Sentence{WriteStatus::NotAllowed, "The folder may not be written to."},
     Sentence{WriteStatus::DiskFull, "The disk is full; nothing has changed on it."},
+    Sentence{WriteStatus::GivenUp, "The work was given up; nothing has changed on the disk."},
     Sentence{WriteStatus::Failed, "The disk did not take it; nothing has changed on it."},
 };
 

@@ -3,6 +3,7 @@
 // the new file or the old one, never a part of either.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,6 +23,7 @@ enum class WriteStatus {
   InUse,       ///< another program holds the file; only some systems know this
   NotAllowed,  ///< the folder or the disk may not be written to
   DiskFull,    ///< no room, or beyond a limit on sizes
+  GivenUp,     ///< whoever made the content has given it up
   Failed,      ///< anything else
 };
 
@@ -51,6 +53,16 @@ std::optional<std::string> ReadWholeFile(const std::string& path, bool* notFound
 /// removed after a day. On Windows the names of devices are refused in every folder.
 WriteResult WriteFile(const std::string& path, std::string_view bytes,
                       const WriteRules& rules = {});
+
+/// Takes a piece of a content; false once the disk has not taken one.
+using PieceTaker = std::function<bool(std::string_view)>;
+
+/// The same with a content that is made in pieces and never stands in memory: make hands them on
+/// one behind the other, and returns false to give the file up. The pieces go into a temporary file
+/// beside path; where one has to be written in place, it is copied from there at the end.
+WriteResult WriteFileInPieces(const std::string& path,
+                              const std::function<bool(const PieceTaker&)>& make,
+                              const WriteRules& rules = {});
 
 /// What WriteFile would refuse before it writes: for a work that takes long before its table is
 /// written.

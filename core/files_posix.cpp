@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -85,6 +86,8 @@ WriteResult ResultOfError(int error) {
     case EDQUOT:
     case EFBIG:
       return ResultOf(WriteStatus::DiskFull);
+    case ECANCELED:
+      return ResultOf(WriteStatus::GivenUp);
     case ENAMETOOLONG:
     case ELOOP:
     case EILSEQ:
@@ -310,9 +313,12 @@ bool Restore(int copy, int fd) {
          ::fsync(fd) == 0;
 }
 
+// Writes a content to a file; false with errno where it couldn't.
+using Content = std::function<bool(int fd)>;
+
 // Where a rename would break a hard link or change the owner. The copy has a name that tells its
 // file and is never taken for a stale one: a killed process may leave the old content in it alone.
-WriteResult WriteInPlace(const Target& target, std::string_view bytes) {
+WriteResult WriteInPlace(const Target& target, const Content& content) {
   const Descriptor fd(::open(target.path.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK));
   struct stat now {};
   if (!fd || ::fstat(fd.Get(), &now) != 0) return ResultOfError(errno);
@@ -326,9 +332,9 @@ WriteResult WriteInPlace(const Target& target, std::string_view bytes) {
   OwnFile copyFile(name);
   if (!CopyAll(fd.Get(), copy.Get()) || ::fsync(copy.Get()) != 0) return ResultOfError(errno);
   FlushFolder(target.folder);
-  if (::lseek(fd.Get(), 0, SEEK_SET) == 0 && WriteAll(fd.Get(), bytes) &&
-      ::ftruncate(fd.Get(), static_cast<off_t>(bytes.size())) == 0 && ::fsync(fd.Get()) == 0) {
-    return {};
+  if (::lseek(fd.Get(), 0, SEEK_SET) == 0 && content(fd.Get())) {
+    const off_t size = ::lseek(fd.Get(), 0, SEEK_CUR);
+    if (size >= 0 && ::ftruncate(fd.Get(), size) == 0 && ::fsync(fd.Get()) == 0) return {};
   }
   WriteResult failed = ResultOfError(errno);
   if (Restore(copy.Get(), fd.Get())) return failed;
@@ -336,7 +342,7 @@ WriteResult WriteInPlace(const Target& target, std::string_view bytes) {
   return failed;
 }
 
-WriteResult WriteBeside(const Target& target, std::string_view bytes) {
+WriteResult WriteBeside(const Target& target, const Content& content) {
   std::string name;
   const auto nameOf = [&](unsigned long long random) {
     return target.folder + TemporaryName(random);
@@ -346,12 +352,15 @@ WriteResult WriteBeside(const Target& target, std::string_view bytes) {
   Descriptor fd = CreateOwn(nameOf, mode, name);
   if (!fd) return ResultOfError(errno);
   OwnFile temporary(name);
-  if (target.exists && !TakeAccessOf(target.path, target.old, fd.Get())) {
-    return WriteInPlace(target, bytes);
+  const bool severalNames = target.exists && target.old.st_nlink > 1;
+  const bool replaces =
+      !severalNames && (!target.exists || TakeAccessOf(target.path, target.old, fd.Get()));
+  if (!content(fd.Get())) return ResultOfError(errno);
+  if (!replaces) {
+    if (::lseek(fd.Get(), 0, SEEK_SET) != 0) return ResultOfError(errno);
+    return WriteInPlace(target, [&](int place) { return CopyAll(fd.Get(), place); });
   }
-  if (!WriteAll(fd.Get(), bytes) || ::fsync(fd.Get()) != 0 || !fd.Close()) {
-    return ResultOfError(errno);
-  }
+  if (::fsync(fd.Get()) != 0 || !fd.Close()) return ResultOfError(errno);
   if (!temporary.RenameTo(target.path)) return ResultOfError(errno);
   FlushFolder(target.folder);
   return {};
@@ -389,12 +398,26 @@ WriteResult CheckWritable(const std::string& path, const WriteRules& rules) {
 }
 
 WriteResult WriteFile(const std::string& path, std::string_view bytes, const WriteRules& rules) {
+  return WriteFileInPieces(
+      path, [bytes](const PieceTaker& take) { return take(bytes); }, rules);
+}
+
+WriteResult WriteFileInPieces(const std::string& path,
+                              const std::function<bool(const PieceTaker&)>& make,
+                              const WriteRules& rules) {
   Target target;
   const WriteStatus status = FindTarget(path, rules, target);
   if (status != WriteStatus::Ok) return ResultOf(status);
   RemoveStale(target.folder);
-  const bool severalNames = target.exists && target.old.st_nlink > 1;
-  return severalNames ? WriteInPlace(target, bytes) : WriteBeside(target, bytes);
+  return WriteBeside(target, [&](int fd) {
+    int error = 0;
+    const bool whole = make([&](std::string_view piece) {
+      if (error == 0 && !WriteAll(fd, piece)) error = errno;
+      return error == 0;
+    });
+    errno = error != 0 ? error : ECANCELED;
+    return whole && error == 0;
+  });
 }
 
 }  // namespace korvane

@@ -5,6 +5,7 @@
 // Behind the line above: it needs the types of windows.h.
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <random>
 #include <utility>
 
@@ -86,6 +87,8 @@ WriteResult ResultOfError(DWORD error) {
     case ERROR_NETWORK_ACCESS_DENIED:
     case ERROR_PRIVILEGE_NOT_HELD:
       return ResultOf(WriteStatus::NotAllowed);
+    case ERROR_CANCELLED:
+      return ResultOf(WriteStatus::GivenUp);
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
     case ERROR_FILE_TOO_LARGE:
@@ -225,9 +228,12 @@ bool ToStart(HANDLE file) {
   return ::SetFilePointerEx(file, LARGE_INTEGER{}, nullptr, FILE_BEGIN) != 0;
 }
 
+// Writes a content to a file; false with the last error where it couldn't.
+using Content = std::function<bool(HANDLE file)>;
+
 // Writes over what a file holds, and to the disk.
-bool Overwrite(HANDLE file, std::string_view bytes) {
-  return ToStart(file) && WriteAll(file, bytes) && ::SetEndOfFile(file) != 0 &&
+bool Overwrite(HANDLE file, const Content& content) {
+  return ToStart(file) && content(file) && ::SetEndOfFile(file) != 0 &&
          ::FlushFileBuffers(file) != 0;
 }
 
@@ -328,7 +334,7 @@ void RemoveStale(const std::wstring& folder) {
 // Where a replacement would break a hard link or change the access. The copy has a name that tells
 // its file and is never taken for a stale one: a killed process may leave the old content in it
 // alone.
-WriteResult WriteInPlace(const Target& target, std::string_view bytes) {
+WriteResult WriteInPlace(const Target& target, const Content& content) {
   const Handle file = OpenFile(target.path, GENERIC_READ | GENERIC_WRITE);
   if (!file) return ResultOfError(::GetLastError());
   std::wstring name;
@@ -340,7 +346,7 @@ WriteResult WriteInPlace(const Target& target, std::string_view bytes) {
   if (!CopyAll(file.Get(), copy.Get()) || ::FlushFileBuffers(copy.Get()) == 0) {
     return ResultOfError(::GetLastError());
   }
-  if (Overwrite(file.Get(), bytes)) return {};
+  if (Overwrite(file.Get(), content)) return {};
   WriteResult failed = ResultOfError(::GetLastError());
   if (ToStart(copy.Get()) && ToStart(file.Get()) && CopyAll(copy.Get(), file.Get()) &&
       ::SetEndOfFile(file.Get()) != 0 && ::FlushFileBuffers(file.Get()) != 0) {
@@ -384,18 +390,24 @@ void FlushEntry(const std::wstring& path) {
   if (file) ::FlushFileBuffers(file.Get());
 }
 
-WriteResult WriteBeside(const Target& target, std::string_view bytes) {
+WriteResult WriteBeside(const Target& target, const Content& content) {
   std::wstring name;
   Handle file = CreateOwn([&](const std::wstring& random) { return target.folder + random; }, name);
   if (!file) return ResultOfError(::GetLastError());
   OwnFile temporary(name);
-  if (!WriteAll(file.Get(), bytes) || ::FlushFileBuffers(file.Get()) == 0 || !file.Close()) {
+  const auto inPlace = [&]() -> WriteResult {
+    const Handle written = OpenFile(temporary.Path(), GENERIC_READ);
+    if (!written) return ResultOfError(::GetLastError());
+    return WriteInPlace(target, [&](HANDLE place) { return CopyAll(written.Get(), place); });
+  };
+  if (!content(file.Get()) || ::FlushFileBuffers(file.Get()) == 0 || !file.Close()) {
     return ResultOfError(::GetLastError());
   }
+  if (target.exists && target.old.nNumberOfLinks > 1) return inPlace();
   DWORD error = ERROR_CALL_NOT_IMPLEMENTED;
   if (target.exists) {
     error = Replace(target.path, temporary.Path());
-    if (error == ERROR_ACCESS_DENIED) return WriteInPlace(target, bytes);
+    if (error == ERROR_ACCESS_DENIED) return inPlace();
   }
   // After the last of these errors the old file is gone and the new one has still its own name.
   const bool move = KnowsNoReplacing(error) || error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
@@ -447,12 +459,26 @@ WriteResult CheckWritable(const std::string& path, const WriteRules& rules) {
 }
 
 WriteResult WriteFile(const std::string& path, std::string_view bytes, const WriteRules& rules) {
+  return WriteFileInPieces(
+      path, [bytes](const PieceTaker& take) { return take(bytes); }, rules);
+}
+
+WriteResult WriteFileInPieces(const std::string& path,
+                              const std::function<bool(const PieceTaker&)>& make,
+                              const WriteRules& rules) {
   Target target;
   const WriteStatus status = FindTarget(path, rules, target);
   if (status != WriteStatus::Ok) return ResultOf(status);
   RemoveStale(target.folder);
-  const bool severalNames = target.exists && target.old.nNumberOfLinks > 1;
-  return severalNames ? WriteInPlace(target, bytes) : WriteBeside(target, bytes);
+  return WriteBeside(target, [&](HANDLE file) {
+    DWORD error = 0;
+    const bool whole = make([&](std::string_view piece) {
+      if (error == 0 && !WriteAll(file, piece)) error = ::GetLastError();
+      return error == 0;
+    });
+    ::SetLastError(error != 0 ? error : ERROR_CANCELLED);
+    return whole && error == 0;
+  });
 }
 
 }  // namespace korvane

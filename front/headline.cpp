@@ -28,7 +28,7 @@ void AddServiceability(const Session& s, const Verdict& v, Headline& h) {
   const double least = z == 0 ? y : y == 0 ? z : std::min(z, y);
   h.below = "SLS L/" + s.Shown(least, "0") + ", limit L/" + s.Shown(note->v[2], "0") + ": " +
             ServiceabilityWord(v.sls);
-  h.belowTone = v.sls == Serviceability::Fails ? Tone::Fail : Tone::Pass;
+  h.belowTone = ToneOf(v.sls);
 }
 
 /// Why nothing is said of the ultimate limit state.
@@ -39,6 +39,26 @@ void AddReason(const Session& s, const Verdict& v, Headline& h) {
 }
 
 }  // namespace
+
+StandingSaid SaidOf(Standing standing, bool forces) {
+  switch (standing) {
+    case Standing::Passes:
+      if (!forces) return {"no forces", Tone::Quiet};
+      return {StandingWord(standing), Tone::Pass};
+    case Standing::Fails:
+      return {"FAILS", Tone::Fail};
+    case Standing::NotChecked:
+    case Standing::Stopped:
+      break;
+  }
+  return {StandingWord(Standing::NotChecked), Tone::Quiet};
+}
+
+Tone ToneOf(Serviceability sls) {
+  return sls == Serviceability::Fails    ? Tone::Fail
+         : sls == Serviceability::Passes ? Tone::Pass
+                                         : Tone::Quiet;
+}
 
 Headline HeadlineOf(const Session& s) {
   Headline h;
@@ -59,21 +79,10 @@ Headline HeadlineOf(const Session& s) {
     h.figure = s.Shown(v.IR, "#0.00");
   }
   AddServiceability(s, v, h);
-  switch (v.standing) {
-    case Standing::Passes:
-      h.word = v.governing == Governing::None ? "no forces" : StandingWord(v.standing);
-      h.tone = v.governing == Governing::None ? Tone::Quiet : Tone::Pass;
-      break;
-    case Standing::Fails:
-      h.word = "FAILS";
-      h.tone = Tone::Fail;
-      break;
-    case Standing::NotChecked:
-    case Standing::Stopped:
-      h.word = StandingWord(Standing::NotChecked);
-      AddReason(s, v, h);
-      break;
-  }
+  const StandingSaid said = SaidOf(v.standing, v.governing != Governing::None);
+  h.word = said.word;
+  h.tone = said.tone;
+  if (v.standing == Standing::NotChecked || v.standing == Standing::Stopped) AddReason(s, v, h);
   return h;
 }
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "checks/verdict.h"
+
 namespace korvane {
 
 class Session;
@@ -19,6 +21,15 @@ struct Headline {
   Tone belowTone = Tone::Quiet;
   std::vector<std::string> notes;  ///< "caution: ...", the most severe first
 };
+
+/// A standing in the headline's words. forces: any check had something to check.
+struct StandingSaid {
+  const char* word;
+  Headline::Tone tone;
+};
+StandingSaid SaidOf(Standing standing, bool forces);
+/// The tone of the serviceability limit state.
+Headline::Tone ToneOf(Serviceability sls);
 
 /// What is to be said of the last calculation, or that it isn't one of the state in force.
 Headline HeadlineOf(const Session& session);

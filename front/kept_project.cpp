@@ -137,10 +137,11 @@ std::optional<KeptProject> ToKeep(const Session& s) {
   if (last && !s.NotCalculated().empty()) {
     const ProjectState now = kept.st;
     kept.st = *last;
-    kept.st.CurrentFileName = now.CurrentFileName;
-    kept.st.CurrentDir = now.CurrentDir;
-    kept.st.iproj = now.iproj;
-    kept.st.iident = now.iident;
+    if (now.CurrentFileName == last->CurrentFileName) {
+      kept.st.CurrentDir = now.CurrentDir;
+      kept.st.iproj = now.iproj;
+      kept.st.iident = now.iident;
+    }
   }
   kept.modified = ProjectText(kept.st) != kept.file.saved;
   const bool hasFile = kept.st.CurrentFileName != ProjectState().CurrentFileName;

@@ -69,4 +69,16 @@ private:
   std::map<std::string, std::string> settings_;
 };
 
+/// Raises the wait cursor while it lives, whatever ends it.
+class Waiting {
+public:
+  explicit Waiting(Platform& platform) : platform_(platform) { platform_.WaitCursor(true); }
+  ~Waiting() { platform_.WaitCursor(false); }
+  Waiting(const Waiting&) = delete;
+  Waiting& operator=(const Waiting&) = delete;
+
+private:
+  Platform& platform_;
+};
+
 }  // namespace korvane

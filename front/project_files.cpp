@@ -65,11 +65,12 @@ void ProjectFiles::New() {
   NewProject(session_.st(), session_.folders().program);
   ResetDatabase(session_.database());
   ForgetFormerInput(session_.design());
+  session_.Calculate();
+  // Where that fails the file before is still the one to go on with.
   record_.path.clear();
   record_.disk.reset();
   record_.savedAt.reset();
   record_.projectFailed.clear();
-  session_.Calculate();
   Settle();
 }
 
@@ -183,9 +184,21 @@ void ProjectFiles::TakeTexts() {
   session_.st() = ToSave();
 }
 
+namespace {
+
+/// The results are those of a project by whatever name.
+void TakeNames(const ProjectState& from, ProjectState& to) {
+  to.CurrentFileName = from.CurrentFileName;
+  to.iproj = from.iproj;
+  to.iident = from.iident;
+}
+
+}  // namespace
+
 void ProjectFiles::SavePathAs(const std::string& path) {
   TakeTexts();
   session_.st().CurrentFileName = path;
+  if (session_.calculated_) TakeNames(session_.st(), *session_.calculated_);
   title_ = TitleOf(path);
   if (!Write(path)) return;
   session_.st().CurrentDir = FolderOf(path);

@@ -126,6 +126,17 @@ void Session::TellRemoved(const ProjectState& before, bool byFamily) {
   }
 }
 
+void Session::TakeSection(const std::function<void()>& take) {
+  const ProjectState before = st();
+  try {
+    take();
+  } catch (const ArithmeticFault&) {
+    platform_.Beep();
+    st() = before;
+    Calculate();
+  }
+}
+
 void Session::BeginProject() {
   calculated_.reset();
   failedStep_.clear();

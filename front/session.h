@@ -143,6 +143,9 @@ public:
   const Folders& folders() const { return folders_; }
   /// One calculation; its messages go to message boxes.
   void Calculate();
+  /// Runs what puts another section in force. Where that can't be designed, as in a damaged list,
+  /// it beeps and the member is as it was.
+  void TakeSection(const std::function<void()>& take);
   /// Composes the result lines of a silent calculation: they are those of the state now.
   void ComposeResults();
   /// Shows a form on top.

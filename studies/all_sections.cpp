@@ -2,15 +2,22 @@
 #include "studies/all_sections.h"
 
 #include <algorithm>
+#include <atomic>
+#include <exception>
 
 #include "checks/results.h"
 #include "sections/names.h"
+#include "studies/in_order.h"
 #include "studies/member.h"
 #include "studies/result_columns.h"
 
 namespace korvane {
 
 namespace {
+
+/// What a thread takes at once: many enough that taking is nothing, few enough that all end at
+/// once.
+constexpr std::size_t kSizesAtOnce = 64;
 
 std::vector<CatalogueSize> MakeSizes() {
   std::vector<CatalogueSize> sizes;
@@ -48,6 +55,10 @@ std::string SeriesWord(const CatalogueSize& size) {
   return size.family->menuCaption;
 }
 
+bool Passes(const SizeResult& r, bool sls) {
+  return r.standing == Standing::Passes && !(sls && r.sls == Serviceability::Fails);
+}
+
 ProjectState WithSize(const ProjectState& member, const CatalogueSize& size) {
   ProjectState st = member;
   TakeSize(size, st);
@@ -75,6 +86,7 @@ std::string SectionName(const ProjectState& st, const Catalogues& cat) {
   for (std::size_t at = name.find("  "); at != std::string::npos; at = name.find("  ", at)) {
     name.erase(at, 1);
   }
+  while (name.ends_with(' ')) name.pop_back();
   const SizeList list = SizesOf(st);
   const bool turned = list.hasCatalogue && CanBeTurned(list.catalogue) && st.RhsOrientation == 0;
   return turned ? TurnedName(name) : name;
@@ -106,10 +118,33 @@ SizeResult DesignSize(const Design& started, const ProjectState& member, const C
 
 std::vector<SizeResult> DesignSizes(const Design& started, const ProjectState& member,
                                     const std::function<bool(const CatalogueSize&)>& wanted) {
-  std::vector<SizeResult> results;
-  Design work = started;
+  std::vector<const CatalogueSize*> sizes;
   for (const CatalogueSize& size : AllSizes()) {
-    if (!wanted || wanted(size)) results.push_back(DesignSize(started, member, size, work));
+    if (!wanted || wanted(size)) sizes.push_back(&size);
+  }
+  std::vector<SizeResult> results(sizes.size());
+  std::vector<std::exception_ptr> failures(sizes.size() / kSizesAtOnce + 1);
+  std::atomic<std::size_t> next = 0;
+  const auto work = [&] {
+    Design design = started;
+    for (std::size_t piece; (piece = next++) * kSizesAtOnce < sizes.size();) {
+      try {
+        const std::size_t first = piece * kSizesAtOnce;
+        for (std::size_t i = first; i < std::min(first + kSizesAtOnce, sizes.size()); ++i) {
+          results[i] = DesignSize(started, member, *sizes[i], design);
+        }
+      } catch (...) {
+        failures[piece] = std::current_exception();
+      }
+    }
+  };
+  {
+    // This thread works too; the others end with the block.
+    const auto others = StartThreads(ThreadsFor(0, failures.size()) - 1, work);
+    work();
+  }
+  for (const std::exception_ptr& failure : failures) {
+    if (failure) std::rethrow_exception(failure);
   }
   return results;
 }

@@ -46,6 +46,9 @@ struct SizeResult {
   Serviceability sls = Serviceability::None;
 };
 
+/// Passes the ultimate limit state; with sls the deflection limit, where there is one, as well.
+bool Passes(const SizeResult& result, bool sls);
+
 /// The member with that size in force.
 ProjectState WithSize(const ProjectState& member, const CatalogueSize& size);
 
@@ -53,7 +56,8 @@ ProjectState WithSize(const ProjectState& member, const CatalogueSize& size);
 SizeResult DesignSize(const Design& started, const ProjectState& member, const CatalogueSize& size,
                       Design& work);
 
-/// The same with all sizes that are wanted, in their order.
+/// The same with all sizes that are wanted, in their order, in as many threads as there are cores.
+/// wanted is asked in this one.
 std::vector<SizeResult> DesignSizes(const Design& started, const ProjectState& member,
                                     const std::function<bool(const CatalogueSize&)>& wanted);
 

@@ -36,4 +36,22 @@ std::vector<EnvelopePoint> InteractionEnvelope(const Design& started, const Proj
                                                InteractionAxes axes, const PointForces& at,
                                                int directions = 72);
 
+/// A diagram of a member: the envelope and the member's own points in its plane.
+struct InteractionDiagram {
+  InteractionAxes axes = InteractionAxes::NMy;
+  std::vector<EnvelopePoint> envelope;  ///< with the other forces of the governing point
+  std::vector<EnvelopePoint> points;    ///< the calculation points
+  EnvelopePoint governing;
+  double ratio = 0;  ///< of the section control at the governing point, 0 for none
+};
+
+/// The three diagrams of a member, in the order of InteractionAxes; none where it can't be
+/// calculated.
+std::vector<InteractionDiagram> InteractionDiagrams(const Design& started,
+                                                    const ProjectState& member,
+                                                    int directions = 72);
+
+/// "N-My", "N-Mz", "My-Mz".
+const char* WordOf(InteractionAxes axes);
+
 }  // namespace korvane

@@ -73,6 +73,12 @@ void TakeSize(const CatalogueSize& size, ProjectState& st) {
   if (CanBeTurned(size.catalogue->cat)) st.RhsOrientation = size.turned ? 0 : 1;
 }
 
+bool IsInForce(const CatalogueSize& size, const ProjectState& st) {
+  if (st.ProfileType != size.family->code || st.*size.catalogue->index != size.row) return false;
+  if (size.family->sub != nullptr && st.*size.family->sub != size.catalogue->sub) return false;
+  return !CanBeTurned(size.catalogue->cat) || (st.RhsOrientation == 0) == size.turned;
+}
+
 SectionNames::SectionNames(const Catalogues& cat) {
   for (const Family& family : AllFamilies()) {
     auto& names = family.titled > 0 ? stiffeners_ : sizes_;

@@ -25,6 +25,9 @@ bool CanBeTurned(Cat catalogue);
 /// Puts a size in force, as the family's form does.
 void TakeSize(const CatalogueSize& size, ProjectState& st);
 
+/// Whether a size is the section in force.
+bool IsInForce(const CatalogueSize& size, const ProjectState& st);
+
 /// All names of the catalogues of one library, read-only once made.
 class SectionNames {
 public:

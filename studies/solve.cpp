@@ -22,16 +22,9 @@ double SixthDigit(double value) {
   return std::pow(10.0, std::floor(std::log10(std::fabs(value))) - 5);
 }
 
-/// Whether the input takes whole numbers alone.
-bool IsWhole(const MemberInput& input) {
-  return input.ref.field != nullptr &&
-         (std::holds_alternative<int16 ProjectState::*>(input.ref.field->member) ||
-          std::holds_alternative<Indexed<int16, 1, 8> ProjectState::*>(input.ref.field->member));
-}
-
 template <class Try>
 Border Narrow(const MemberInput& input, const Try& tryValue, Trial passing, Trial failing) {
-  const bool whole = IsWhole(input);
+  const bool whole = TakesWholeNumbers(input);
   for (int i = 0; i < kHalvings; ++i) {
     double middle = (passing.value + failing.value) / 2;
     if (whole) middle = std::round(middle);
@@ -68,6 +61,12 @@ const PassingInterval* Answer::OfPresent(double value) const {
   return nullptr;
 }
 
+bool TakesWholeNumbers(const MemberInput& input) {
+  return input.ref.field != nullptr &&
+         (std::holds_alternative<int16 ProjectState::*>(input.ref.field->member) ||
+          std::holds_alternative<Indexed<int16, 1, 8> ProjectState::*>(input.ref.field->member));
+}
+
 Trial TryValue(const Design& started, const ProjectState& member, const MemberInputs& inputs,
                const Question& question, double value, Design& work) {
   Trial trial;
@@ -81,15 +80,19 @@ Trial TryValue(const Design& started, const ProjectState& member, const MemberIn
   const Verdict verdict = VerdictOf(work);
   trial.IR = verdict.IR;
   trial.check = GoverningLabel(verdict);
+  trial.governing = verdict.governing;
   trial.passes = verdict.Passes();
   if (run.fault) {
     trial.IR = 0;
     trial.check = FaultText(*run.fault);
+    trial.governing = Governing::None;
   } else if (trial.passes && question.sls && verdict.sls == Serviceability::Fails) {
     trial.passes = false;
     trial.check = "deflection";
+    trial.governing = Governing::None;
   } else if (!trial.passes && !(verdict.IR > verdict.limit) && !verdict.notes.empty()) {
     trial.check = KindOf(verdict.notes.begin()->code).word;
+    trial.governing = Governing::None;
   }
   return trial;
 }
@@ -121,7 +124,7 @@ Answer Solve(const Design& started, const ProjectState& member, const MemberInpu
   std::vector<Trial> trials;
   for (int i = 0; i <= kScanned; ++i) {
     double value = question.low + (question.high - question.low) * i / kScanned;
-    if (IsWhole(question.input)) value = std::round(value);
+    if (TakesWholeNumbers(question.input)) value = std::round(value);
     if (trials.empty() || value != trials.back().value) trials.push_back(tryValue(value));
   }
   if (question.present > question.low && question.present < question.high) {

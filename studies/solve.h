@@ -24,6 +24,7 @@ struct Trial {
   double value = 0;
   bool passes = false;
   double IR = 0;
+  Governing governing = Governing::None;  ///< of check, where it names one
   std::string check;  ///< governing check; "deflection", or a word on what is refused or stopped
 };
 
@@ -51,6 +52,9 @@ Trial TryValue(const Design& started, const ProjectState& member, const MemberIn
 
 /// The present value of an input.
 double PresentValue(const ProjectState& member, const MemberInput& input);
+
+/// Whether an input takes whole numbers alone.
+bool TakesWholeNumbers(const MemberInput& input);
 
 /// Where is looked unless told: within the limit of the input, from zero to ten times the present
 /// value (a hundred where that is zero).

@@ -16,6 +16,7 @@ const pages = [
   ["options.html", "Choosing options", "Input"],
   ["inputs.html", "All inputs", "Input"],
   ["results.html", "Reading the results", "Checks"],
+  ["trust.html", "Before you trust a result", "Checks"],
   ["section-class.html", "Section class and capacities", "Checks"],
   ["section-control.html", "Section control", "Checks"],
   ["shear.html", "Shear", "Checks"],
@@ -41,5 +42,6 @@ const pages = [
   ["fails.html", "It fails, what now?", "When in doubt"],
   ["notes.html", "Verdict and notes", "When in doubt"],
   ["messages.html", "Messages and what to do", "When in doubt"],
+  ["verification.html", "Verification", "When in doubt"],
   ["glossary.html", "Symbols and words, English and Norwegian", "When in doubt"],
 ];

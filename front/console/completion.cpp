@@ -81,6 +81,8 @@ constexpr Value kValues[] = {
     {nullptr, "--max-height", "_korvane_cli_nothing"},
     {nullptr, "--max-width", "_korvane_cli_nothing"},
     {nullptr, "--top", "_korvane_cli_nothing"},
+    {nullptr, "--plot", "_korvane_cli_files svg png pdf"},
+    {nullptr, "--directions", "_korvane_cli_nothing"},
     {nullptr, "--set", "_korvane_cli_nothing"},
     {nullptr, "--for", "_korvane_cli_nothing"},
     {nullptr, "--between", "_korvane_cli_nothing"},

@@ -2,6 +2,7 @@
 // What the commands read and write: files, or the standard input and output where a name is "-".
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -25,6 +26,11 @@ void TellNotSaved(const std::string& path, const WriteResult& result, std::ostre
 /// failure is told on errors.
 int SaveOutput(const std::string& path, std::string_view bytes, const WriteRules& rules,
                std::ostream& output, std::ostream& errors);
+
+/// Lets a command write its output while it makes it: to output for "-" or an empty path, else in
+/// pieces into the file, which is there once all of it is. work returns false to give the file up.
+WriteResult WriteAsMade(const std::string& path, const WriteRules& rules, std::ostream& output,
+                        const std::function<bool(std::ostream&)>& work);
 
 /// The lines of a list of names, without their line ends; empty ones are left out.
 std::vector<std::string> NamesOfList(std::string_view bytes);

@@ -6,18 +6,16 @@
 #include <ctime>
 #include <filesystem>
 #include <iostream>
-#include <optional>
 
 #include "core/file_path.h"
 #include "front/console/exit_status.h"
 #include "front/console/files_of_commands.h"
+#include "front/console/pictures.h"
 #include "front/console/run_design.h"
 #include "front/console/terminal.h"
 #include "front/data_folder.h"
 #include "front/painter/drawing_job.h"
 #include "front/painter/report_job.h"
-#include "front/painter/svg_page.h"
-#include "front/painter_module.h"
 #include "front/system.h"
 
 namespace korvane {
@@ -26,53 +24,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Paints through the module beside the program or in the library folder.
-std::string Paint(const PaintJob& job, std::string& bytes) {
-  const fs::path here = ProgramFolder();
-  return PaintByModule(job, {here, here / KORVANE_MODULE_FROM_BIN}, bytes);
-}
-
 struct Arguments {
   std::string file, kind = "control", what, output, format, data;
 };
-
-enum class Format { Pdf, Svg, Png };
-
-struct FormatWord {
-  const char* word;
-  Format format;
-};
-
-constexpr std::array kFormats{FormatWord{"pdf", Format::Pdf}, FormatWord{"svg", Format::Svg},
-                              FormatWord{"png", Format::Png}};
-
-/// The format asked for, else that of the output's ending; nothing for any other ending.
-std::optional<Format> FormatOf(const Arguments& a, Format onStandardOutput) {
-  std::string word = a.format;
-  if (word.empty()) {
-    if (a.output == kStandardStream) return onStandardOutput;
-    word = FileName(FilePath(a.output).extension());
-    word.erase(0, 1);
-    for (char& c : word)
-      if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  for (const FormatWord& format : kFormats)
-    if (word == format.word) return format.format;
-  return std::nullopt;
-}
-
-/// One file that a command has made.
-struct Made {
-  std::string path, bytes;
-};
-
-/// OUT-N.EXT for a page of several.
-std::string PagePath(const std::string& path, std::size_t number) {
-  const fs::path whole = FilePath(path);
-  const std::string name =
-      FileName(whole.stem()) + "-" + std::to_string(number) + FileName(whole.extension());
-  return FileName(whole.parent_path() / FilePath(name));
-}
 
 /// The design of the file, or the exit status that says why there is none. bytes gets the file as
 /// it was read.
@@ -91,55 +45,10 @@ int Prepare(const Arguments& a, Design& design, std::string* bytes = nullptr) {
   return kAllPass;
 }
 
-/// One page in its format. Returns an empty text, or what went wrong.
-std::string PaintPage(const PaintJob& job, Format format, std::size_t page, std::string& bytes) {
-  if (format == Format::Svg) {
-    bytes = SvgPage(job, page);
-    return {};
-  }
-  PaintJob one = job;
-  one.format = PaintFormat::Png;
-  one.pages = {job.pages.at(page)};
-  return Paint(one, bytes);
-}
-
-/// Paints everything before anything is written: a PDF holds all pages, a picture one.
-std::string PaintAll(const PaintJob& job, Format format, const std::string& output,
-                     std::vector<Made>& made) {
-  if (format == Format::Pdf) return Paint(job, made.emplace_back(Made{output, {}}).bytes);
-  const bool several = job.pages.size() > 1;
-  for (std::size_t page = 0; page < job.pages.size(); ++page) {
-    Made& file = made.emplace_back(Made{several ? PagePath(output, page + 1) : output, {}});
-    const std::string error = PaintPage(job, format, page, file.bytes);
-    if (!error.empty()) return error;
-  }
-  return {};
-}
-
 /// Paints and writes. Returns the exit status, after a word where something failed.
-int Finish(const PaintJob& job, const Arguments& a, Format onStandardOutput) {
-  const auto format = FormatOf(a, onStandardOutput);
-  if (!format) {
-    std::cerr << "the output must end in .pdf, .svg or .png - " << NameOnErrors(a.output) << "\n";
-    return kBadInput;
-  }
-  if (*format != Format::Pdf && job.pages.size() > 1 && a.output == kStandardStream) {
-    std::cerr << "several pictures need several files - name them with -o\n";
-    return kBadInput;
-  }
-  std::vector<Made> made;
-  const std::string error = PaintAll(job, *format, a.output, made);
-  if (!error.empty()) {
-    std::cerr << error << "\n";
-    return kBadInput;
-  }
-  const WriteRules rules{{a.file}};
-  for (const Made& file : made)
-    if (const int status = SaveOutput(file.path, file.bytes, rules, std::cout, std::cerr))
-      return status;
-  if (made.size() > 1)
-    for (const Made& file : made) std::cout << file.path << "\n";
-  return kAllPass;
+int Finish(const PaintJob& job, const Arguments& a, PictureFormat onStandardOutput) {
+  return WritePictures(job, {a.output, a.format}, onStandardOutput, {{a.file}}, std::cout,
+                       std::cerr);
 }
 
 int RunReport(const Arguments& a) {
@@ -150,7 +59,7 @@ int RunReport(const Arguments& a) {
       a.file == kStandardStream ? "project.kvn" : FileName(FilePath(a.file).filename());
   const PaintJob job =
       ReportJob(design, FindSheets(a.kind)->reports, TimeOfPrint(), {name, std::move(bytes)});
-  if (const int status = Finish(job, a, Format::Pdf)) return status;
+  if (const int status = Finish(job, a, PictureFormat::Pdf)) return status;
   return StatusOf(VerdictOf(design));
 }
 
@@ -162,7 +71,7 @@ int RunDraw(const Arguments& a) {
     std::cerr << why << " - " << NameOnErrors(a.file) << "\n";
     return kBadInput;
   }
-  return Finish(DrawingJob(design, drawing), a, Format::Svg);
+  return Finish(DrawingJob(design, drawing), a, PictureFormat::Svg);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <deque>
 
+#include "front/console/design_text.h"
 #include "front/console/exit_status.h"
 #include "front/design_json.h"
 #include "front/named_session.h"
@@ -81,13 +82,13 @@ public:
     rest.erase(0, std::min(rest.find_first_not_of(' '), rest.size()));
     using Handler = void (Script::*)(const std::string&);
     static const std::vector<std::pair<std::string, Handler>> handlers{
-        {"focus", &Script::Focus},     {"menu", &Script::MenuCommand},
-        {"enter", &Script::Enter},     {"return", &Script::ReturnKey},
-        {"click", &Script::ClickOn},   {"select", &Script::SelectEntry},
-        {"close", &Script::CloseForm}, {"open", &Script::Open},
-        {"save", &Script::Save},       {"answer", &Script::Answer},
-        {"show", &Script::Show},       {"results", &Script::Results},
-        {"json", &Script::Json},
+        {"focus", &Script::Focus},        {"menu", &Script::MenuCommand},
+        {"enter", &Script::Enter},        {"return", &Script::ReturnKey},
+        {"click", &Script::ClickOn},      {"select", &Script::SelectEntry},
+        {"close", &Script::CloseForm},    {"open", &Script::Open},
+        {"save", &Script::Save},          {"answer", &Script::Answer},
+        {"show", &Script::Show},          {"results", &Script::Results},
+        {"verdict", &Script::SayVerdict}, {"json", &Script::Json},
     };
     std::vector<std::string> actions;
     for (const auto& [name, handler] : handlers) {
@@ -246,6 +247,10 @@ private:
       }
       out_ << session_.OnScreen(std::move(text)) << "\n";
     }
+  }
+
+  void SayVerdict(const std::string&) {
+    out_ << session_.OnScreen(VerdictText(session_.design(), false));
   }
 
   void Json(const std::string&) {

@@ -76,10 +76,6 @@ constexpr std::array<SortKey, 6> kSortKeys{{
      }},
 }};
 
-bool Passes(const SizeResult& r, bool sls) {
-  return r.standing == Standing::Passes && !(sls && r.sls == Serviceability::Fails);
-}
-
 struct SizeColumn {
   const char* name;
   float SizeResult::*value;

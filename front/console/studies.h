@@ -32,6 +32,8 @@ struct VaryOptions {
   std::vector<std::string> sets;  ///< "L=2:12:0.25", "q1=5,10,20", "section=family:HEA"
   std::string columns;            ///< results; empty: all
   std::string csv;                ///< file; empty or "-": the standard output
+  std::string plot;               ///< picture; empty: none
+  std::string y = "each";         ///< IR, deflection, each
   int jobs = 0;
 };
 
@@ -44,6 +46,15 @@ struct SolveOptions {
   bool json = false;
 };
 
+/// What a person asks of the interaction diagrams.
+struct InteractionOptions {
+  std::string file;
+  std::string csv;  ///< file; empty or "-": the standard output
+  std::string plot;
+  bool json = false;
+  int directions = 72;
+};
+
 /// The commands. They open, design, print; messages on errors; return the exit status.
 int RunSections(std::shared_ptr<const Library> library, const SectionsOptions& options,
                 std::ostream& output, std::ostream& errors);
@@ -52,6 +63,10 @@ int RunVary(std::shared_ptr<const Library> library, const VaryOptions& options,
 /// 0 where the present value passes, 1 where it doesn't.
 int RunSolve(std::shared_ptr<const Library> library, const SolveOptions& options,
              std::ostream& output, std::ostream& errors);
+
+/// 0 where the section control holds, 1 where it doesn't.
+int RunInteraction(std::shared_ptr<const Library> library, const InteractionOptions& options,
+                   std::ostream& output, std::ostream& errors);
 
 /// Reads a member into a state of a started design; false after a word.
 bool ReadMember(const std::string& file, ProjectState& st, std::ostream& errors);

@@ -116,12 +116,16 @@ void AddVary(CLI::App& app, int& status) {
   CLI::App* command =
       Add(app, "vary", "design the member with a grid of values", arguments,
           "  korvane-cli vary beam.kvn --set L=2:12:0.25 --set q1=5,10,20 --csv grid.csv\n"
-          "  korvane-cli vary beam.kvn --set section=family:HEA --set loads=0.5:2:0.1");
+          "  korvane-cli vary beam.kvn --set L=2:12:0.05 --set section=HEA200,HEA240 --plot L.svg");
   command->add_option("FILE", o.file, kProject)->required();
   command->add_option("--set", o.sets, "NAME=FROM:TO:STEP, NAME=A,B,..., section=family:SERIES")
       ->required();
   command->add_option("--columns", o.columns, "results to write, separated by commas");
   command->add_option("--csv", o.csv, kOutput);
+  command->add_option("--plot", o.plot,
+                      "draw one or two inputs: OUT.svg, .png or .pdf; the table with --csv alone");
+  command->add_option("--y", o.y, "what is drawn: the greatest IR, the deflection, each check")
+      ->check(CLI::IsMember({"IR", "deflection", "each"}));
   command->add_option("--jobs", o.jobs, "threads; as many as cores if not given")
       ->check(CLI::Range(1, 1024));
   command->callback([arguments, &status] {
@@ -150,6 +154,26 @@ void AddSolve(CLI::App& app, int& status) {
   });
 }
 
+void AddInteraction(CLI::App& app, int& status) {
+  const auto arguments = std::make_shared<Arguments<InteractionOptions>>();
+  InteractionOptions& o = arguments->options;
+  CLI::App* command =
+      Add(app, "interaction", "interaction diagrams of the member's section", arguments,
+          "  korvane-cli interaction column.kvn --plot diagrams.svg\n"
+          "  korvane-cli interaction column.kvn --directions 24 --csv points.csv");
+  command->add_option("FILE", o.file, kProject)->required();
+  command->add_option("--directions", o.directions, "points of an envelope; 72 without it")
+      ->check(CLI::Range(4, 3600));
+  command->add_option("--plot", o.plot,
+                      "draw the diagrams: OUT.svg, .png or .pdf; the table with --csv alone");
+  CLI::Option* csv = command->add_option("--csv", o.csv, kOutput);
+  command->add_flag("--json", o.json, "print one JSON object")->excludes(csv);
+  command->callback([arguments, &status] {
+    const auto library = ReadLibrary(FindDataFolder(arguments->data));
+    status = RunInteraction(library, arguments->options, std::cout, std::cerr);
+  });
+}
+
 }  // namespace
 
 void AddStudyCommands(CLI::App& app, int& status) {
@@ -157,6 +181,7 @@ void AddStudyCommands(CLI::App& app, int& status) {
   AddTable(app, status);
   AddVary(app, status);
   AddSolve(app, status);
+  AddInteraction(app, status);
 }
 
 }  // namespace korvane

@@ -5,7 +5,10 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
+#include <memory>
+#include <mutex>
 #include <optional>
 #include <sstream>
 #include <utility>
@@ -105,6 +108,29 @@ bool MakePiece(TableReader& reader, char separator, const Share& share, TablePie
   return !piece.rows.empty();
 }
 
+/// The rows of the table in front of a place, read when first asked for: only a row that is refused
+/// tells its number.
+std::function<std::size_t()> RowsInFront(const std::string& path, char separator,
+                                         std::size_t place) {
+  struct Counted {
+    std::once_flag once;
+    std::size_t rows = 0;
+  };
+  return [path, separator, place, counted = std::make_shared<Counted>()] {
+    std::call_once(counted->once, [&] {
+      std::ifstream file(FilePath(path), std::ios::binary);
+      TableReader reader(file);
+      if (reader.Ahead(kByteOrderMark.size()) == kByteOrderMark) {
+        reader.Skip(kByteOrderMark.size());
+      }
+      while (reader.Offset() < place && !reader.Row(separator).empty()) {
+      }
+      counted->rows = reader.Rows();
+    });
+    return counted->rows;
+  };
+}
+
 /// Rows that there will be, by those so far.
 std::size_t RowsExpected(std::size_t done, std::size_t bytes, std::size_t size) {
   if (bytes == 0 || size <= bytes) return done;
@@ -153,6 +179,9 @@ int DesignTable(std::shared_ptr<const Library> library, const TableOptions& opti
   TableReader reader(in);
   if (!ReadBeginning(options, reader, plan, errors)) return kBadInput;
   const Share share = ShareOf(options, reader.Offset(), size);
+  if (reader.Seek(reader.Offset(), share.begin)) {
+    plan.rowsBefore = RowsInFront(options.members, plan.manner.separator, reader.Offset());
+  }
   const MemberInputs inputs(library);
   ProgressBar bar(errors, showProgress, "members");
   if (options.shard == 1) out << TableHeader(plan);
@@ -192,20 +221,16 @@ int RunTable(std::shared_ptr<const Library> library, const TableOptions& options
       return kBadInput;
     }
   }
-  const bool toFile = !options.output.empty() && options.output != kStandardStream;
   const WriteRules rules{{options.members, options.base}};
-  // What can't be written shows before the work begins.
-  if (const WriteResult refused = toFile ? CheckWritable(options.output, rules) : WriteResult();
-      !refused) {
-    TellNotSaved(options.output, refused, errors);
-    return kBadInput;
-  }
+  const bool toFile = !options.output.empty() && options.output != kStandardStream;
   const StopSignal stop;
-  std::ostringstream made;
   TableCounts counts;
-  const int status = DesignTable(std::move(library), options, standard ? std::cin : file, size,
-                                 toFile ? made : output, errors, showProgress, counts);
-  output.flush();
+  int status = kAllPass;
+  const WriteResult written = WriteAsMade(options.output, rules, output, [&](std::ostream& to) {
+    status = DesignTable(std::move(library), options, standard ? std::cin : file, size, to, errors,
+                         showProgress, counts);
+    return status == kAllPass && StopSignal::Received() == 0;
+  });
   if (status != kAllPass) return status;
   if (const int signal = StopSignal::Received(); signal != 0) {
     errors << "stopped by " << (signal == SIGINT ? "SIGINT" : "SIGTERM") << " after "
@@ -213,9 +238,9 @@ int RunTable(std::shared_ptr<const Library> library, const TableOptions& options
            << (toFile ? "; the table is not written\n" : "; the table ends there\n");
     return kStoppedBySignal + signal;
   }
-  if (toFile) {
-    const int failed = SaveOutput(options.output, made.view(), rules, output, errors);
-    if (failed != kAllPass) return failed;
+  if (!written) {
+    TellNotSaved(options.output, written, errors);
+    return kBadInput;
   }
   errors << Totals(counts, "members");
   return counts.ExitStatus();

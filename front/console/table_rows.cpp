@@ -187,6 +187,32 @@ void TableReader::Skip(std::size_t bytes) {
   offset_ += bytes;
 }
 
+bool TableReader::Seek(std::size_t first, std::size_t place) {
+  if (place <= first || place <= offset_) return false;
+  // A quoted cell that is open at the place has its quote within the longest row before it.
+  const std::size_t looked = std::min(kLongestRow, place - first);
+  std::string before(looked, '\0');
+  in_.clear();
+  const auto here = in_.tellg();
+  in_.seekg(static_cast<std::streamoff>(place - looked));
+  in_.read(before.data(), static_cast<std::streamsize>(looked));
+  const std::size_t end = before.rfind('\n');
+  const bool known = in_.gcount() == static_cast<std::streamsize>(looked) &&
+                     before.find('"') == std::string::npos && end != std::string::npos;
+  in_.clear();
+  if (!known) {
+    in_.seekg(here);
+    return false;
+  }
+  offset_ = place - looked + end + 1;
+  in_.seekg(static_cast<std::streamoff>(offset_));
+  buffer_.clear();
+  at_ = 0;
+  rows_ = 0;
+  ended_ = false;
+  return true;
+}
+
 std::string_view TableReader::Row(char separator) {
   while (true) {
     const std::string_view rest = std::string_view(buffer_).substr(at_);
@@ -221,9 +247,17 @@ void RowDesigner::DesignRows(TablePiece& piece) {
   }
 }
 
+std::size_t RowDesigner::InWhole(std::size_t number) const {
+  return number + (plan_.rowsBefore ? plan_.rowsBefore() : 0);
+}
+
+std::string RowDesigner::RowName(std::size_t number) const {
+  return "row " + std::to_string(InWhole(number));
+}
+
 std::optional<std::string> RowDesigner::SetInputs(std::size_t number) {
   for (std::size_t i = plan_.columns.size(); i < cells_.size(); ++i) {
-    if (!cells_[i].empty()) return "row " + std::to_string(number) + ": more cells than headings";
+    if (!cells_[i].empty()) return RowName(number) + ": more cells than headings";
   }
   set_.clear();
   for (std::size_t i = 0; i < std::min(cells_.size(), plan_.columns.size()); ++i) {
@@ -231,7 +265,7 @@ std::optional<std::string> RowDesigner::SetInputs(std::size_t number) {
   }
   input_ = plan_.base;
   const auto refused = inputs_.Put(set_, plan_.manner.decimalComma, input_);
-  return refused ? std::optional(refused->InColumn(number)) : std::nullopt;
+  return refused ? std::optional(refused->InColumn(InWhole(number))) : std::nullopt;
 }
 
 void RowDesigner::DesignRow(std::size_t number, TablePiece& piece) {
@@ -247,7 +281,7 @@ void RowDesigner::DesignRow(std::size_t number, TablePiece& piece) {
   } catch (const std::exception& other) {
     // Whatever a row comes upon is its own.
     piece.lines.resize(begun);
-    refused = "row " + std::to_string(number) + ": " + other.what();
+    refused = RowName(number) + ": " + other.what();
     AppendRow(&*refused, piece.lines);
   }
   Count(refused ? &*refused : nullptr, piece.counts);

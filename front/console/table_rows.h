@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <iosfwd>
 #include <memory>
 #include <optional>
@@ -32,6 +33,9 @@ struct TablePlan {
   bool optimise = false;
   bool jsonLines = false;
   ProjectState base;
+  /// Rows in front of the first that is numbered 1, asked for where a row's number is told; none
+  /// where the table is read from its beginning. Any thread may ask.
+  std::function<std::size_t()> rowsBefore;
 };
 
 /// The columns of the headings; nothing, after a word on errors, where one is unknown or stands
@@ -54,7 +58,7 @@ std::string TableHeader(const TablePlan& plan);
 /// Rows that a thread takes at once.
 struct TablePiece {
   std::string rows;
-  std::size_t first = 0;  ///< number of the first row, the headings being row 1
+  std::size_t first = 0;  ///< number of the first row, behind those of TablePlan::rowsBefore
   std::size_t end = 0;    ///< bytes of the table read behind them
   std::string lines;      ///< their results
   TableCounts counts;
@@ -72,6 +76,11 @@ public:
   std::size_t Offset() const { return offset_; }
   std::size_t Rows() const { return rows_; }
   void Skip(std::size_t bytes);
+  /// Goes to the beginning of the row that the byte ahead of the place belongs to, without reading
+  /// what stands far ahead of it, and counts rows anew from there. False, and nothing changed,
+  /// where the longest row before the place doesn't tell: it holds a quote or no line end. first:
+  /// where the rows begin.
+  bool Seek(std::size_t first, std::size_t place);
 
 private:
   bool Fill();
@@ -92,6 +101,9 @@ public:
 private:
   void DesignRow(std::size_t number, TablePiece& piece);
   std::optional<std::string> SetInputs(std::size_t number);
+  /// The number of a row in the whole table, and "row 17" of it.
+  std::size_t InWhole(std::size_t number) const;
+  std::string RowName(std::size_t number) const;
   void AppendRow(const std::string* refused, std::string& lines);
   void Count(const std::string* refused, TableCounts& counts) const;
   const TablePlan& plan_;

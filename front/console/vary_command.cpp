@@ -13,6 +13,7 @@
 #include "front/console/studies.h"
 #include "front/console/table_rows.h"
 #include "front/console/terminal.h"
+#include "front/console/vary.h"
 #include "front/nearest.h"
 #include "studies/all_sections.h"
 #include "studies/in_order.h"
@@ -24,12 +25,6 @@ namespace {
 
 constexpr std::size_t kRowsPerPiece = 256;
 constexpr std::size_t kMostValues = 1000000;
-
-/// A varied input with its values as they are written.
-struct Axis {
-  TableColumn column;
-  std::vector<std::string> values;
-};
 
 bool ParseNumber(std::string_view text, double& value) {
   const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -75,8 +70,10 @@ bool ParseFamily(const std::string& text, const Library& library,
   return !values.empty();
 }
 
-std::optional<Axis> ParseAxis(const std::string& set, const ProjectState& st,
-                              const Library& library, std::ostream& errors) {
+}  // namespace
+
+std::optional<VaryAxis> ParseAxis(const std::string& set, const ProjectState& st,
+                                  const Library& library, std::ostream& errors) {
   const auto equals = set.find('=');
   const std::string name = set.substr(0, equals);
   const auto input = FindMemberInput(name, st);
@@ -85,7 +82,7 @@ std::optional<Axis> ParseAxis(const std::string& set, const ProjectState& st,
            << " (nearest: " << NearestWord(name, MemberInputNames()) << ")\n";
     return std::nullopt;
   }
-  Axis axis{{name, input}, {}};
+  VaryAxis axis{{name, input}, {}};
   const std::string list = equals == std::string::npos ? "" : set.substr(equals + 1);
   const bool number = input->kind == InputKind::Field || input->kind == InputKind::Loads;
   const bool parsed =
@@ -108,8 +105,10 @@ std::optional<Axis> ParseAxis(const std::string& set, const ProjectState& st,
   return axis;
 }
 
+namespace {
+
 /// The grid's rows first..last-1; the last input varies fastest.
-void WriteRows(const std::vector<Axis>& axes, std::size_t first, std::size_t last,
+void WriteRows(const std::vector<VaryAxis>& axes, std::size_t first, std::size_t last,
                std::string& rows) {
   const CsvManner manner;
   for (std::size_t row = first; row < last; ++row) {
@@ -127,6 +126,44 @@ void WriteRows(const std::vector<Axis>& axes, std::size_t first, std::size_t las
   }
 }
 
+/// What is designed.
+struct Grid {
+  const TablePlan& plan;
+  const std::vector<VaryAxis>& axes;
+  const Design& started;
+  int jobs = 0;
+  std::size_t all = 0;
+};
+
+void DesignGrid(const Grid& grid, const MemberInputs& inputs, std::ostream& out,
+                std::ostream& errors, bool showProgress, TableCounts& counts) {
+  ProgressBar bar(errors, showProgress, "designs");
+  out << TableHeader(grid.plan);
+  std::size_t next = 0;
+  WorkInOrder<TablePiece>(
+      ThreadsFor(grid.jobs, grid.all),
+      [&](TablePiece& piece) {
+        piece = {};
+        piece.first = next + 2;
+        const std::size_t last = std::min(grid.all, next + kRowsPerPiece);
+        if (next == last || StopSignal::Received() != 0) return false;
+        WriteRows(grid.axes, next, last, piece.rows);
+        next = last;
+        return true;
+      },
+      [&] {
+        return [designer = RowDesigner(grid.plan, inputs, grid.started)](
+                   TablePiece& piece) mutable { designer.DesignRows(piece); };
+      },
+      [&](const TablePiece& piece) {
+        out << piece.lines;
+        counts.Add(piece.counts);
+        bar.Update(counts.All(), grid.all);
+        return bool(out);
+      });
+  bar.Finish();
+}
+
 }  // namespace
 
 int RunVary(std::shared_ptr<const Library> library, const VaryOptions& options,
@@ -138,7 +175,7 @@ int RunVary(std::shared_ptr<const Library> library, const VaryOptions& options,
   auto results = ResultsOf(options.columns, errors);
   if (!results) return kBadInput;
   plan.results = std::move(*results);
-  std::vector<Axis> axes;
+  std::vector<VaryAxis> axes;
   std::size_t all = 1;
   for (const std::string& set : options.sets) {
     auto axis = ParseAxis(set, plan.base, *library, errors);
@@ -152,52 +189,26 @@ int RunVary(std::shared_ptr<const Library> library, const VaryOptions& options,
     plan.columns.push_back(axis->column);
     axes.push_back(std::move(*axis));
   }
-  const bool toFile = !options.csv.empty() && options.csv != kStandardStream;
-  const WriteRules rules{{options.file}};
-  if (const WriteResult refused = toFile ? CheckWritable(options.csv, rules) : WriteResult();
-      !refused) {
-    TellNotSaved(options.csv, refused, errors);
-    return kBadInput;
+  if (!options.plot.empty()) {
+    const int status = PlotGrid(library, started, plan.base, axes, options, output, errors);
+    // The table is written where a place for it was named.
+    if (status != kAllPass || options.csv.empty()) return status;
   }
   const StopSignal stop;
-  std::ostringstream made;
-  std::ostream& out = toFile ? made : output;
   const MemberInputs inputs(library);
   TableCounts counts;
-  ProgressBar bar(errors, showProgress, "designs");
-  out << TableHeader(plan);
-  std::size_t next = 0;
-  WorkInOrder<TablePiece>(
-      ThreadsFor(options.jobs, all),
-      [&](TablePiece& piece) {
-        piece = {};
-        piece.first = next + 2;
-        const std::size_t last = std::min(all, next + kRowsPerPiece);
-        if (next == last || StopSignal::Received() != 0) return false;
-        WriteRows(axes, next, last, piece.rows);
-        next = last;
-        return true;
-      },
-      [&] {
-        return [designer = RowDesigner(plan, inputs, started)](TablePiece& piece) mutable {
-          designer.DesignRows(piece);
-        };
-      },
-      [&](const TablePiece& piece) {
-        out << piece.lines;
-        counts.Add(piece.counts);
-        bar.Update(counts.All(), all);
-        return bool(out);
-      });
-  bar.Finish();
-  output.flush();
+  const WriteRules rules{{options.file}};
+  const WriteResult written = WriteAsMade(options.csv, rules, output, [&](std::ostream& to) {
+    DesignGrid({plan, axes, started, options.jobs, all}, inputs, to, errors, showProgress, counts);
+    return StopSignal::Received() == 0 || counts.All() == all;
+  });
   if (const int signal = StopSignal::Received(); signal != 0 && counts.All() < all) {
     errors << "stopped after " << counts.All() << " of " << all << " designs\n";
     return kStoppedBySignal + signal;
   }
-  if (toFile) {
-    const int failed = SaveOutput(options.csv, made.view(), rules, output, errors);
-    if (failed != kAllPass) return failed;
+  if (!written) {
+    TellNotSaved(options.csv, written, errors);
+    return kBadInput;
   }
   errors << Totals(counts, "designs");
   return counts.ExitStatus();

@@ -138,7 +138,8 @@ void Desktop::SyncWindows() {
   if (top != front_) {
     if (FormWindow* window = WindowOf(*top)) {
       window->raise();
-      window->activateWindow();
+      // Two windows that each ask for the front while the other one gets it would never end.
+      if (!window->isActiveWindow()) window->activateWindow();
     }
   }
   front_ = top;

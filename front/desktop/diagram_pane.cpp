@@ -12,9 +12,9 @@
 #include "front/copied_tables.h"
 #include "front/desktop/diagram_names.h"
 #include "front/desktop/member_strip.h"
+#include "front/desktop/screen_target.h"
 #include "front/desktop/station_table.h"
 #include "front/desktop/theme.h"
-#include "front/painter/painter_target.h"
 #include "front/pane_text.h"
 
 namespace korvane {
@@ -36,24 +36,6 @@ constexpr double kMostStretch = 1.25;
 constexpr double kPenUnit = 0.5;
 /// Step of the arrow keys, a part of the length: from station to station.
 constexpr double kStep = 1.0 / StationValues::kLast;
-
-/// Draws with the decimal mark of the platform.
-class ScreenTarget : public PainterTarget {
-public:
-  ScreenTarget(QPainter& painter, const QWidget& pane, const Session& session)
-      : PainterTarget(painter, pane.width(), pane.height(), pane.rect(),
-                      DrawingColours(pane.palette())),
-        session_(session) {}
-
-protected:
-  void OnText(Point topLeft, const std::string& text, double width,
-              const TextStyle& style) override {
-    PainterTarget::OnText(topLeft, session_.OnScreen(text), width, style);
-  }
-
-private:
-  const Session& session_;
-};
 
 DiagramData DataOf(const Session& s) {
   const Design& d = s.design();

@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QMessageBox>
 
-#include "front/desktop/form_window.h"
 #include "front/desktop/help_viewer.h"
 #include "front/desktop/main_window.h"
 #include "front/forms/handles.h"
@@ -38,8 +37,9 @@ void HelpDesk::OpenAtForm() {
 }
 
 QString HelpDesk::FormInFront() const {
-  const auto* form = qobject_cast<const FormWindow*>(QApplication::activeWindow());
-  return form != nullptr ? form->objectName() : window_.objectName();
+  const QWidget* front = QApplication::activeWindow();
+  const QString name = front == nullptr ? QString() : front->objectName();
+  return book_.PlaceOfForm(name).isEmpty() ? window_.objectName() : name;
 }
 
 void HelpDesk::Open(const QString& place) {

@@ -103,6 +103,8 @@ void StartAgain(const QCommandLineParser& parser, QStringList arguments) {
     const QString option = QString::fromLatin1(name);
     if (parser.isSet(option)) arguments << QStringLiteral("--") + option << parser.value(option);
   }
+  const QString defaults = QStringLiteral("--program-defaults");
+  if (parser.isSet(defaults.mid(2)) && !arguments.contains(defaults)) arguments << defaults;
   if (!QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments)) {
     std::fprintf(stderr, "korvane: the program can't be started again\n");
   }

@@ -11,6 +11,7 @@
 #include "front/desktop/flow_layout.h"
 #include "front/desktop/form_binder.h"
 #include "front/desktop/main_window.h"
+#include "front/desktop/study_buttons.h"
 #include "front/desktop/theme.h"
 #include "front/desktop/widget_maker.h"
 
@@ -256,6 +257,7 @@ QLayout* MainWindow::Head(WidgetMaker& maker) {
   title->setFont(large);
   section->addWidget(title);
   for (const Handle view : {On().cmdpic, On().de}) section->addWidget(maker.Make(view));
+  AddStudyButtons(desktop_, section);
   head->addLayout(section, 1);
   verdict_ = new VerdictPane(desktop_.session());
   head->addWidget(verdict_, 1);

@@ -47,7 +47,14 @@ Recovery::Recovery(Desktop& desktop, const QString& folder) : desktop_(desktop),
   disk_.setMaxThreadCount(1);
   timer_.setSingleShot(true);
   timer_.setInterval(kDelay);
-  connect(&timer_, &QTimer::timeout, this, &Recovery::Keep);
+  connect(&timer_, &QTimer::timeout, this, [this] {
+    // A search lets the clock run on; its members are not the person's.
+    if (desktop_.Busy()) {
+      timer_.start();
+    } else {
+      Keep();
+    }
+  });
   connect(&desktop_, &Desktop::Refreshed, this, [this] {
     if (!timer_.isActive()) timer_.start();
   });

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/desktop/screenshots.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QPixmap>
 #include <QScreen>
+#include <QTabWidget>
 
 #include "front/desktop/desktop.h"
 #include "front/desktop/form_window.h"
@@ -148,12 +150,34 @@ bool ShootForms(Desktop& desktop, NamedSession& s, const QDir& folder, const QSt
         }
       }
     });
+    Settle();
     window->resize(window->sizeHint());
     ok = Shoot(*window, s, folder,
                QStringLiteral("form-%1-%2").arg(QString::fromStdString(form.name), theme)) &&
          ok;
     desktop.Act([&] { s.Unload(form.name); });
     Furnish(desktop, s);
+  }
+  return ok;
+}
+
+/// The windows of the studies, each opened by its button.
+bool ShootStudies(Desktop& desktop, const Session& s, const QDir& folder, const QString& theme) {
+  bool ok = true;
+  for (const char* name : {"sections", "whatif"}) {
+    const QString window = QString::fromUtf8(name);
+    auto* button = desktop.window().findChild<QAbstractButton*>(QStringLiteral("open_") + window);
+    if (button == nullptr) return false;
+    button->click();
+    auto* opened = desktop.window().findChild<QWidget*>(window);
+    if (opened == nullptr) return false;
+    ok = Shoot(*opened, s, folder, QStringLiteral("study-%1-%2").arg(window, theme)) && ok;
+    if (auto* tabs = opened->findChild<QTabWidget*>()) {
+      tabs->setCurrentIndex(1);
+      ok = Shoot(*opened, s, folder, QStringLiteral("study-interaction-%1").arg(theme)) && ok;
+      tabs->setCurrentIndex(0);
+    }
+    opened->close();
   }
   return ok;
 }
@@ -171,6 +195,7 @@ bool WriteScreenshots(Desktop& desktop, NamedSession& s, const QString& path) {
     ApplyTheme(theme);
     Furnish(desktop, s);
     ok = ShootMain(desktop, s, folder, name) && ok;
+    ok = ShootStudies(desktop, s, folder, name) && ok;
     ok = ShootForms(desktop, s, folder, name) && ok;
   }
   return ok;

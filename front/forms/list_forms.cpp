@@ -14,9 +14,8 @@ std::string TwoDigits(int n) {
 /// Runs a search under the wait cursor, with its progress.
 template <class Run>
 void Search(Session& s, Run&& run) {
-  s.platform().WaitCursor(true);
+  const Waiting waiting(s.platform());
   run([&s](int done, int all) { s.platform().Progress(done, all); });
-  s.platform().WaitCursor(false);
 }
 
 Control RowField(const std::string& name, int row, std::string OptimiserRowView::*member) {
@@ -71,25 +70,12 @@ Control CriterionOption(const char* name, int criterion) {
 
 // --- Database -----------------------------------------------------------------------------------
 
-/// Takes a row of the list. A damaged file may hold rows that can't be designed: then it beeps,
-/// and the member is as it was.
-void TakeRow(Session& s, const std::function<void()>& take) {
-  const ProjectState before = s.st();
-  try {
-    take();
-  } catch (const ArithmeticFault&) {
-    s.platform().Beep();
-    s.st() = before;
-    s.Calculate();
-  }
-}
-
 /// The selected row comes in force.
 void LoadSelection(Session& s) {
   Database& db = s.database();
   db.DbRow = s.databaseSelection < 0 ? 0 : s.databaseSelection;
   if (db.DbLast < 0) return;
-  TakeRow(s, [&] {
+  s.TakeSection([&] {
     s.st().ProfileType = DatabaseRowType(db);
     if (db.listUpdate) return;
     LoadDatabaseRow(db, s.st());
@@ -102,7 +88,7 @@ void LoadSelection(Session& s) {
 void FocusDatabase(Session& s) {
   Database& db = s.database();
   s.st().DatabaseMode = 1;
-  TakeRow(s, [&] {
+  s.TakeSection([&] {
     if (s.databaseSelection >= 0 && s.databaseSelection <= db.DbLast) {
       db.DbRow = s.databaseSelection;
       s.st().ProfileType = DatabaseRowType(db);

@@ -182,11 +182,10 @@ void ToggleModal(Session& s) {
 
 /// The optimiser group: a search of the family in force, redrawn without a calculation.
 void RunOptimiseCurrent(Session& s) {
-  s.platform().WaitCursor(true);
+  const Waiting waiting(s.platform());
   OptimiseCurrent(s.design(), s.rows().results,
                   [&s](int done, int all) { s.platform().Progress(done, all); });
   s.ComposeResults();
-  s.platform().WaitCursor(false);
 }
 
 Control CriterionOption(const char* name, int criterion) {

@@ -259,8 +259,8 @@ TEST(Verdict, OverlappingFlangesDoNotPass) {
   d.st.q1 = 1;
   const Verdict v = VerdictAfterTwo(d);
   EXPECT_NE(v.standing, Standing::Passes);
-  EXPECT_TRUE(
-      Has(Text(d, v, NoteCode::SectionImpossible), "the web height between the flanges is -20"));
+  EXPECT_EQ(Text(d, v, NoteCode::SectionImpossible),
+            "The section can't exist: the web height between the flanges is -20.");
   d.st.p21_tf = 40;
   EXPECT_FALSE(Find(VerdictAfterTwo(d), NoteCode::SectionImpossible));
 }

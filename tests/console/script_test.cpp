@@ -190,6 +190,21 @@ TEST(ScriptAction, ASavingOverAFileThatHasChangedIsRemarked) {
   EXPECT_EQ(Output("open " + file + "\nshow il\n"), "il = 7.000\n");
 }
 
+TEST(ScriptAction, RelativePathsMeanTheCurrentFolder) {
+  const TempFolder folder;
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(folder.Path());
+  EXPECT_EQ(Output("enter il 7\nsave a.kvn\nmenu mnup04\nclick addtodb\nmenu mnudb\n"
+                   "answer a.db\nclick save_db\n"),
+            "");
+  EXPECT_TRUE(std::filesystem::exists(folder / "a.kvn"));
+  EXPECT_TRUE(std::filesystem::exists(folder / "a.db"));
+  EXPECT_EQ(Output("answer a.kvn\nmenu mnuopen\nshow il\nmenu mnudb\nanswer a.db\n"
+                   "click open_db\nselect cbo 0\nshow cbo\n"),
+            "il = 7.000\ncbo = IPE 80\n");
+  std::filesystem::current_path(before);
+}
+
 TEST(ScriptAction, ResultsThatDontHoldSayWhy) {
   const auto lines = Lines(Output("focus korvane\nenter il 0.01\nresults\n"));
   EXPECT_NE(std::find(lines.begin(), lines.end(), "not calculated: L 0.010 m is refused"),
@@ -369,6 +384,18 @@ TEST(ScriptError, NamesTheLineAndTheNearestName) {
 /// A flange without thickness: its slenderness divides by zero.
 constexpr const char* kNoFlange = "focus korvane\nmenu mnup21\nenter isttf 0\n";
 constexpr const char* kRefused = "message:  tf >= 0.1 \nfocus: isttf\n";
+
+// The section of a new project, HEA200, 5 m and 100 kN: L/iz = 5000/49.8 = 100.
+TEST(ScriptAction, VerdictIsThatOfTheProgramWithItsNotes) {
+  const std::string said = Output(
+      "focus korvane\nmenu mnusetup\nclick check_slend\nenter islend_limit 90\nclose setup\n"
+      "focus korvane\nverdict\n");
+  EXPECT_TRUE(said.starts_with("Verdict: fails   greatest IR = ")) << said;
+  EXPECT_NE(said.find("\n  fails: The slenderness L/i = 100 about z is above the limit 90. "
+                      "[slenderness-exceeded]\n"),
+            std::string::npos)
+      << said;
+}
 
 TEST(ScriptFailure, OutsideATextFieldEndsTheScript) {
   const Played run = Play(std::string(kNoFlange) + "focus korvane\nshow il\n");

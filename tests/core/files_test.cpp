@@ -392,5 +392,72 @@ TEST(WriteFile, NeverShowsAHalfWrittenFile) {
   EXPECT_EQ(folder.Count(), 1);
 }
 
+// --- In pieces
+// ------------------------------------------------------------------------------------
+
+std::size_t FilesIn(const TempFolder& folder) {
+  const auto files = fs::directory_iterator(folder.Path());
+  return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+}
+
+TEST(WriteFileInPieces, TheOldFileStandsUntilTheLastPiece) {
+  const TempFolder folder;
+  const std::string path = folder / "a.csv";
+  PutFile(path, "old");
+  const WriteResult written = WriteFileInPieces(path, [&](const PieceTaker& take) {
+    for (int i = 0; i < 100; ++i) {
+      EXPECT_TRUE(take("piece " + std::to_string(i) + "\n"));
+      EXPECT_EQ(GetFile(path), "old");
+      EXPECT_EQ(FilesIn(folder), 2u);
+    }
+    return true;
+  });
+  EXPECT_TRUE(written);
+  EXPECT_TRUE(GetFile(path).starts_with("piece 0\npiece 1\n"));
+  EXPECT_TRUE(GetFile(path).ends_with("piece 99\n"));
+  EXPECT_EQ(FilesIn(folder), 1u);
+}
+
+TEST(WriteFileInPieces, WhatIsGivenUpLeavesTheOldFileAndNothingBeside) {
+  const TempFolder folder;
+  for (const bool old : {true, false}) {
+    const std::string path = folder / (old ? "old.csv" : "new.csv");
+    if (old) PutFile(path, "old");
+    const WriteResult written = WriteFileInPieces(path, [](const PieceTaker& take) {
+      take("a part");
+      return false;
+    });
+    EXPECT_EQ(written.status, WriteStatus::GivenUp);
+    EXPECT_EQ(fs::exists(path), old);
+  }
+  EXPECT_EQ(GetFile(folder / "old.csv"), "old");
+  EXPECT_EQ(FilesIn(folder), 1u);
+}
+
+TEST(WriteFileInPieces, KeepsAHardLinkWhoseFileIsWrittenAtTheEnd) {
+  const TempFolder folder;
+  PutFile(folder / "a", "a long old content");
+  fs::create_hard_link(folder / "a", folder / "b");
+  EXPECT_TRUE(WriteFileInPieces(folder / "a", [&](const PieceTaker& take) {
+    EXPECT_TRUE(take("new "));
+    EXPECT_EQ(GetFile(folder / "b"), "a long old content");
+    return take("content");
+  }));
+  EXPECT_EQ(GetFile(folder / "b"), "new content");
+  EXPECT_EQ(FilesIn(folder), 2u);
+}
+
+TEST(WriteFileInPieces, RefusesBeforeAnythingIsMade) {
+  const TempFolder folder;
+  PutFile(folder / "in", "input");
+  const auto never = [](const PieceTaker&) {
+    ADD_FAILURE() << "made";
+    return true;
+  };
+  EXPECT_EQ(WriteFileInPieces(folder / "in", never, {{folder / "in"}}).status,
+            WriteStatus::IsInput);
+  EXPECT_EQ(WriteFileInPieces(folder / "none/a", never).status, WriteStatus::NoFolder);
+}
+
 }  // namespace
 }  // namespace korvane

@@ -112,7 +112,9 @@ TEST(WholeDesigns, ExamplesCoverTheWaysOfAMember) {
   EXPECT_TRUE(segments.count(0) == 1 && segments.size() >= 4);
   EXPECT_EQ(points, (std::set<int>{0, 1}));
   EXPECT_EQ(manual, (std::set<int>{0, 1}));
-  for (const int rolled : {1, 2, 3, 4, 15, 101, 102}) EXPECT_EQ(profiles.count(rolled), 1U);
+  for (const int code : {1, 2, 3, 4, 15, 101, 102, 23, 26, 28}) {
+    EXPECT_EQ(profiles.count(code), 1U) << code;
+  }
   EXPECT_TRUE(tension);
   EXPECT_TRUE(biaxial);
 }

@@ -314,6 +314,56 @@ TEST(ToKeep, IsTheLastStateThatCouldBeCalculatedWithItsNames) {
   EXPECT_EQ(third.platform.overwriteAsked.size(), 1U);
 }
 
+TEST(ToKeep, OfANewProjectThatFailsIsTheOneBefore) {
+  const TempFolder folder;
+  Running r;
+  r.session.Enter("il", "7");
+  r.session.files().SavePathAs(folder / "a.kvn");
+  r.session.Enter("igammam1", "0");
+  EXPECT_THROW(r.session.Menu("mnunew"), CalculationFault);
+  const auto kept = ToKeep(r.session);
+  ASSERT_TRUE(kept.has_value());
+  EXPECT_EQ(kept->st.CurrentFileName, folder / "a.kvn");
+  EXPECT_EQ(double(kept->st.L), 7);
+  EXPECT_FALSE(kept->modified);
+}
+
+TEST(ToKeep, AfterAFileThatCannotBeReadIsTheOneBeforeUnderItsOwnName) {
+  const TempFolder folder;
+  std::ofstream(folder / "torn.kvn") << "390\r\nOther\r\nB\r\n2\r\n";
+  Running r;
+  r.session.Enter("iproj", "Bridge");
+  r.session.Enter("il", "7");
+  r.session.files().SavePathAs(folder / "a.kvn");
+  r.session.files().OpenPath(folder / "torn.kvn");
+  ASSERT_NE(r.session.NotCalculated(), "");
+  const auto kept = ToKeep(r.session);
+  ASSERT_TRUE(kept.has_value());
+  EXPECT_EQ(kept->st.CurrentFileName, folder / "a.kvn");
+  EXPECT_EQ(kept->st.iproj, "Bridge");
+  EXPECT_EQ(double(kept->st.L), 7);
+}
+
+TEST(Mending, LeavesNoWaitCursorBehindASearchThatFails) {
+  class Cursor : public testing::RememberingPlatform {
+  public:
+    void WaitCursor(bool on) override { waits += on ? 1 : -1; }
+    int waits = 0;
+  };
+  const TempFolder folder;
+  Cursor platform;
+  NamedSession session(SourceLibrary(), platform, false);
+  session.Start();
+  session.files().OpenPath(Project(folder, [](ProjectState& st) { st.gammam1 = 0; }));
+  session.Menu("mnuopt");
+  session.Click("cbp04");
+  session.Click("Command1");
+  session.Click("korvane.optimize");
+  session.Click("korvane.ULS");
+  EXPECT_TRUE(session.Mending());
+  EXPECT_EQ(platform.waits, 0);
+}
+
 TEST(ToKeep, IsAnUnfinishedMendingAsItStands) {
   const TempFolder folder;
   Running r;

@@ -59,10 +59,11 @@ std::vector<std::pair<std::string_view, std::string>> Inputs(const ProjectState&
 void OpenForms(Dice& dice, Session& s) {
   const Forms& forms = TheForms();
   const Form* modes[] = {forms.loading, forms.endForces};
-  const Form* others[] = {forms.stiffeners, forms.points, forms.lateral, forms.setup,
-                          &FamilyForm(s.st().ProfileType)};
+  const Form* others[] = {
+      forms.stiffeners, forms.points, forms.lateral, forms.setup,
+      forms.database,   forms.curves, forms.details, &FamilyForm(s.st().ProfileType)};
   s.Show(*modes[dice.Below(2)]);
-  s.Show(*others[dice.Below(5)]);
+  s.Show(*others[dice.Below(int(std::size(others)))]);
 }
 
 void CloseForms(Session& s) {
@@ -92,7 +93,14 @@ TEST(QuietWalk, ChangesNoInputAndSaysNothing) {
   const auto families = AllFamilies();
   int walked = 0;
   Running r;
-  const ProjectState fresh = r.st();
+  // Sections of a database that nobody has selected.
+  for (const char* family : {"mnup04", "mnup21", "mnu54"}) {
+    r.session.Menu(family);
+    r.session.Click("addtodb");
+  }
+  r.session.databaseSelection = -1;
+  CloseForms(r.session);
+  const ProjectState fresh = Running().st();
   for (unsigned seed = 0; seed < kSeeds; ++seed) {
     Dice dice(seed);
     r.platform.messages.clear();

@@ -243,12 +243,17 @@ void RandomPerson::LookAtForm() {
 
 void RandomPerson::CheckFields() const {
   const Session& s = *session_;
+  // A project that was opened has filled the fields that New had left.
+  const FileRecord& file = s.files().Record();
+  const bool opened = file.disk && !file.savedAt && !file.unread.contains(file.path);
+  const bool mayBeLeft = newProject_ && !opened;
   for (const Form* form : s.OpenForms()) {
     for (const Control& c : form->controls) {
-      if (!c.field.IsNumber() || c.text || &c == s.FocusedField() || !s.Visible(c)) continue;
+      if (!c.field.IsNumber() || c.text || s.Typed(c) || !s.Visible(c)) continue;
       const std::string state = s.Shown(ReadInput(s.st(), c.field.input), c.field.Format());
       const std::string shown = s.Text(c);
-      if (shown == state || (newProject_ && form == TheForms().main && s.Marked(c))) continue;
+      const bool left = mayBeLeft && form == TheForms().main && s.Marked(c) && !s.IsRefused(c);
+      if (shown == state || left) continue;
       throw std::logic_error(AddressOf(c) + " shows " + shown + " for " + state);
     }
   }

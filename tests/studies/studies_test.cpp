@@ -261,6 +261,46 @@ TEST(Solving, TheAnswerPassesAndTheNextValueFails) {
 }
 
 /// Pure tension without transverse load: N/Nd = 1 at N = A*fyk/gammam1.
+/// Whatever the member and the input: both sides of every end are what a plain design says.
+TEST(Solving, EveryEndHoldsForMembersOfAllFamilies) {
+  const Design started = StartedDesign(SourceLibrary());
+  const MemberInputs inputs(SourceLibrary());
+  Design work = started;
+  int ends = 0;
+  int number = 0;
+  for (const Family& family : AllFamilies()) {
+    ProjectState member = Column(started);
+    member.ProfileType = family.code;
+    member.L = 3 + number % 4;
+    member.NP = 40.0 * (number % 5);
+    const char* const names[] = {"L", "q1", "NP", "loads", "N"};
+    Question q;
+    q.input = *FindMemberInput(names[number++ % 5], member);
+    q.present = PresentValue(member, q.input);
+    q.sls = number % 2 == 0;
+    DefaultRange(member, q);
+    const Answer answer = Solve(started, member, inputs, q);
+    for (const PassingInterval& interval : answer.intervals) {
+      for (const auto& end : {interval.below, interval.above}) {
+        if (!end) continue;
+        ++ends;
+        for (const Trial* side : {&end->passing, &end->failing}) {
+          ProjectState st = member;
+          const bool taken = !inputs.Set(q.input, side->value, st);
+          bool passes = false;
+          if (taken && !DesignMember(started, st, work).fault) {
+            const Verdict v = VerdictOf(work);
+            passes = v.Passes() && !(q.sls && v.sls == Serviceability::Fails);
+          }
+          EXPECT_EQ(passes, side == &end->passing)
+              << family.menuCaption << " " << q.input.name << " " << side->value;
+        }
+      }
+    }
+  }
+  EXPECT_GT(ends, 10);
+}
+
 TEST(Solving, TensionReachesTheCapacityOfTheSection) {
   const Design started = StartedDesign(SourceLibrary());
   ProjectState member = started.st;

@@ -9,8 +9,6 @@
 
 namespace korvane::verification {
 
-namespace {
-
 /// Five digits, which both single precision and the independent values hold.
 std::string Figure(double value) {
   char text[40];
@@ -26,6 +24,20 @@ std::string Percent(const Case& c) {
   std::snprintf(text, sizeof text, "%+.3f %%", percent);
   return percent == 0 ? "0.000 %" : text;
 }
+
+std::string Summary(const std::vector<Chapter>& book) {
+  std::size_t count = 0;
+  std::size_t near = 0;
+  for (const Chapter& chapter : book) {
+    count += chapter.cases.size();
+    near +=
+        std::size_t(std::count_if(chapter.cases.begin(), chapter.cases.end(),
+                                  [](const Case& c) { return std::fabs(Difference(c)) < 1e-3; }));
+  }
+  return std::to_string(count) + " cases; " + std::to_string(near) + " of them agree within 0.1 %.";
+}
+
+namespace {
 
 void AddCell(std::string& line, const std::string& text) {
   line += " " + text + " |";
@@ -56,19 +68,6 @@ ours over independent less 1. Where the program follows a rule that differs from
 remark says so and the difference says by how much.
 )";
 
-std::string Summary(const std::vector<Chapter>& book) {
-  std::size_t count = 0;
-  std::size_t near = 0;
-  for (const Chapter& chapter : book) {
-    count += chapter.cases.size();
-    near +=
-        std::size_t(std::count_if(chapter.cases.begin(), chapter.cases.end(),
-                                  [](const Case& c) { return std::fabs(Difference(c)) < 1e-3; }));
-  }
-  return "\n" + std::to_string(count) + " cases; " + std::to_string(near) +
-         " of them agree within 0.1 %.\n";
-}
-
 }  // namespace
 
 std::vector<Chapter> Book() {
@@ -82,7 +81,7 @@ std::vector<Chapter> Book() {
 }
 
 std::string BookText(const std::vector<Chapter>& book) {
-  std::string text = kHead + Summary(book);
+  std::string text = kHead + ("\n" + Summary(book) + "\n");
   int number = 0;
   for (const Chapter& chapter : book) {
     text += "\n## " + chapter.title + "\n\n" + chapter.introduction + "\n\n";

@@ -59,6 +59,19 @@ std::vector<Chapter> Book();
 /// The whole book as Markdown, the same bytes on every machine.
 std::string BookText(const std::vector<Chapter>& book);
 
+/// The whole book as a page of the help book.
+std::string BookPage(const std::vector<Chapter>& book);
+
+/// Five digits, which both single precision and the independent values hold.
+std::string Figure(double value);
+/// The difference in per cent with three decimals, never "-0.000".
+std::string Percent(const Case& c);
+/// How many cases there are and how many agree.
+std::string Summary(const std::vector<Chapter>& book);
+
+/// The folder of the help book, with a slash.
+std::string HelpPath();
+
 /// Where the book stands in the source tree.
 std::string BookPath();
 
