@@ -73,11 +73,14 @@ const LineLoad& LineLoadOf(int n) {
 }
 
 const Trapezoid& TrapezoidOf(int t) {
-  using S = ProjectState;
+  using State = ProjectState;
   static constexpr std::array<Trapezoid, 3> table{{
-      {&S::qt1_1, &S::qt1_2, &S::qt1_x1, &S::qt1_x2, &S::qt1_pv, &S::qt1_yz},
-      {&S::qt2_1, &S::qt2_2, &S::qt2_x1, &S::qt2_x2, &S::qt2_pv, &S::qt2_yz},
-      {&S::qt3_1, &S::qt3_2, &S::qt3_x1, &S::qt3_x2, &S::qt3_pv, &S::qt3_yz},
+      {&State::qt1_1, &State::qt1_2, &State::qt1_x1, &State::qt1_x2, &State::qt1_pv,
+       &State::qt1_yz},
+      {&State::qt2_1, &State::qt2_2, &State::qt2_x1, &State::qt2_x2, &State::qt2_pv,
+       &State::qt2_yz},
+      {&State::qt3_1, &State::qt3_2, &State::qt3_x1, &State::qt3_x2, &State::qt3_pv,
+       &State::qt3_yz},
   }};
   if (t < 1 || t > 3) throw ArithmeticFault("index out of range");
   return table[static_cast<std::size_t>(t - 1)];

@@ -51,19 +51,19 @@ private:
   }
 
   /// The capacity must be above 0.
-  bool Needs(const char* force, const char* capacity, double S, double Sd) {
-    if (S == 0 || Sd > 0) return S != 0;
-    if (!out_.lost.Set() || Sd < out_.lost.Sd) out_.lost = {force, capacity, S, Sd, x_};
+  bool Needs(const char* force, const char* capacity, double acting, double held) {
+    if (acting == 0 || held > 0) return acting != 0;
+    if (!out_.lost.Set() || held < out_.lost.held) out_.lost = {force, capacity, acting, held, x_};
     return false;
   }
 
   /// And the force must not exceed it.
-  void Hold(const char* force, const char* capacity, double S, double Sd) {
-    if (!Needs(force, capacity, S, Sd)) return;
-    const double r = std::fabs(S) / Sd;
+  void Hold(const char* force, const char* capacity, double acting, double held) {
+    if (!Needs(force, capacity, acting, held)) return;
+    const double r = std::fabs(acting) / held;
     if (!(r > out_.ratio)) return;
     out_.ratio = r;
-    out_.worst = {force, capacity, S, Sd, x_};
+    out_.worst = {force, capacity, acting, held, x_};
   }
 
   void Axial() {

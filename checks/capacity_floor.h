@@ -12,7 +12,7 @@ namespace korvane {
 struct HeldForce {
   const char* force = "";
   const char* capacity = "";
-  double S = 0, Sd = 0, x = 0;
+  double acting = 0, held = 0, x = 0;
   bool Set() const { return *force != '\0'; }
 };
 

@@ -49,7 +49,7 @@ struct GoverningSection {
 /// A governing shear check or, without a position, the lateral check.
 struct GoverningForce {
   bool set = false;
-  double S = 0, Sd = 0;
+  double acting = 0, capacity = 0;  ///< kN or kNm
   double x = 0;
   bool fails = false;
 };

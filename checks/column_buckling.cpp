@@ -64,20 +64,21 @@ void Reductions(const ProjectState& st, const SectionRecord& rec, double alfaY, 
 }
 
 /// Class and capacities for the governing moments of the whole member.
-void ClassifyMember(const Family& family, const ProjectState& st, const BeamResults& beam,
-                    const CheckResults& out, SectionForces& f, SectionRecord& rec) {
+void ClassifyMember(const CheckedMember& m, const CheckResults& out, SectionForces& f,
+                    SectionRecord& rec) {
+  const Family& family = m.family;
   f.Ncl = f.N;
-  f.My = beam.MyAbsMax;
-  f.Mz = beam.MzAbsMax;
+  f.My = m.beam.MyAbsMax;
+  f.Mz = m.beam.MzAbsMax;
   if (family.routines.buckling == BucklingKind::T) return;
   if (family.givenConstants) rec.class_ = out.ClassGoverning;
-  family.routines.bucklingClass(st, f, rec);
-  family.routines.capacities(st, f, rec);
+  family.routines.bucklingClass(m.st, f, rec);
+  family.routines.capacities(m.st, f, rec);
 }
 
-void MomentFactorsOf(const Family& family, bool ownKlt, const ProjectState& st,
-                     const BeamResults& beam, const SectionForces& f, const SectionRecord& rec,
-                     BucklingResults& b) {
+void MomentFactorsOf(const CheckedMember& m, bool ownKlt, const SectionForces& f,
+                     const SectionRecord& rec, BucklingResults& b) {
+  const auto& [family, st, beam, ltb] = m;
   const bool plastic = rec.class_ <= 2 && st.BendingCapacityMode == 0;
   const double Wely = family.routines.buckling == BucklingKind::SingleSymmetric
                           ? std::min<double>(rec.Wely1, rec.Wely2)
@@ -104,9 +105,10 @@ void PureCompression(const ProjectState& st, const SectionForces& f, const Buckl
   }
 }
 
-void WithBending(const ProjectState& st, const BeamResults& beam, const LtbResults& ltb,
-                 const SectionForces& f, const SectionRecord& rec, const BucklingResults& b,
-                 BucklingKind kind, CheckResults& out) {
+void WithBending(const CheckedMember& m, const SectionForces& f, const SectionRecord& rec,
+                 const BucklingResults& b, CheckResults& out) {
+  const auto& [family, st, beam, ltb] = m;
+  const BucklingKind kind = family.routines.buckling;
   const double my = beam.MyAbsMax;
   const double mz = beam.MzAbsMax;
   const double rz = mz != 0 ? b.kz * mz / rec.Mdz : 0;
@@ -127,9 +129,9 @@ void WithBending(const ProjectState& st, const BeamResults& beam, const LtbResul
 
 /// Singly symmetric sections show the z axis alone and, in the second line, the last of the two
 /// ratios with bending; klt is what the last doubly symmetric calculation left.
-void SingleWithBending(const ProjectState& st, const BeamResults& beam, const LtbResults& ltb,
-                       const SectionForces& f, const SectionRecord& rec, const BucklingResults& b,
-                       CheckResults& out) {
+void SingleWithBending(const CheckedMember& m, const SectionForces& f, const SectionRecord& rec,
+                       const BucklingResults& b, CheckResults& out) {
+  const auto& [family, st, beam, ltb] = m;
   const double my = beam.MyAbsMax;
   if (st.blz != 0) {
     out.IRnz = std::fabs(f.N / b.Nzd);
@@ -170,22 +172,21 @@ void AngleControl(const ProjectState& st, const BeamResults& beam, const Section
 
 }  // namespace
 
-void BucklingControl(const Family& family, const ProjectState& st, const BeamResults& beam,
-                     const LtbResults& ltb, SectionForces& f, SectionRecord& rec,
+void BucklingControl(const CheckedMember& m, SectionForces& f, SectionRecord& rec,
                      BucklingResults& b, CheckResults& out) {
-  BucklingControlWith({st.BucklingCurveY, st.BucklingCurveZ, false}, family, st, beam, ltb, f, rec,
-                      b, out);
+  BucklingControlWith({m.st.BucklingCurveY, m.st.BucklingCurveZ, false}, m, f, rec, b, out);
 }
 
-void BucklingControlWith(const BucklingChoice& choice, const Family& family, const ProjectState& st,
-                         const BeamResults& beam, const LtbResults& ltb, SectionForces& f,
+void BucklingControlWith(const BucklingChoice& choice, const CheckedMember& m, SectionForces& f,
                          SectionRecord& rec, BucklingResults& b, CheckResults& out) {
+  const ProjectState& st = m.st;
+  const BeamResults& beam = m.beam;
   out.bucklingRan = true;
   out.textY = BucklingText::None;
   out.textZ = BucklingText::None;
   out.slenderness = st.check_slend == 1 && (st.bly != 0 || st.blz != 0);
 
-  const BucklingKind kind = family.routines.buckling;
+  const BucklingKind kind = m.family.routines.buckling;
   if (kind == BucklingKind::Angle) {
     AngleSlendernesses(st, rec, b);
     Reductions(st, rec, AngleImperfectionFactor(choice.curveY),
@@ -194,20 +195,19 @@ void BucklingControlWith(const BucklingChoice& choice, const Family& family, con
     return;
   }
 
-  ClassifyMember(family, st, beam, out, f, rec);
+  ClassifyMember(m, out, f, rec);
   Slendernesses(st, rec, b);
   Reductions(st, rec, ImperfectionFactor(choice.curveY), ImperfectionFactor(choice.curveZ), b);
-  MomentFactorsOf(family, choice.ownKlt, st, beam, f, rec, b);
+  MomentFactorsOf(m, choice.ownKlt, f, rec, b);
   const bool bendY = beam.MyAbsMax != 0;
   const bool bendZ = beam.MzAbsMax != 0;
   switch (kind) {
     case BucklingKind::T:
       return PureCompression(st, f, b, false, out);
     case BucklingKind::SingleSymmetric:
-      return bendY ? SingleWithBending(st, beam, ltb, f, rec, b, out)
-                   : PureCompression(st, f, b, false, out);
+      return bendY ? SingleWithBending(m, f, rec, b, out) : PureCompression(st, f, b, false, out);
     default:
-      return bendY || bendZ ? WithBending(st, beam, ltb, f, rec, b, kind, out)
+      return bendY || bendZ ? WithBending(m, f, rec, b, out)
                             : PureCompression(st, f, b, kind == BucklingKind::Tube, out);
   }
 }

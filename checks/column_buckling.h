@@ -2,9 +2,7 @@
 // Column buckling control: the member under compression, alone or with bending (12.3).
 #pragma once
 
-#include "analysis/beam.h"
-#include "checks/check_line.h"
-#include "sections/profile_table.h"
+#include "checks/checked_member.h"
 
 namespace korvane {
 
@@ -14,8 +12,7 @@ double ColumnReduction(double lambda, double alfa);
 /// Runs for N > 0. Reads the governing moments and moment factors of the analysis, writes
 /// slendernesses, reduction and moment factors, the ratios, and what each line shows; the text
 /// is composed afterwards by ComposeLines.
-void BucklingControl(const Family& family, const ProjectState& st, const BeamResults& beam,
-                     const LtbResults& ltb, SectionForces& f, SectionRecord& rec,
+void BucklingControl(const CheckedMember& m, SectionForces& f, SectionRecord& rec,
                      BucklingResults& b, CheckResults& out);
 
 /// Curves and klt other than those in force.
@@ -24,8 +21,7 @@ struct BucklingChoice {
   bool ownKlt;  ///< klt is worked out for a singly symmetric section too
 };
 /// BucklingControl with that choice, for what it would give.
-void BucklingControlWith(const BucklingChoice& choice, const Family& family, const ProjectState& st,
-                         const BeamResults& beam, const LtbResults& ltb, SectionForces& f,
+void BucklingControlWith(const BucklingChoice& choice, const CheckedMember& m, SectionForces& f,
                          SectionRecord& rec, BucklingResults& b, CheckResults& out);
 
 /// Whether the control of this kind works out klt.

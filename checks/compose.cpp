@@ -231,13 +231,13 @@ void ComposeSection(const Family& family, const ProjectState& st, const LtbResul
                         const char* formula, double ir) {
     line.label = label;
     line.formula = formula;
-    Compose(line.numbers, Fraction{g.S, g.Sd}, " = ");
+    Compose(line.numbers, Fraction{g.acting, g.capacity}, " = ");
     SetValue(line, ir, g.fails ? kRed : kGreen);
   };
   const auto shear = [&](CheckLine& line, const GoverningForce& g, const char* label,
                          const char* formula) {
     if (!g.set) return;
-    force(line, g, label, formula, g.S / g.Sd);
+    force(line, g, label, formula, g.acting / g.capacity);
     SetPointLimit(line, iufa, g.x, "L; Ch 12.2.5)");
   };
   shear(out.lineVz, out.Vz, "Vz:", "IR = Vz/Vdz = ");
@@ -373,28 +373,29 @@ void ComposeBuckling(const BucklingNumbers& n, BucklingText text, CheckLine& lin
 
 }  // namespace
 
-void ComposeLines(const Family* family, const ProjectState& st, const SectionRecord& rec,
-                  const SectionForces& f, const BeamResults& beam, const LtbResults& ltb,
+void ClearLines(CheckResults& out) {
+  for (CheckLine* line : {&out.lineSection, &out.lineVz, &out.lineVy, &out.lineLateral,
+                          &out.lineBucklingY, &out.lineBucklingZ, &out.lineSlenderness}) {
+    Clear(*line);
+  }
+}
+
+void ComposeLines(const CheckedMember& m, const SectionRecord& rec, const SectionForces& f,
                   const BucklingResults& b, CheckResults& out) {
+  if (m.family.routines.sectionControl == SectionControlKind::None) return ClearLines(out);
   Clear(out.lineSection);
   Clear(out.lineVz);
   Clear(out.lineVy);
   Clear(out.lineLateral);
-  if (family == nullptr || family->routines.sectionControl == SectionControlKind::None) {
-    Clear(out.lineBucklingY);
-    Clear(out.lineBucklingZ);
-    Clear(out.lineSlenderness);
-    return;
-  }
-  ComposeSection(*family, st, ltb, out);
+  ComposeSection(m.family, m.st, m.ltb, out);
   if (!out.bucklingRan) return;
-  const BucklingNumbers n{
-      st, rec, beam, b, out, f.N, LateralReduction(st, ltb), family->routines.buckling};
+  const BucklingKind kind = m.family.routines.buckling;
+  const BucklingNumbers n{m.st, rec, m.beam, b, out, f.N, LateralReduction(m.st, m.ltb), kind};
   ComposeBuckling(n, out.textY, out.lineBucklingY);
   ComposeBuckling(n, out.textZ, out.lineBucklingZ);
   Clear(out.lineSlenderness);
   if (out.slenderness) {
-    const bool angle = family->routines.buckling == BucklingKind::Angle;
+    const bool angle = kind == BucklingKind::Angle;
     out.lineSlenderness.label = angle ? "Slenderness: U/V-axis: " : "Slenderness: Y/Z-axis: ";
     out.lineSlenderness.formula = out.lineSlenderness.label + " L/i = ";
   }

@@ -91,15 +91,16 @@ struct Signs {
   bool plateOnly;      ///< plate families: the plate is compressed all along
 };
 
-/// What buckles: its length in mm and the imperfection factor that counts for it.
+/// What buckles: its length in mm, the imperfection factor that counts for it, and C2*zg of the
+/// loads' level in mm.
 struct Segment {
-  double Lmm, alpha;
+  double Lmm, alpha, level;
 };
 
-/// Mcr, lamLT, chiLT of the segment and the level term C2*zg, with the way there; Mdb in kNm.
+/// Mcr, lamLT, chiLT of the segment, with the way there; Mdb in kNm.
 LtbSegmentResult DesignMoment(const LateralRule& rule, const ProjectState& st,
-                              const SectionRecord& rec, double level, const Signs& signs,
-                              const Segment& segment, LtbResults& ltb) {
+                              const SectionRecord& rec, const Signs& signs, const Segment& segment,
+                              LtbResults& ltb) {
   LtbSegmentResult s;
   s.C1 = ltb.C1;
   s.C3 = ltb.C3;
@@ -118,6 +119,7 @@ LtbSegmentResult DesignMoment(const LateralRule& rule, const ProjectState& st,
     s.Mdb = MomentOf(st, s.chiLT * s.beta * rec.Wply);
     return s;
   }
+  double level = segment.level;
   if (rule.method == LateralMethod::SinglySymmetric) {
     s.beta = signs.topCompressed ? rec.betaTop : rec.betaBottom;
     level -= ltb.C3 * (signs.topCompressed ? rec.zjTop : rec.zjBottom);
@@ -187,8 +189,8 @@ void LtbNoRestraints(const Family& family, ProjectState& st, SectionForces& f, S
   }
   ltb.Lk = st.L * st.k_ltb;
   const Signs signs{middle > 0, middle >= 0 && z.M_q[0] >= 0 && z.M_q[4] >= 0};
-  ltb.governing = DesignMoment(family.lateral, st, rec, ltb.C2 * ltb.zg, signs,
-                               {ltb.Lk * 1000, family.lateral.alpha}, ltb);
+  ltb.governing = DesignMoment(family.lateral, st, rec, signs,
+                               {ltb.Lk * 1000, family.lateral.alpha, ltb.C2 * ltb.zg}, ltb);
   ltb.governing.M1 = z.M[0];
   ltb.governing.M2 = z.M[50];
   ltb.least = ltb.governing;
@@ -250,8 +252,8 @@ void LtbWithRestraints(const Family& family, ProjectState& st, SectionForces& f,
     ltb.C3 = c.C3;
     ClassifyFor(family, st, (M1 + M2) / 2, f, rec);
     const Signs signs{(M1 + M2) / 2 > 0, M1 >= 0 && M2 >= 0};
-    LtbSegmentResult segment = DesignMoment(family.lateral, st, rec, 0, signs,
-                                            {ltb.Lk * 1000, family.lateral.alphaRestrained}, ltb);
+    LtbSegmentResult segment = DesignMoment(
+        family.lateral, st, rec, signs, {ltb.Lk * 1000, family.lateral.alphaRestrained, 0}, ltb);
     segment.segment = g;
     segment.M1 = M1;
     segment.M2 = M2;

@@ -61,6 +61,7 @@ struct NoteKind {
 
 /// All notes in the order of their codes.
 std::span<const NoteKind> AllNotes();
+/// The row of a code.
 const NoteKind& KindOf(NoteCode code);
 /// "information", "caution", "fails", "not checked".
 const char* SeverityWord(Severity severity);
@@ -80,6 +81,7 @@ struct Note {
 class NoteList {
 public:
   static constexpr std::size_t kCapacity = 24;
+  /// At the end. In a full list it takes the place of a less severe one, or is dropped.
   void Add(const Note& note);
   /// Most severe first, notes of one severity in the order of their adding.
   void Sort();
@@ -88,6 +90,7 @@ public:
   const Note* begin() const { return notes_.data(); }
   const Note* end() const { return notes_.data() + count_; }
   const Note& operator[](std::size_t i) const { return notes_.at(i); }
+  /// Whether a note of this code is in the list.
   bool Has(NoteCode code) const;
   /// The greatest severity, Information for an empty list.
   Severity Worst() const;

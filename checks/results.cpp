@@ -18,6 +18,12 @@ float MaxIR(const CheckResults& c) {
   return float32(most).Single();
 }
 
+bool Fails(const ViewLine& line, double limit) {
+  return std::any_of(line.runs.begin(), line.runs.end(), [limit](const TextRun& run) {
+    return run.colour == kRed || (run.ratio && *run.ratio > limit);
+  });
+}
+
 bool ShowsBuckling(const ProjectState& st, double N) {
   const Family* family = FindFamily(st.ProfileType);
   return family != nullptr && family->routines.buckling != BucklingKind::None && N > 0 &&

@@ -33,6 +33,9 @@ struct ViewLine {
 };
 using View = std::vector<ViewLine>;
 
+/// Whether a value of the line is red, or a ratio beyond the limit where its colour never turns.
+bool Fails(const ViewLine& line, double limit);
+
 /// Fixed string ahead of a value.
 inline constexpr const char* kIRPrefix = "IR = ";
 
@@ -46,6 +49,7 @@ View BucklingShort(const ProjectState& st, const CheckResults& checks, const Buc
 /// the width of the target; then the formula stands alone and "    = " and the numbers follow.
 template <class Breaks>
 View SectionControlLong(const ProjectState& st, const CheckResults& checks, Breaks&& breaks);
+/// Buckling, in the same way.
 template <class Breaks>
 View BucklingLong(const ProjectState& st, const CheckResults& checks, const BucklingResults& b,
                   Breaks&& breaks);
@@ -55,10 +59,16 @@ View BucklingLong(const ProjectState& st, const CheckResults& checks, const Buck
 bool ShowsBuckling(const ProjectState& st, double N);
 
 namespace view {
+/// A block's first line: the text, and the chosen points in m or parts of L where there are any.
 ViewLine Heading(const ProjectState& st, const char* text);
+/// The text, L/i about y and z, "N/A" for an axis that can't buckle, and the limit (11.7).
 ViewLine SlendernessLine(const ProjectState& st, const std::string& text, const BucklingResults& b);
+/// Adds a check: its label, and formula, numbers, value and limit in one line, or in two where it
+/// is broken.
 void AddLong(View& v, const CheckLine& line, bool broken);
+/// Formula, numbers, value and limit one behind the other, as their width is measured.
 std::string WholeText(const CheckLine& line);
+/// The value of a check in its colour, with its ratio.
 TextRun ValueRun(const CheckLine& line);
 }  // namespace view
 

@@ -30,7 +30,7 @@ double BucklingRatio(const Family& family, const Finished& d, const BucklingChoi
   BucklingResults b = d.buckling;
   CheckResults out;
   out.ClassGoverning = d.checks.ClassGoverning;
-  BucklingControlWith(choice, family, d.st, d.beam, d.ltb, f, rec, b, out);
+  BucklingControlWith(choice, {family, d.st, d.beam, d.ltb}, f, rec, b, out);
   return MaxIR(out);
 }
 
@@ -59,8 +59,8 @@ void Klt(const Family& family, const Finished& d, double IR, NoteList& notes) {
   SectionRecord rec = d.rec;
   BucklingResults b = d.buckling;
   CheckResults out;
-  BucklingControlWith({d.st.BucklingCurveY, d.st.BucklingCurveZ, true}, family, d.st, d.beam, d.ltb,
-                      f, rec, b, out);
+  BucklingControlWith({d.st.BucklingCurveY, d.st.BucklingCurveZ, true},
+                      {family, d.st, d.beam, d.ltb}, f, rec, b, out);
   Note note;
   note.v = {d.buckling.klt, b.klt};
   note.word = "klt";
@@ -120,7 +120,7 @@ void ThicknessOfT(const Family& family, const Finished& d, double IR, NoteList& 
     SectionForces f = d.forces;
     BucklingResults b = d.buckling;
     CheckResults out;
-    BucklingControl(family, st, d.beam, d.ltb, f, rec, b, out);
+    BucklingControl({family, st, d.beam, d.ltb}, f, rec, b, out);
     ratio = std::max<double>(ratio, MaxIR(out));
   }
   Note note;

@@ -38,7 +38,8 @@ bool Printed(const Finished& d, Governing check) {
       return c.Vz.set;
     case Governing::Vy:
       // An angle's shear along z is stored in the place of that along y, under its own line.
-      return (c.Vy.set && c.Vy.S / c.Vy.Sd >= c.IRvy) || (c.Vz.set && c.Vz.S / c.Vz.Sd >= c.IRvy);
+      return (c.Vy.set && c.Vy.acting / c.Vy.capacity >= c.IRvy) ||
+             (c.Vz.set && c.Vz.acting / c.Vz.capacity >= c.IRvy);
     case Governing::Lateral:
       return c.lateral.set;
     case Governing::Ny:
@@ -97,10 +98,11 @@ void Slenderness(const Finished& d, NoteList& notes) {
 void Floor(const Family& family, const Finished& d, double IR, NoteList& notes) {
   const CapacityFloor floor = FloorOf(family, d);
   if (const HeldForce& h = floor.lost; h.Set()) {
-    notes.Add({NoteCode::CapacityNotPositive, {h.S, h.Sd, h.x}, h.force, h.capacity});
+    notes.Add({NoteCode::CapacityNotPositive, {h.acting, h.held, h.x}, h.force, h.capacity});
   }
   if (const HeldForce& h = floor.worst; floor.ratio > d.st.iufa && !(IR > d.st.iufa)) {
-    notes.Add({NoteCode::ForceAboveCapacity, {h.S, h.Sd, h.x, floor.ratio}, h.force, h.capacity});
+    notes.Add(
+        {NoteCode::ForceAboveCapacity, {h.acting, h.held, h.x, floor.ratio}, h.force, h.capacity});
   }
 }
 

@@ -91,8 +91,9 @@ void RunChecks(Design& d) {
           [&] { SectionControl(*family, d.st, d.beam, d.ltb, d.forces, d.rec, c); });
   if (lateral != 0 && d.st.LateralTorsionalBuckling == 0) d.history.ltbOffBy = family->code;
   if (d.forces.N > 0 && family->routines.buckling != BucklingKind::None) {
-    RunStep("BucklingControl",
-            [&] { BucklingControl(*family, d.st, d.beam, d.ltb, d.forces, d.rec, d.buckling, c); });
+    RunStep("BucklingControl", [&] {
+      BucklingControl({*family, d.st, d.beam, d.ltb}, d.forces, d.rec, d.buckling, c);
+    });
   }
   // A ratio beyond single precision fails here, so that no view meets it.
   RunStep("MaxIR", [&] { MaxIR(c); });
@@ -178,8 +179,9 @@ void CalculateNumbers(Design& d) {
 }
 
 void ComposeResults(Design& d) {
-  ComposeLines(FindFamily(d.st.ProfileType), d.st, d.rec, d.forces, d.beam, d.ltb, d.buckling,
-               d.checks);
+  const Family* family = FindFamily(d.st.ProfileType);
+  if (family == nullptr) return ClearLines(d.checks);
+  ComposeLines({*family, d.st, d.beam, d.ltb}, d.rec, d.forces, d.buckling, d.checks);
 }
 
 void SilentRecalculation(Design& d) {

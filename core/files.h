@@ -71,8 +71,9 @@ WriteResult CheckWritable(const std::string& path, const WriteRules& rules = {})
 /// The result of a status, with its sentence.
 WriteResult ResultOf(WriteStatus status);
 
-/// The name of a file that is being written, from 64 random bits, and whether a name is one.
+/// The name of a file that is being written, from 64 random bits.
 std::string TemporaryName(unsigned long long random);
+/// Whether a name is one that TemporaryName makes.
 bool IsTemporaryName(std::string_view name);
 
 }  // namespace korvane

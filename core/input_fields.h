@@ -62,8 +62,9 @@ double StoredInput(const ProjectState& st, const InputRef& input);
 /// ArithmeticFault for a value that the field can't hold.
 void PutInput(ProjectState& st, const InputRef& input, double value);
 
-/// The text of an input; empty for a number, and StoreText stores none there.
+/// The text of an input; empty for a number.
 std::string ReadText(const ProjectState& st, const InputRef& input);
+/// Stores a text as it is; nothing where the input is a number.
 void StoreText(ProjectState& st, const InputRef& input, const std::string& text);
 
 /// Copies one input from another state, as it is stored.

@@ -43,12 +43,14 @@ void Compose(std::string& out, const Parts&... parts) {
 /// General form: the shortest digits that read back to the same value, with a leading blank in
 /// the place of the sign for a value that is not negative (" 100", " 6.3", "-.5").
 std::string Str(float32 value);
+/// The same in double precision.
 std::string Str(double value);
 
 /// A number as the data files hold it: shortest digits that read back to the same value, plain
 /// from 1E-4 up to below 1E7 (single) or 1E15 (double), else mantissa, E, sign and at least two
 /// exponent digits; no zero before the point; 0 as "0".
 std::string FileText(float32 value);
+/// The same in double precision.
 std::string FileText(double value);
 
 /// The leading number of a text, as a lenient conversion takes it: blanks in front, sign,

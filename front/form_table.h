@@ -109,8 +109,9 @@ struct Form {
   int family = 0;      ///< code of the family whose form it is
 };
 
-/// The form or control of a name, or nullptr; for scripts.
+/// The form of a name, or nullptr; for scripts.
 const Form* FindForm(std::string_view name);
+/// The control of a name on a form, or nullptr; for scripts.
 const Control* FindControl(const Form& form, std::string_view name);
 /// The field of a form that holds an input, or nullptr.
 const Control* FieldOf(const Form& form, const InputRef& input);
@@ -129,16 +130,24 @@ FieldRule Calculated(InputMember member, int element = 0);
 Control Input(std::string name, std::string caption, FieldRule rule, std::string tip = {});
 /// What a tip says of a field: its words and the accepted values as they stand.
 std::string TipOf(const Control& control, const ProjectState& st);
+/// One of several choices; checked tells which is in force.
 Control Option(std::string name, std::string caption, std::function<bool(const Session&)> checked,
                std::function<void(Session&)> click);
+/// A check box.
 Control Check(std::string name, std::string caption, std::function<bool(const Session&)> checked,
               std::function<void(Session&)> click);
+/// A button with words.
 Control Button(std::string name, std::string caption, std::function<void(Session&)> click);
+/// A button with a sign.
 Control Picture(std::string name, Sign sign, std::string tip, std::function<void(Session&)> click);
+/// Words that stay.
 Control Label(std::string name, std::string caption);
+/// Words that follow the state.
 Control TextLabel(std::string name, std::function<std::string(const Session&)> text);
+/// A frame round other controls, which can't be used while it is disabled.
 Control FrameOf(std::string name, std::string caption,
                 std::function<bool(const Session&)> enabled = {});
+/// A painting, whose text is what scripts and screen readers are told.
 Control Surface(std::string name, Painting painting,
                 std::function<std::string(const Session&)> text);
 

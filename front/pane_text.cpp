@@ -1,9 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "front/pane_text.h"
 
-#include "presentation/recording_target.h"
-
 namespace korvane {
+
+namespace {
+
+/// Keeps the texts of a drawing, blank ones left out, joined by " | ".
+class TextTarget : public DrawingTarget {
+public:
+  void Clear() override { text.clear(); }
+  std::string text;
+
+protected:
+  void OnText(Point, const std::string& part, double, const TextStyle&) override {
+    if (part.find_first_not_of(' ') == std::string::npos) return;
+    if (!text.empty()) text += " | ";
+    text += part;
+  }
+  void OnPath(const std::vector<std::vector<Point>>&, bool, const Stroke&, const Fill&) override {}
+  void OnEllipse(Point, double, double, const Stroke&, const Fill&) override {}
+  void OnArc(Point, double, double, double, const Stroke&) override {}
+};
+
+}  // namespace
 
 std::optional<DiagramKind> DiagramOfPane(const ProjectState& st, const std::string& pane) {
   for (const DiagramKind kind : DiagramsOfMode(st)) {
@@ -25,14 +44,9 @@ bool PlaneFolds(const Design& d, Plane plane) {
 std::string PaneText(const Design& design, const std::string& pane) {
   const auto kind = DiagramOfPane(design.st, pane);
   if (!kind) return {};
-  RecordingTarget target;
+  TextTarget target;
   DrawDiagram(target, *kind, {}, DiagramDataOf(design), {});
-  std::string text;
-  for (const std::string& part : target.Texts()) {
-    if (part.find_first_not_of(' ') == std::string::npos) continue;
-    text += (text.empty() ? "" : " | ") + part;
-  }
-  return text;
+  return std::move(target.text);
 }
 
 std::string ValueUnderPointer(const Design& design, const std::string& pane, double relative) {

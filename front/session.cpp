@@ -115,17 +115,6 @@ void Session::Calculate() {
   TellMessages();
 }
 
-void Session::Tell(const std::string& news) {
-  const DateTime now = platform_.Now();
-  news_ = Format(now.hour, "00") + ":" + Format(now.minute, "00") + "  " + news;
-}
-
-void Session::TellRemoved(const ProjectState& before, bool byFamily) {
-  if (const std::string words = RemovedWords(*this, before, st(), byFamily); !words.empty()) {
-    Tell(words);
-  }
-}
-
 void Session::TakeSection(const std::function<void()>& take) {
   const ProjectState before = st();
   try {
@@ -134,6 +123,17 @@ void Session::TakeSection(const std::function<void()>& take) {
     platform_.Beep();
     st() = before;
     Calculate();
+  }
+}
+
+void Session::Tell(const std::string& news) {
+  const DateTime now = platform_.Now();
+  news_ = Format(now.hour, "00") + ":" + Format(now.minute, "00") + "  " + news;
+}
+
+void Session::TellRemoved(const ProjectState& before, bool byFamily) {
+  if (const std::string words = RemovedWords(*this, before, st(), byFamily); !words.empty()) {
+    Tell(words);
   }
 }
 

@@ -72,8 +72,11 @@ public:
   void Return(const Control& control);
   /// Puts the last accepted value back where one was refused. False where none was.
   bool TakeBack();
+  /// A button, option, check box or picture.
   void Click(const Control& control);
+  /// An entry of a list, from 0.
   void Select(const Control& list, int index);
+  /// A command of the menu.
   void Menu(const Control& command);
   /// Closes a form; a typed field is left first, and a form may refuse. False when it stays open.
   /// Closing the main window ends the program.
@@ -82,10 +85,15 @@ public:
   // --- What a person sees
   // ---------------------------------------------------------------------------
   std::string Title(const Form& form) const;
+  /// What stands in a field, on a label or in a painting.
   std::string Text(const Control& control) const;
+  /// The words at the pointer, for a field with the values that it accepts now.
   std::string Tip(const Control& control) const;
+  /// Whether the person can use it.
   bool Enabled(const Control& control) const;
+  /// Whether it is to be seen.
   bool Visible(const Control& control) const;
+  /// Whether an option or a check box is set.
   bool Checked(const Control& control) const;
   /// In use and to be seen.
   bool Green(const Control& field) const;
@@ -101,9 +109,12 @@ public:
   std::string LastAccepted() const;
   /// What the state holds of a field, as it would be shown.
   std::string StateText(const Control& field) const;
+  /// The entries of a list.
   std::vector<std::string> Items(const Control& list) const;
+  /// The entry that is chosen, from 0; -1 for none.
   int Selected(const Control& list) const;
   const std::vector<const Form*>& OpenForms() const { return open_; }
+  /// Whether the form has been shown and not been closed.
   bool IsOpen(const Form& form) const;
   /// The form on top.
   const Form& Top() const { return *open_.back(); }
@@ -150,9 +161,11 @@ public:
   void ComposeResults();
   /// Shows a form on top.
   void Show(const Form& form);
+  /// Takes a form away without asking it.
   void Unload(const Form& form);
   /// A field of the main window is written anew from the state.
   void Fill(const Control& field) { fields_.Fill(field); }
+  /// All fields of the main window are.
   void FillMainWindow();
   void End() { ended_ = true; }
   /// Tells something in the status bar, with the time in front; it stands until the next one.

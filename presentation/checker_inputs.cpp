@@ -34,11 +34,8 @@ namespace {
 
 using checker::AddItems;
 using checker::Item;
+using checker::Words;
 using D = const Design&;
-
-void Words(CheckerBlock& block, std::string symbol, std::string words) {
-  block.rows.push_back({std::move(symbol), std::move(words), "", ""});
-}
 
 /// An input as it was entered.
 template <class Field>

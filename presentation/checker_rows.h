@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/calculation.h"
@@ -46,6 +47,24 @@ struct Item {
 /// Unit of a section value by its name: "Iw" mm6, "Wely" mm3, "tw" mm.
 std::string SectionUnit(std::string_view name);
 
+/// Adds a number to a block.
+inline void Add(CheckerBlock& block, std::string symbol, double value, std::string unit = "",
+                std::string from = "") {
+  block.rows.push_back({std::move(symbol), CheckerDigits(value), std::move(unit), std::move(from)});
+}
+
+/// Adds a quantity that is told in words.
+inline void Words(CheckerBlock& block, std::string symbol, std::string words) {
+  block.rows.push_back({std::move(symbol), std::move(words), "", ""});
+}
+
+/// Whether a section has a top and a bottom side with classes and capacities of their own.
+bool OneSided(const Design& d);
+
+/// The part of CheckerResults that is about the member.
+CheckerBlocks MemberResults(const Design& d);
+
+/// Adds the rows of a table to a block, those whose condition holds.
 template <class Items>
 void AddItems(CheckerBlock& block, const Items& items, const Design& d) {
   for (const Item& item : items) {

@@ -20,10 +20,11 @@ constexpr double kLettersOfStep = 7.2;  ///< pt of letters for a step of one lin
 constexpr double kHeadingGap = 0.7;     ///< rows above a heading
 
 /// Stops of a row in columns of the page.
-constexpr double kValue = 16.8;  ///< right end of a number
+constexpr double kValue = 17.9;  ///< right end of a number
 constexpr double kWords = 9.4;   ///< left end of words in the place of a number
-constexpr double kUnit = 17.4;
-constexpr double kFrom = 22.4;
+constexpr double kUnit = 18.4;
+constexpr double kFrom = 23.2;
+constexpr double kBehind = 0.8;  ///< from a symbol to words behind it
 
 /// A row, or a heading where the row is null.
 struct Placed {
@@ -102,7 +103,8 @@ void DrawRow(DrawingTarget& t, double column, double line, const CheckerRow& row
     t.ForeColor = Role::Ink;
     return;
   }
-  PutFitted(t, column + kWords, line, row.value, kWidth - kWords);
+  const double words = std::max(kWords, t.TextWidth(row.symbol) + kBehind);
+  PutFitted(t, column + words, line, row.value, kWidth - words);
 }
 
 }  // namespace

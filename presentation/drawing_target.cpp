@@ -76,11 +76,6 @@ void DrawingTarget::Circle(Point centre, double radius, Paint paint) {
   OnEllipse(ToPage(centre), r, r, CurrentStroke(paint), CurrentFill(paint));
 }
 
-void DrawingTarget::Ellipse(Point centre, double rx, double ry, Paint paint) {
-  OnEllipse(ToPage(centre), rx * frame_.sx, ry * frame_.sy, CurrentStroke(paint),
-            CurrentFill(paint));
-}
-
 void DrawingTarget::Arc(Point centre, double radius, double start, double sweep) {
   OnArc(ToPage(centre), radius * frame_.sy, start, sweep, CurrentStroke(Paint::Outline));
 }

@@ -92,7 +92,9 @@ public:
   /// Height of one line in user units.
   double TextHeight() const;
 
+  /// A straight line in the present colour, width and dash.
   void Line(Point a, Point b);
+  /// One open line through the points, its corners joined.
   void Polyline(std::span<const Point> points);
   /// A closed outline; the last point is joined with the first.
   void Polygon(std::span<const Point> points, Paint paint);
@@ -100,8 +102,6 @@ public:
   void Area(std::span<const std::vector<Point>> outlines, Paint paint);
   /// radius in vertical user units, round on the page.
   void Circle(Point centre, double radius, Paint paint);
-  /// Radii in horizontal and vertical user units.
-  void Ellipse(Point centre, double rx, double ry, Paint paint);
   /// Part of a circle (radius in vertical user units): angles in degrees, counter-clockwise
   /// from the right; a negative sweep runs clockwise.
   void Arc(Point centre, double radius, double start, double sweep);
@@ -117,6 +117,7 @@ public:
 
   /// Page units per user unit.
   double UnitX() const { return frame_.sx; }
+  /// The same downwards.
   double UnitY() const { return frame_.sy; }
   /// Horizontal user units that are as long on the page as this length in vertical units.
   double Across(double vertical) const { return vertical * frame_.sy / frame_.sx; }
@@ -124,6 +125,7 @@ public:
   void SetTextUnits(double size) { FontSize = size * frame_.sy; }
   /// Sets the line width in vertical user units.
   void SetLineUnits(double width) { LineWidth = width * frame_.sy; }
+  /// A point in page units.
   Point ToPage(Point user) const {
     return {frame_.x0 + user.x * frame_.sx, frame_.y0 + user.y * frame_.sy};
   }

@@ -18,6 +18,7 @@ constexpr double kThin = 0.0045;
 constexpr double kOutline = 0.009;
 constexpr double kHead = 0.042;
 constexpr double kOffset = 0.13;       // dimension lines beside the section
+constexpr double kCrowdOffset = 2.2;   // of such a line below another with its letter, in offsets
 constexpr double kNear = 0.09;         // lines of flange thicknesses
 constexpr double kShortEnd = 0.05;     // axes beyond the section at their short ends
 constexpr double kAxis = 0.24;         // and at the ends that have the letter
@@ -161,7 +162,7 @@ DimensionLine LineOf(const Window& w, const SectionDimension& d) {
   DimensionLine line{d.a, d.b, {}, Side::Below};
   switch (d.side) {
     case DimensionSide::Below:
-      line.a.y = line.b.y = -offset * (&d == crowd.second ? 1.8 : 1);
+      line.a.y = line.b.y = -offset * (&d == crowd.second ? kCrowdOffset : 1);
       break;
     case DimensionSide::Above:
       line.a.y = line.b.y = w.shape.H + offset;

@@ -28,10 +28,6 @@ struct Box {
     return std::min(right, o.right) - std::max(left, o.left) > tolerance &&
            std::min(bottom, o.bottom) - std::max(top, o.top) > tolerance;
   }
-  bool Contains(const Box& o, double tolerance = 0) const {
-    return o.left >= left - tolerance && o.right <= right + tolerance && o.top >= top - tolerance &&
-           o.bottom <= bottom + tolerance;
-  }
   void Include(const Box& o) {
     left = std::min(left, o.left);
     top = std::min(top, o.top);

@@ -107,15 +107,6 @@ std::string DeflectionUnder(const ProjectState& st, const StationValues& values,
 
 }  // namespace
 
-std::span<const DiagramInfo> AllDiagrams() {
-  static const std::vector<DiagramInfo> infos = [] {
-    std::vector<DiagramInfo> all;
-    for (const Entry& e : Entries()) all.push_back(e.info);
-    return all;
-  }();
-  return infos;
-}
-
 const DiagramInfo& InfoOf(DiagramKind kind) {
   return EntryOf(kind).info;
 }

@@ -59,9 +59,7 @@ struct DiagramInfo {
   const char* control;  ///< picture box of the main window
 };
 
-/// All diagrams, in the order of DiagramKind.
-std::span<const DiagramInfo> AllDiagrams();
-/// The names of one.
+/// The names of a diagram.
 const DiagramInfo& InfoOf(DiagramKind kind);
 
 /// What diagrams read. N is the axial force in kN, compression positive.
@@ -103,33 +101,38 @@ void DrawBeamSketch(DrawingTarget& target, const DiagramOrigin& origin, const Pr
 /// Its height in grid units, as those below.
 double BeamSketchHeight(const ProjectState& st, const DiagramStyle& style);
 
-/// Axial loads of the permanent or of both variable groups, unfactored; a variable load of 0 has
-/// no line of its own beside one that is not.
+/// Axial loads of the permanent group in kN, unfactored.
 void DrawAxialPermanent(DrawingTarget& target, const DiagramOrigin& origin, const ProjectState& st,
                         const DiagramStyle& style);
+/// Those of both variable groups; a load of 0 has no line of its own beside one that is not.
 void DrawAxialVariable(DrawingTarget& target, const DiagramOrigin& origin, const ProjectState& st,
                        const DiagramStyle& style);
+/// Height of the permanent or of the variable ones in grid units.
 double AxialLoadHeight(const ProjectState& st, bool variable, const DiagramStyle& style);
 
 /// The axial force in kN, compression positive.
 void DrawAxialForce(DrawingTarget& target, const DiagramOrigin& origin, double N,
                     const DiagramStyle& style);
+/// Its height in grid units, whatever the force.
 double AxialForceHeight(const DiagramStyle& style);
 
 /// Loads of one plane, permanent or variable, unfactored and without self weight.
 void DrawLoads(DrawingTarget& target, const DiagramOrigin& origin, const ProjectState& st,
                Plane plane, bool variable, const DiagramStyle& style);
+/// Their height in grid units, by the layers above and below the member and the positions told.
 double LoadsHeight(const ProjectState& st, Plane plane, bool variable, const DiagramStyle& style);
 
 /// Moment over shear of one plane. zeros: the positions of zero moment are told, as loads give
 /// them; end forces have none.
 void DrawMomentShear(DrawingTarget& target, const DiagramOrigin& origin, const ProjectState& st,
                      const BeamResults& beam, Plane plane, bool zeros, const DiagramStyle& style);
+/// Height of both in grid units, by the sides of the axes to which they go.
 double MomentShearHeight(const BeamResults& beam, Plane plane, const DiagramStyle& style);
 
-/// Deflections of one plane.
+/// Deflections of one plane, mm, with x of the greatest, L/x.
 void DrawDeflection(DrawingTarget& target, const DiagramOrigin& origin, const ProjectState& st,
                     const Deflections& deflections, Plane plane, const DiagramStyle& style);
+/// Their height in grid units.
 double DeflectionHeight(const Deflections& deflections, Plane plane, const DiagramStyle& style);
 
 }  // namespace korvane

@@ -39,6 +39,7 @@ public:
   void Keep(const Box& r) { kept_.push_back(r); }
   /// Labels stay off these lines where they can.
   void Avoid(Point a, Point b);
+  /// The same for each piece of a line with corners.
   void Avoid(const std::vector<Point>& polyline);
 
   /// Finds the place, draws the label and keeps the place. Returns the label's rectangle.
@@ -46,7 +47,9 @@ public:
   /// Draws text with its top left corner at a point and keeps the place.
   Box Fix(const std::vector<LabelRun>& runs, Point topLeft);
 
+  /// Width of the runs behind each other, bold ones as wide as they are printed.
   double WidthOf(const std::vector<LabelRun>& runs) const;
+  /// Height of a label.
   double LineHeight() const;
 
 private:

@@ -18,6 +18,7 @@ struct DistributedLoad {
   bool whole = false;       ///< over the whole length: has no positions of its own
   const char* tag = "";     ///< group of a variable load
   int layer = 0;            ///< 0 stands at the member
+  /// Its resultant acts upwards, so it stands below the member.
   bool Upward() const { return q1 + q2 < 0; }
 };
 
@@ -35,7 +36,6 @@ struct LoadItems {
   int layersAbove = 0, layersBelow = 0;
   double greatestQ = 0, greatestP = 0, greatestM = 0;  ///< sizes
 
-  bool Empty() const { return distributed.empty() && points.empty(); }
   /// Positions in m that the picture tells, sorted, each once.
   std::vector<double> Positions() const;
 };

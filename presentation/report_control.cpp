@@ -15,6 +15,7 @@
 #include "presentation/grafik.h"
 #include "presentation/page.h"
 #include "presentation/report_diagrams.h"
+#include "presentation/report_loads.h"
 #include "sections/p23bas.h"
 #include "sections/profile_table.h"
 
@@ -27,160 +28,11 @@ constexpr double kSection = 15.0;
 constexpr double kBottom = 86.0;
 constexpr double kLeastDiagrams = 21.0;  ///< lines that the diagrams need
 constexpr double kFigureLeft = 103;
-constexpr double kParameters = 90;  ///< left column of the buckling block
 
 /// Upper lines of the blocks below the section.
 struct Layout {
   double loads, diagrams, checks;
 };
-
-// --- Load information ---------------------------------------------------------------------------
-
-std::string Category(int pv) {
-  return pv == 0 ? "P" : pv == 1 ? "V1" : "V2";
-}
-
-/// One row of the load table.
-struct LoadRow {
-  std::string load, value, position, category;
-};
-
-/// The loads of one direction that are not 0: line loads, point items, trapezoids.
-std::vector<LoadRow> LoadRows(const ProjectState& st, bool z) {
-  std::vector<LoadRow> rows;
-  const auto value = [](double v) { return ShortNumbers(Format(v, "##0.0")); };
-  // Two values of a stretch share a field: beyond a million they are printed short.
-  const auto half = [](double v) { return Format(v, std::fabs(v) < 1E6 ? "##0.0" : "0.000E+0"); };
-  const auto position = [](double x) { return Format(x, "##0.000"); };
-  for (int n = 1; n <= 4; ++n) {
-    const LineLoad& l = LineLoadOf(n);
-    if (st.*l.q == 0 || (st.*l.yz != 0) != z) continue;
-    rows.push_back({"q " + std::to_string(n), value(st.*l.q), "", Category(st.*l.pv)});
-  }
-  for (int i = 1; i <= 8; ++i) {
-    if (st.pm[i] == 0) continue;
-    const bool moment = st.pm_pm[i] != 0;
-    const bool inZ = moment ? st.pm_yz[i] == 1 : st.pm_yz[i] != 0;
-    if (inZ != z) continue;
-    rows.push_back({moment ? (z ? "My" : "Mz") : "P", value(st.pm[i]), position(st.pmx[i]),
-                    Category(st.pm_pv[i])});
-  }
-  for (int n = 1; n <= 3; ++n) {
-    const Trapezoid& tr = TrapezoidOf(n);
-    if ((st.*tr.q1 == 0 && st.*tr.q2 == 0) || (st.*tr.yz != 0) != z) continue;
-    rows.push_back({"q", half(st.*tr.q1) + "/" + half(st.*tr.q2),
-                    position(st.*tr.x1) + "/" + position(st.*tr.x2), Category(st.*tr.pv)});
-  }
-  return rows;
-}
-
-/// Where the columns of a load table begin, and the letters at which they keep clear.
-struct LoadStops {
-  double value = 5, position = 16, category = 32;
-  double letters = 1;  ///< share of the size in force
-};
-
-constexpr double kSecondTable = 39.5;  ///< from the first table
-constexpr double kTableWidth = 36;     ///< of each table, so that two stand left of the parameters
-
-/// Long values push the positions to the right, and then both tables take smaller letters.
-LoadStops StopsOf(const DrawingTarget& t, std::vector<LoadRow> rows,
-                  const std::vector<LoadRow>& more) {
-  rows.insert(rows.end(), more.begin(), more.end());
-  double value = 0, position = 0;
-  for (const LoadRow& row : rows) {
-    value = std::max(value, t.TextWidth(row.value));
-    position = std::max(position, t.TextWidth(row.position));
-  }
-  constexpr double gap = 1.2;
-  LoadStops stops;
-  const double need = stops.value + value + gap + position + gap + t.TextWidth("V1");
-  stops.letters = std::min(1.0, kTableWidth / need);
-  stops.value *= stops.letters;
-  stops.position = std::max(stops.position, stops.value + (value + gap) * stops.letters);
-  stops.category = std::max(stops.category, stops.position + (position + gap) * stops.letters);
-  const double most = kTableWidth - t.TextWidth("V1") * stops.letters;
-  if (stops.category > most) {
-    stops.position -= stops.category - most;
-    stops.category = most;
-  }
-  return stops;
-}
-
-void DrawLoadTable(DrawingTarget& t, double column, double line, double step, const char* heading,
-                   const std::vector<LoadRow>& rows, const LoadStops& at) {
-  PutText(t, column, line, heading);
-  line += step;
-  const double size = t.FontSize;
-  t.FontSize = size * at.letters;
-  t.ForeColor = Role::Quiet;
-  PutText(t, column, line, "Load");
-  PutText(t, column + at.value, line, "kN/kNm");
-  PutText(t, column + at.position, line, "x/x1/x2 (m)");
-  PutText(t, column + at.category, line, "P/V");
-  t.ForeColor = Role::Ink;
-  for (const LoadRow& row : rows) {
-    line += step;
-    PutText(t, column, line, row.load);
-    PutText(t, column + at.value, line, row.value);
-    PutText(t, column + at.position, line, row.position);
-    PutText(t, column + at.category, line, row.category);
-  }
-  t.FontSize = size;
-}
-
-std::string Combination(const char* name, const std::string& selfWeight, double p, double v1,
-                        double v2) {
-  const auto f = [](double v) { return Format(v, "#0.00"); };
-  return name + selfWeight + f(p) + "*P+" + f(v1) + "*V1+" + f(v2) + "*V2";
-}
-
-/// Lines of the load information at full size.
-double LoadLines(const ProjectState& st) {
-  return 7.6 + static_cast<double>(std::max(LoadRows(st, true).size(), LoadRows(st, false).size()));
-}
-
-/// Lines that a table shorter than its neighbour leaves empty.
-Box DrawLoadInformation(DrawingTarget& t, const Layout& at, const ProjectState& st) {
-  const auto z = LoadRows(st, true);
-  const auto y = LoadRows(st, false);
-  const double step = std::min(kLineStep, (at.diagrams - at.loads - 0.6) / LoadLines(st));
-  const double size = t.FontSize;
-  t.FontSize = std::min(size, size * (step / kLineStep) * 1.12);
-  double line = at.loads;
-  PutHeading(t, kC1, line, "Loading information: (kN/kNm/m)");
-  PutText(t, kC1 + 34, line, "P=Permanent; V=Variable; S=Selfweight");
-  line += step * 1.2;
-  PutFitted(t, kC1, line,
-            ShortNumbers("N = " + Format(st.NP, "##0.0") +
-                         " (Permanent)    N = " + Format(st.NV1, "##0.0") +
-                         " (V1)    N = " + Format(st.NV2, "##0.0") + " (V2)"),
-            kParameters - kC1 - 1);
-  line += step * 1.2;
-  const LoadStops stops = StopsOf(t, z, y);
-  DrawLoadTable(t, kC1, line, step, "Loading in z-direction:", z, stops);
-  DrawLoadTable(t, kC1 + kSecondTable, line, step, "Loading in y-direction:", y, stops);
-  const double longer = static_cast<double>(std::max(z.size(), y.size()));
-  const double end = line + step * (2 + longer);
-  const auto below = [=](const std::vector<LoadRow>& rows) {
-    return line + step * (2.6 + static_cast<double>(rows.size()));
-  };
-  line += step * (2.2 + longer);
-  PutText(
-      t, kC1, line,
-      st.SelfWeight == 1 ? "Selfweight of member included " : "Selfweight  of member not included");
-  line += step;
-  const std::string uls = Combination("ULS(Sect/Buckl)= ", Format(st.lfsw_uls, "#0.00") + "*S+",
-                                      st.lfp_uls, st.lfv1_uls, st.lfv2_uls);
-  PutText(t, kC1, line, uls);
-  const double right = std::max(kSecondTable, t.TextWidth(uls) + 1.2);
-  line += step;
-  PutText(t, kC1, line,
-          Combination("SLS(Def.) = ", "1.00*S+", st.lfp_sls, st.lfv1_sls, st.lfv2_sls));
-  t.FontSize = size;
-  if (z.size() < y.size()) return {kC1, below(z), kC1 + kTableWidth, end};
-  return {kC1 + right, below(y), kParameters - 1.5, at.diagrams - 0.4};
-}
 
 // --- Buckling and lateral parameters ------------------------------------------------------------
 
@@ -193,14 +45,14 @@ bool TypedFactorsUsed(const Design& d) {
 
 double DrawBucklingTable(DrawingTarget& t, double line, const Design& d) {
   const bool angle = IsAngle(d.st.ProfileType);
-  constexpr double first = kParameters + 22;
-  constexpr double second = kParameters + 30;
-  PutHeading(t, kParameters, line, "Buckling parameters:");
+  constexpr double first = kParametersLeft + 22;
+  constexpr double second = kParametersLeft + 30;
+  PutHeading(t, kParametersLeft, line, "Buckling parameters:");
   PutText(t, first, line, angle ? "U-axis" : "Y-axis");
   PutText(t, second, line, angle ? "V-axis" : "Z-axis");
   const auto row = [&](const char* name, const std::string& y, const std::string& z) {
     line += kLineStep;
-    PutText(t, kParameters, line, name);
+    PutText(t, kParametersLeft, line, name);
     PutText(t, first, line, y);
     PutText(t, second, line, z);
   };
@@ -218,19 +70,19 @@ double DrawBucklingTable(DrawingTarget& t, double line, const Design& d) {
 }
 
 void DrawLateralParameters(DrawingTarget& t, double line, const Design& d) {
-  PutHeading(t, kParameters, line, "Lateral buckling parameters:");
+  PutHeading(t, kParametersLeft, line, "Lateral buckling parameters:");
   if (d.st.LateralTorsionalBuckling != 1) return;
   const auto f3 = [](double v) { return Format(v, "#0.000"); };
-  PutText(t, kParameters, line + 1,
+  PutText(t, kParametersLeft, line + 1,
           "k = " + Format(d.st.k_ltb, "#0.00") +
               "   Restraint points: " + std::to_string(int(d.st.LtbSegments)));
-  PutText(t, kParameters, line + 2,
+  PutText(t, kParametersLeft, line + 2,
           "   C1 = " + f3(d.ltb.C1) + "/" + f3(d.ltb.C2) + "/" + f3(d.ltb.C3) +
               (TypedFactorsUsed(d) ? "   (Manual input);" : ""));
-  PutText(t, kParameters, line + 3, "Za = " + Format(d.st.Za, "#0") + " mm  (from CoG)");
+  PutText(t, kParametersLeft, line + 3, "Za = " + Format(d.st.Za, "#0") + " mm  (from CoG)");
   std::string Mdb = "Mdb = " + Format(d.ltb.Mdb, "0.0") + " kNm";
   if (d.ltb.Mdb_min != d.ltb.Mdb) Mdb += "   Mdb_min = " + Format(d.ltb.Mdb_min, "0.0") + " kNm";
-  PutFitted(t, kParameters, line + 4, ShortNumbers(Mdb), kRightEdge - kParameters);
+  PutFitted(t, kParametersLeft, line + 4, ShortNumbers(Mdb), kRightEdge - kParametersLeft);
 }
 
 // --- Geometry -----------------------------------------------------------------------------------
@@ -256,12 +108,13 @@ double ParameterLines(const Design& d) {
 
 void DrawGeometry(DrawingTarget& t, double line, const Design& d) {
   const ProjectState& st = d.st;
-  PutHeading(t, kParameters, line, "Geometry/Loading:");
+  PutHeading(t, kParametersLeft, line, "Geometry/Loading:");
   DiagramStyle style;
-  style.text = kReportLetters / ((kRightEdge - kParameters) * t.UnitX() / kPictureWidth);
+  style.text = kReportLetters / ((kRightEdge - kParametersLeft) * t.UnitX() / kPictureWidth);
   const DiagramData data{st, d.beam, d.deflections, d.forces.N};
-  DrawDiagramIn(t, DiagramKind::BeamSketch, Box{kParameters, line + 0.9, kRightEdge, line + 5.3},
-                Destination::Page, data, style);
+  DrawDiagramIn(t, DiagramKind::BeamSketch,
+                Box{kParametersLeft, line + 0.9, kRightEdge, line + 5.3}, Destination::Page, data,
+                style);
   double below = line + kSketch;
   std::string options;
   if (IsSpring(st.SupportType)) {
@@ -271,23 +124,17 @@ void DrawGeometry(DrawingTarget& t, double line, const Design& d) {
   if (family != nullptr && family->options.web) {
     options += std::string("Support stiffener: ") + (st.EndStiffener == 1 ? "Stiff" : "Weak");
     if (HasWebStiffeners(st)) {
-      PutText(t, kParameters, below + 1,
+      PutText(t, kParametersLeft, below + 1,
               "Web stiffener: c/c " + Format(st.a_webstiff, "##0") + " mm");
     }
   }
-  PutText(t, kParameters, below, options);
+  PutText(t, kParametersLeft, below, options);
 }
 
 // --- Checks -------------------------------------------------------------------------------------
 
 /// Stands before a line whose ratio is beyond its limit, for paper without colours.
 constexpr const char* kFailMark = "> ";
-
-bool Fails(const ViewLine& row) {
-  return std::any_of(row.runs.begin(), row.runs.end(), [](const TextRun& run) {
-    return run.bold && RoleOfIndex(run.colour) == Role::Fail;
-  });
-}
 
 /// The rows as they are printed: a failing line bold and marked at its first row, numbers short
 /// where they are too long.
@@ -297,13 +144,13 @@ struct PrintedRow {
   bool mark;
 };
 
-std::vector<PrintedRow> Printed(const View& view) {
+std::vector<PrintedRow> Printed(const View& view, double limit) {
   std::vector<PrintedRow> rows;
   for (std::size_t i = 0; i < view.size(); ++i) {
     // A formula without its ratio goes on in the next row.
     const bool goesOn = view[i].runs.size() == 1 && i + 1 < view.size() && i > 0;
     const bool second = !rows.empty() && i > 1 && view[i - 1].runs.size() == 1;
-    const bool fails = Fails(goesOn ? view[i + 1] : view[i]);
+    const bool fails = Fails(goesOn ? view[i + 1] : view[i], limit);
     PrintedRow row{view[i].runs, view[i].advance, fails && !second};
     for (TextRun& run : row.runs) {
       run.text = ShortNumbers(run.text);
@@ -324,9 +171,9 @@ double WidthOf(DrawingTarget& t, const std::vector<TextRun>& runs) {
   return width;
 }
 
-double DrawView(DrawingTarget& t, const View& view, double line, double step) {
+double DrawView(DrawingTarget& t, const View& view, double limit, double line, double step) {
   const double size = t.FontSize;
-  for (const PrintedRow& row : Printed(view)) {
+  for (const PrintedRow& row : Printed(view, limit)) {
     if (row.mark) {
       t.FontBold = true;
       PutRight(t, kC1, line, kFailMark);
@@ -425,8 +272,9 @@ void DrawVerdict(DrawingTarget& t, double line, const Design& d) {
 
 void DrawChecks(DrawingTarget& t, const CheckBlock& block, double line, const Design& d) {
   const double step = std::min(kLineStep, (kBottom - line) / block.Lines());
-  line = DrawView(t, block.section, line, step);
-  if (!block.buckling.empty()) line = DrawView(t, block.buckling, line + 0.3 * step, step);
+  const double limit = d.st.iufa;
+  line = DrawView(t, block.section, limit, line, step);
+  if (!block.buckling.empty()) line = DrawView(t, block.buckling, limit, line + 0.3 * step, step);
   if (block.modal) {
     line += 0.3 * step;
     PutHeading(t, kC1, line, "Modal analysis:");
@@ -479,7 +327,8 @@ void DrawControlReport(DrawingTarget& t, double line, const Design& d) {
   figure.report = true;
   DrawSectionFigure(t, Box{kFigureLeft, kSection + 0.6, kRightEdge, at.loads - 0.6},
                     Destination::Page, d.st, d.rec, figure);
-  const Box spare = d.st.AnalysisMode == 1 ? DrawLoadInformation(t, at, d.st) : Box{};
+  const Box spare =
+      d.st.AnalysisMode == 1 ? DrawLoadInformation(t, at.loads, at.diagrams, d.st) : Box{};
   DrawGeometry(t, at.loads, d);
   const double next = DrawBucklingTable(t, at.loads + GeometryLines(d.st), d);
   DrawLateralParameters(t, next, d);

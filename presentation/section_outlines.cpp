@@ -77,14 +77,13 @@ Outline RectangleOutline(double w, double t, double x0, double y0) {
   return {{x0, y0}, {x0 + w, y0}, {x0 + w, y0 + t}, {x0, y0 + t}, {x0, y0}};
 }
 
-Outline LegOutline(double h, double b, double tw, double tf, double r1, double r2, double x0,
-                   ArcSteps steps) {
-  const double right = x0 + b;
-  const double face = x0 + tw;
-  Outline o = {{x0, 0}, {right, 0}};
-  Round(o, {right, tf - r2}, {right, tf}, {right - r2, tf}, steps);
-  Round(o, {face + r1, tf}, {face, tf}, {face, tf + r1}, steps);
-  o.insert(o.end(), {{face, h}, {x0, h}, {x0, 0}});
+Outline LegOutline(const LegSizes& s, ArcSteps steps) {
+  const double right = s.x0 + s.b;
+  const double face = s.x0 + s.tw;
+  Outline o = {{s.x0, 0}, {right, 0}};
+  Round(o, {right, s.tf - s.r2}, {right, s.tf}, {right - s.r2, s.tf}, steps);
+  Round(o, {face + s.r1, s.tf}, {face, s.tf}, {face, s.tf + s.r1}, steps);
+  o.insert(o.end(), {{face, s.h}, {s.x0, s.h}, {s.x0, 0}});
   return o;
 }
 

@@ -29,9 +29,15 @@ Outline AngleOutline(double h, double b, double t, double r, ArcSteps steps);
 Outline RoundedBox(double x, double y, double b, double h, double r, ArcSteps steps);
 /// A rectangle of width w and height t, 5 points.
 Outline RectangleOutline(double w, double t, double x0, double y0);
-/// A web of height h with a leg to the right at its foot, root and toe radius: 11 points.
-Outline LegOutline(double h, double b, double tw, double tf, double r1, double r2, double x0,
-                   ArcSteps steps);
+/// A web with a leg to the right at its foot, mm.
+struct LegSizes {
+  double h, b;    ///< height of the web, width over web and leg
+  double tw, tf;  ///< of web and leg
+  double r1, r2;  ///< root and toe radius
+  double x0;      ///< left edge of the web
+};
+/// Its outline: 11 points.
+Outline LegOutline(const LegSizes& s, ArcSteps steps);
 /// A bulb flat: the web of thickness tw at the left of x0 + tw, the bulb to the right at its
 /// foot. over is the width of the equivalent flange beside the web, area the area of the bulb.
 Outline BulbOutline(double h, double tw, double over, double area, double x0);

@@ -44,6 +44,7 @@ struct SectionShape {
 
   /// The greater of the two sizes, which decides the scale of the figure.
   double Greatest() const { return W > H ? W : H; }
+  /// Sections given by their constants have none.
   bool HasOutline() const { return !polygons.empty() || !circles.empty(); }
 };
 

@@ -50,7 +50,7 @@ static SectionShape PlateLeg(const Source& s, bool rolled) {
   const double x0 = p.cx - tw / 2;
   const double r1 = rolled ? double{rec.r1} : 0;
   const double r2 = rolled ? std::min<double>(rec.r2, tf2) : 0;
-  p.shape.polygons.push_back(LegOutline(p.under, rec.b2, tw, tf2, r1, r2, x0, s.steps));
+  p.shape.polygons.push_back(LegOutline({p.under, rec.b2, tw, tf2, r1, r2, x0}, s.steps));
   Add(p.shape, "b2", {x0, 0}, {x0 + rec.b2, 0}, DimensionSide::Below);
   AddWeb(p.shape, "tw", x0, tw, 0.45 * p.shape.H);
   AddFlange(p.shape, "tf2", x0 + rec.b2, 0, tf2);

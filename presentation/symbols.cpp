@@ -10,11 +10,13 @@
 namespace korvane {
 namespace {
 
-void Hatch(DrawingTarget& t, Point from, double dx, double dy, int strokes, double sx, double sy) {
+// Strokes side by side along a way from a point.
+void Hatch(DrawingTarget& t, Point from, Point way, Point stroke) {
+  constexpr int strokes = 6;
   for (int i = 0; i < strokes; ++i) {
     const double f = (i + 0.5) / strokes;
-    const Point p = Beside(t, from, dx * f, dy * f);
-    t.Line(p, Beside(t, p, sx, sy));
+    const Point p = Beside(t, from, way.x * f, way.y * f);
+    t.Line(p, Beside(t, p, stroke.x, stroke.y));
   }
 }
 
@@ -29,7 +31,7 @@ void DrawPinned(DrawingTarget& t, Point p, double size) {
   t.FillColor = before;
   const Point ground = Beside(t, p, -half * 1.35, size * 0.8);
   t.Line(ground, Beside(t, p, half * 1.35, size * 0.8));
-  Hatch(t, ground, half * 2.7, 0, 6, -size * 0.16, size * 0.2);
+  Hatch(t, ground, {half * 2.7, 0}, {-size * 0.16, size * 0.2});
 }
 
 // outward: -1 at the left end, 1 at the right end.
@@ -40,7 +42,7 @@ void DrawFixed(DrawingTarget& t, Point p, double member, double size, int outwar
   t.LineWidth = width * 2;
   t.Line(top, Beside(t, p, 0, half));
   t.LineWidth = width;
-  Hatch(t, top, 0, 2 * half, 6, outward * size * 0.25, size * 0.18);
+  Hatch(t, top, {0, 2 * half}, {outward * size * 0.25, size * 0.18});
 }
 
 // A pinned support with the spiral of a rotational spring round the node.

@@ -17,9 +17,9 @@ void DrawArrowHead(DrawingTarget& target, Point tip, double dx, double dy, doubl
 /// A line from tail to tip with a head.
 void DrawArrow(DrawingTarget& target, Point tail, Point tip, double head);
 
-/// Part of a circle around a point with an arrow head at its end, kMomentHead of its radius long;
-/// clockwise for a positive moment.
+/// Length of the head of a moment's arrow as a part of the radius.
 inline constexpr double kMomentHead = 0.7;
+/// Part of a circle around a point with an arrow head at its end; clockwise for a positive moment.
 void DrawMomentArrow(DrawingTarget& target, Point centre, double radius, bool clockwise);
 
 inline constexpr double kOutsideHeads = 3.2;  ///< length in heads below which they stand outside

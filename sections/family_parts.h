@@ -248,10 +248,12 @@ inline constexpr const char* kSize = "##0";
 inline constexpr const char* kThickness = "##0.0";
 inline constexpr const char* kPower = "0.000E+0";
 
+/// What stands behind a tube's size on the printed page: how it was made.
 inline std::string TubeEnd(const ProjectState& st) {
   return st.TubeKind == 1 ? " (Hot formed)" : " (Cold formed)";
 }
 
+/// The name typed for a section with given constants.
 inline std::string GeneralName(const ProjectState& st) {
   return st.p41_name;
 }

@@ -114,19 +114,19 @@ void LoadSingleI(const ProjectState& st, const Catalogues&, SectionRecord& rec) 
 }
 
 void EffectiveModuli(const ProjectState& st, const RemovedFlange& top, const RemovedFlange& bottom,
-                     double webs, double H, double depth, bool fullStripInertia,
-                     SectionRecord& rec) {
+                     const EffectiveWeb& web, SectionRecord& rec) {
   const auto bend = [&](const RemovedFlange& flange, double z) {
-    return ReduceInBending({rec.A, rec.Iy, z, flange.t, flange.area, flange.momentArea, webs, depth,
-                            rec.d / rec.tw, st.IgnoreWebBuckling == 1, fullStripInertia},
-                           st.epsilon);
+    return ReduceInBending(
+        {rec.A, rec.Iy, z, flange.t, flange.area, flange.momentArea, web.thickness, web.depth,
+         rec.d / rec.tw, st.IgnoreWebBuckling == 1, web.fullStripInertia},
+        st.epsilon);
   };
   const BentSection topCompressed = bend(top, rec.ezel);
   rec.Weffy1c = topCompressed.I / topCompressed.e;
-  rec.Weffy2t = topCompressed.I / (H - topCompressed.e);
-  const BentSection bottomCompressed = bend(bottom, H - rec.ezel);
+  rec.Weffy2t = topCompressed.I / (web.H - topCompressed.e);
+  const BentSection bottomCompressed = bend(bottom, web.H - rec.ezel);
   rec.Weffy2c = bottomCompressed.I / bottomCompressed.e;
-  rec.Weffy1t = bottomCompressed.I / (H - bottomCompressed.e);
+  rec.Weffy1t = bottomCompressed.I / (web.H - bottomCompressed.e);
 }
 
 void SingleEffectiveSection(const ProjectState& st, SectionRecord& rec) {
@@ -136,8 +136,7 @@ void SingleEffectiveSection(const ProjectState& st, SectionRecord& rec) {
   };
   const double top = outstands(rec.c1, rec.tf1);
   const double bottom = outstands(rec.c2, rec.tf2);
-  EffectiveModuli(st, {rec.tf1, top, top}, {rec.tf2, bottom, bottom}, rec.tw, rec.h, rec.hw, false,
-                  rec);
+  EffectiveModuli(st, {rec.tf1, top, top}, {rec.tf2, bottom, bottom}, {rec.tw, rec.h, rec.hw}, rec);
   const double rhow = EffectiveWidth(rec.d / rec.tw, st.epsilon, 4, st.IgnoreWebBuckling == 1);
   rec.Aeff = rec.A - top - (1 - rhow) * rec.d * rec.tw - bottom;
 }

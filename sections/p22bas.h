@@ -28,11 +28,17 @@ struct RemovedFlange {
   double t, area, momentArea;
 };
 
-/// Weffy1c, Weffy2t, Weffy2c, Weffy1t for the flanges given; webs: total thickness; H: overall
-/// height; elastic axis ezel from the top.
+/// The web or webs as the effective moduli take them, mm.
+struct EffectiveWeb {
+  double thickness;  ///< of all webs together
+  double H;          ///< overall height of the section
+  double depth;      ///< that psi goes by
+  bool fullStripInertia = false;
+};
+/// Weffy1c, Weffy2t, Weffy2c, Weffy1t in mm3 for the flanges given (12.2); elastic axis ezel from
+/// the top.
 void EffectiveModuli(const ProjectState& st, const RemovedFlange& top, const RemovedFlange& bottom,
-                     double webs, double H, double depth, bool fullStripInertia,
-                     SectionRecord& rec);
+                     const EffectiveWeb& web, SectionRecord& rec);
 
 /// Aeff in mm2 and the effective moduli of both sides in mm3, for every class (12.2).
 void SingleEffectiveSection(const ProjectState& st, SectionRecord& rec);

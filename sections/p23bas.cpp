@@ -142,7 +142,7 @@ void LoadBoxUnequal(const ProjectState& st, const Catalogues&, SectionRecord& re
 }
 
 void TwoWebEffective(const ProjectState& st, const TwoWebFlange& top, const TwoWebFlange& bottom,
-                     double H, double depth, bool fullStripInertia, SectionRecord& rec) {
+                     const EffectiveWeb& webs, SectionRecord& rec) {
   const bool noFlange = st.IgnoreFlangeBuckling == 1;
   const auto removed = [&](const TwoWebFlange& f) {
     double area = (1 - EffectiveWidth(f.cm / f.t, st.epsilon, 4, noFlange)) * f.cm * f.t;
@@ -154,27 +154,26 @@ void TwoWebEffective(const ProjectState& st, const TwoWebFlange& top, const TwoW
   };
   const double top1 = removed(top);
   const double bottom1 = removed(bottom);
-  EffectiveModuli(st, {top.t, top1, top1}, {bottom.t, bottom1, bottom1}, 2 * rec.tw, H, depth,
-                  fullStripInertia, rec);
+  EffectiveModuli(st, {top.t, top1, top1}, {bottom.t, bottom1, bottom1}, webs, rec);
   const double rhow = EffectiveWidth(rec.d / rec.tw, st.epsilon, 4, st.IgnoreWebBuckling == 1);
   rec.Aeff = rec.A - top1 - bottom1 - 2 * (1 - rhow) * rec.d * rec.tw;
 }
 
 void HsqSymmetricEffective(const ProjectState& st, SectionRecord& rec) {
-  TwoWebEffective(st, {rec.tf1, rec.cm, 0, 0}, {rec.tf2, rec.cm, rec.co, 2}, rec.h + rec.tf2,
-                  rec.hw, false, rec);
+  TwoWebEffective(st, {rec.tf1, rec.cm, 0, 0}, {rec.tf2, rec.cm, rec.co, 2},
+                  {2 * rec.tw, rec.h + rec.tf2, rec.hw}, rec);
 }
 
 void HsqOneSidedEffective(const ProjectState& st, SectionRecord& rec) {
   // This family alone takes the clear depth in psi and the whole strip's own inertia: kept.
-  TwoWebEffective(st, {rec.tf1, rec.cm, 0, 0}, {rec.tf2, rec.cm, rec.co, 1}, rec.h + rec.tf2, rec.d,
-                  true, rec);
+  TwoWebEffective(st, {rec.tf1, rec.cm, 0, 0}, {rec.tf2, rec.cm, rec.co, 1},
+                  {2 * rec.tw, rec.h + rec.tf2, rec.d, true}, rec);
 }
 
 void BoxUnequalEffective(const ProjectState& st, SectionRecord& rec) {
   const double topOutstand = (rec.b1 - st.p27_a - rec.tw) / 2;
-  TwoWebEffective(st, {rec.tf1, rec.cm, topOutstand, 2}, {rec.tf2, rec.cm, rec.co, 2}, rec.h,
-                  rec.hw, false, rec);
+  TwoWebEffective(st, {rec.tf1, rec.cm, topOutstand, 2}, {rec.tf2, rec.cm, rec.co, 2},
+                  {2 * rec.tw, rec.h, rec.hw}, rec);
 }
 
 namespace {

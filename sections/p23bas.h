@@ -3,6 +3,7 @@
 // a wide bottom plate.
 #pragma once
 
+#include "sections/p22bas.h"
 #include "sections/profile_table.h"
 
 namespace korvane {
@@ -23,9 +24,9 @@ struct TwoWebFlange {
   int outstands;
 };
 
-/// Aeff and the effective moduli of a section with two webs; H the overall height.
+/// Aeff in mm2 and the effective moduli in mm3 of a section with two webs (12.2).
 void TwoWebEffective(const ProjectState& st, const TwoWebFlange& top, const TwoWebFlange& bottom,
-                     double H, double depth, bool fullStripInertia, SectionRecord& rec);
+                     const EffectiveWeb& webs, SectionRecord& rec);
 
 /// Aeff in mm2 and the effective moduli of both sides in mm3, for every class. 12.2.
 void HsqSymmetricEffective(const ProjectState& st, SectionRecord& rec);

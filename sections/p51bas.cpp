@@ -287,16 +287,15 @@ void AngleStiffenerEffective(const ProjectState& st, SectionRecord& rec) {
   const double top = 2 * outstand(rec.c1, rec.tf1);
   const double leg = outstand(rec.c2, rec.tf2);
   // The leg is one-sided, yet its moments and Aeff count it twice: kept.
-  EffectiveModuli(st, {rec.tf1, top, top}, {rec.tf2, leg, 2 * leg}, rec.tw, rec.h, rec.hw, false,
-                  rec);
+  EffectiveModuli(st, {rec.tf1, top, top}, {rec.tf2, leg, 2 * leg}, {rec.tw, rec.h, rec.hw}, rec);
   const double rhow = EffectiveWidth(rec.d / rec.tw, st.epsilon, 4, st.IgnoreWebBuckling == 1);
   rec.Aeff = rec.A - top - (1 - rhow) * rec.d * rec.tw - 2 * leg;
 }
 
 void TrapezEffective(const ProjectState& st, SectionRecord& rec) {
   const double ww = rec.tw / std::cos(std::atan(st.p55_a / st.p55_h));
-  TwoWebEffective(st, {rec.tf1, rec.cm, rec.c1, 2}, {rec.tf2, rec.b2 - 2 * ww, 0, 0}, rec.h, rec.hw,
-                  false, rec);
+  TwoWebEffective(st, {rec.tf1, rec.cm, rec.c1, 2}, {rec.tf2, rec.b2 - 2 * ww, 0, 0},
+                  {2 * rec.tw, rec.h, rec.hw}, rec);
 }
 
 void FlatStiffenerClass(const ProjectState& st, const SectionForces& f, SectionRecord& rec) {

@@ -48,6 +48,7 @@ struct LightestColumns {
 /// Texts that many rows share, each kept once. Threads may add at the same time.
 class SharedTexts {
 public:
+  /// The place of a text, which it gets when it comes first.
   std::int32_t PlaceOf(const std::string& text);
   /// All texts by their places, once nobody adds any more.
   std::vector<std::string> Take() const;

@@ -41,9 +41,10 @@ std::string Digits(float value);
 /// The decimals that stand for a value in single precision, 0.1 for 0.100000001.
 double Typed(float value);
 
-/// x of the greatest deflection L/x along z and along y; none without deflection and with end
-/// forces, which give none.
+/// x of the greatest deflection L/x along z; none without deflection and with end forces, which
+/// give none.
 std::optional<float> LengthOverDeflectionZ(const Design& d);
+/// The same along y.
 std::optional<float> LengthOverDeflectionY(const Design& d);
 
 /// The codes of the notes of caution or worse, separated by blanks.

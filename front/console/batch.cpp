@@ -29,17 +29,15 @@ namespace fs = std::filesystem;
 constexpr std::size_t kMostPerChunk = 64;
 
 /// A run of files with its lines, once they are done.
-struct Chunk {
+struct Chunk : BatchPiece {
   std::size_t first = 0, last = 0;  ///< files first..last-1
-  std::string lines, remarks;
-  BatchCounts counts;
 };
 
 /// Designs the files of a chunk, up to the one that a signal leaves out.
 void DesignChunk(const std::vector<std::string>& files, const Design& started, bool optimise,
                  Design& work, Chunk& chunk) {
   for (std::size_t f = chunk.first; f < chunk.last && StopSignal::Received() == 0; ++f)
-    AppendBatchLine(files[f], started, work, optimise, chunk.lines, chunk.remarks, chunk.counts);
+    AppendBatchLine(files[f], started, work, optimise, chunk);
 }
 
 bool IsProjectName(const fs::path& path) {
@@ -148,7 +146,7 @@ BatchCounts DesignFiles(std::shared_ptr<const Library> library,
   WorkInOrder<Chunk>(
       threads,
       [&](Chunk& chunk) {
-        chunk = Chunk{next, std::min(files.size(), next + size), {}, {}, {}};
+        chunk = Chunk{{}, next, std::min(files.size(), next + size)};
         next = chunk.last;
         return chunk.first < files.size();
       },

@@ -26,6 +26,7 @@ struct BatchOptions {
 /// How the projects came out.
 struct BatchCounts {
   std::size_t pass = 0, fail = 0, fault = 0, unread = 0, notChecked = 0;
+  /// Adds those of another run.
   void Add(const BatchCounts& other);
   std::size_t All() const { return pass + fail + notChecked + fault + unread; }
   /// 2 when a file couldn't be read, else 3 when a calculation stopped, else 1 when a member
@@ -47,10 +48,16 @@ bool ParseShard(const std::string& text, BatchOptions& options);
 /// The line with the names of the columns.
 std::string BatchHeader(bool optimise);
 
-/// Designs one project in work, which starts as a copy of started, and appends its line, and to
-/// remarks what the engineer should know of the file.
+/// What a run of projects has come to.
+struct BatchPiece {
+  std::string lines;    ///< of the table
+  std::string remarks;  ///< what the engineer should know of the files
+  BatchCounts counts;
+};
+
+/// Designs one project in work, which starts as a copy of started, and appends it to the piece.
 void AppendBatchLine(const std::string& path, const Design& started, Design& work, bool optimise,
-                     std::string& lines, std::string& remarks, BatchCounts& counts);
+                     BatchPiece& piece);
 
 /// Designs the files in options.jobs threads, or as many as the system gives, and writes their
 /// lines in the order of the files, whatever the threads do. header: the names of the columns come

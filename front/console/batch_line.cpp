@@ -166,11 +166,11 @@ std::string BatchHeader(bool optimise) {
 }
 
 void AppendBatchLine(const std::string& path, const Design& started, Design& work, bool optimise,
-                     std::string& lines, std::string& remarks, BatchCounts& counts) {
+                     BatchPiece& piece) {
   Line line;
   work = started;
   try {
-    DesignOne(path, work, optimise, line, remarks);
+    DesignOne(path, work, optimise, line, piece.remarks);
   } catch (const ArithmeticFault& fault) {
     line.status = "fault";
     line.error = FaultText(fault.what());
@@ -178,7 +178,8 @@ void AppendBatchLine(const std::string& path, const Design& started, Design& wor
     line.status = "error";
     line.error = other.what();
   }
-  Count(line.status, counts);
+  Count(line.status, piece.counts);
+  std::string& lines = piece.lines;
   AppendField(TextCell(path), lines);
   for (const std::string* field :
        {&line.section, &line.weight, &line.maxIR, &line.governing, &line.governingText,

@@ -103,6 +103,8 @@ int RunCatalogue(const std::string& name, const std::string& data) {
 
 int RunSession(const std::string& script, const std::string& decimal, const std::string& data) {
   const auto library = ReadLibrary(FindDataFolder(data));
+  const VisibleStream output(std::cout, OutputIsTerminal());
+  const VisibleStream errors(std::cerr, ErrorsAreTerminal());
   const bool comma = decimal.empty() ? LocaleWritesComma() : decimal == "comma";
   if (script.empty() || script == kStandardStream)
     return RunScript(library, comma, std::cin, std::cout, std::cerr);

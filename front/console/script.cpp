@@ -11,6 +11,7 @@
 #include "front/design_json.h"
 #include "front/named_session.h"
 #include "front/nearest.h"
+#include "front/save_words.h"
 
 namespace korvane {
 
@@ -104,6 +105,9 @@ public:
 
   /// Whether the program has been left.
   bool Ended() const { return session_.Ended(); }
+
+  /// Whether a file could not be saved, and has not been since.
+  bool NotSaved() const { return SaveWordsOf(session_).failed; }
 
   /// What the line that failed may have meant, for the end of its report.
   std::string Hint() const {
@@ -306,7 +310,7 @@ int RunScript(std::shared_ptr<const Library> library, bool decimalComma, std::is
       return kArithmeticFailure;
     }
   }
-  return kAllPass;
+  return script.NotSaved() ? kBadInput : kAllPass;
 }
 
 }  // namespace korvane

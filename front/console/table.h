@@ -29,6 +29,7 @@ struct TableOptions {
 /// How the rows came out.
 struct TableCounts {
   std::size_t pass = 0, fail = 0, notChecked = 0, stopped = 0, refused = 0;
+  /// Adds those of another run.
   void Add(const TableCounts& other);
   std::size_t All() const { return pass + fail + notChecked + stopped + refused; }
   /// 2 when a row was refused, else 3 when a calculation stopped, else 1 when a member fails or

@@ -64,6 +64,53 @@ std::string NameOnErrors(const std::string& name) {
   return ErrorsAreTerminal() ? Visible(name) : name;
 }
 
+namespace {
+
+/// Hands whole lines on, their control characters escaped.
+class EscapingBuffer : public std::streambuf {
+public:
+  explicit EscapingBuffer(std::streambuf* out) : out_(out) {}
+  ~EscapingBuffer() override { sync(); }
+  EscapingBuffer(const EscapingBuffer&) = delete;
+  EscapingBuffer& operator=(const EscapingBuffer&) = delete;
+
+protected:
+  int_type overflow(int_type c) override {
+    if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
+    if (c != '\n') {
+      line_ += traits_type::to_char_type(c);
+      return c;
+    }
+    const bool handed = HandOn();
+    return handed && out_->sputc('\n') == '\n' ? c : traits_type::eof();
+  }
+  int sync() override { return HandOn() ? out_->pubsync() : -1; }
+
+private:
+  bool HandOn() {
+    const std::string shown = Visible(line_);
+    line_.clear();
+    const auto size = static_cast<std::streamsize>(shown.size());
+    return out_->sputn(shown.data(), size) == size;
+  }
+  std::streambuf* out_;
+  std::string line_;
+};
+
+}  // namespace
+
+VisibleStream::VisibleStream(std::ostream& stream, bool terminal) : stream_(stream) {
+  if (!terminal) return;
+  escaping_ = std::make_unique<EscapingBuffer>(stream.rdbuf());
+  before_ = stream.rdbuf(escaping_.get());
+}
+
+VisibleStream::~VisibleStream() {
+  if (before_ == nullptr) return;
+  stream_.flush();
+  stream_.rdbuf(before_);
+}
+
 std::string Red(const std::string& text, bool colour) {
   return colour ? "\x1b[31m" + text + "\x1b[0m" : text;
 }

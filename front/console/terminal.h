@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -38,6 +39,21 @@ std::string Visible(std::string_view text);
 
 /// A name as the standard error output gets it: byte for byte, but visible on a terminal.
 std::string NameOnErrors(const std::string& name);
+
+/// While one stands, what goes to a stream that ends at a terminal has its control characters
+/// escaped; lines stay lines.
+class VisibleStream {
+public:
+  VisibleStream(std::ostream& stream, bool terminal);
+  ~VisibleStream();
+  VisibleStream(const VisibleStream&) = delete;
+  VisibleStream& operator=(const VisibleStream&) = delete;
+
+private:
+  std::ostream& stream_;
+  std::unique_ptr<std::streambuf> escaping_;
+  std::streambuf* before_ = nullptr;
+};
 
 /// The text in red when colour is wanted.
 std::string Red(const std::string& text, bool colour);

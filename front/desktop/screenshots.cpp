@@ -162,7 +162,7 @@ bool ShootForms(Desktop& desktop, NamedSession& s, const QDir& folder, const QSt
 }
 
 /// The windows of the studies, each opened by its button.
-bool ShootStudies(Desktop& desktop, const Session& s, const QDir& folder, const QString& theme) {
+bool ShootStudies(Desktop& desktop, NamedSession& s, const QDir& folder, const QString& theme) {
   bool ok = true;
   for (const char* name : {"sections", "whatif"}) {
     const QString window = QString::fromUtf8(name);

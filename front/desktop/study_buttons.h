@@ -8,7 +8,7 @@ namespace korvane {
 
 class Desktop;
 
-/// Adds the buttons to a layout; their windows are made when they are first asked for.
+/// Adds the buttons to a row; their windows are made when they are first asked for.
 void AddStudyButtons(Desktop& desktop, QLayout* row);
 
 }  // namespace korvane

@@ -7,14 +7,14 @@
 
 namespace korvane {
 
-void AddMainForm(Forms& forms);
-void AddMenus(Forms& forms, Form& main);
-void AddLoadForms(Forms& forms);      ///< loading, endforce, endstiff, chpoints
-void AddBucklingForms(Forms& forms);  ///< vipping, bucklingy, bucklingz, bucklingcurve
-void AddSetupForms(Forms& forms);     ///< setup, detailedresult, Modal_ns, about, ...
-void AddOptimiserForm(Forms& forms);
-void AddDatabaseForm(Forms& forms);
-void AddFamilyForms(Forms& forms);
+void AddMainForm(Forms& forms);           ///< korvane
+void AddMenus(Forms& forms, Form& main);  ///< the commands of the main form
+void AddLoadForms(Forms& forms);          ///< loading, endforce, endstiff, chpoints
+void AddBucklingForms(Forms& forms);      ///< vipping, bucklingy, bucklingz, bucklingcurve
+void AddSetupForms(Forms& forms);         ///< setup, detailedresult, Modal_ns, about, ...
+void AddOptimiserForm(Forms& forms);      ///< optimised series and rows
+void AddDatabaseForm(Forms& forms);       ///< sections kept in the project
+void AddFamilyForms(Forms& forms);        ///< one form for each family's row
 
 // Rules that stand once and are used by more than one form.
 /// The yield stress, in three digits; typed for the free grade alone.

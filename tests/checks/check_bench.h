@@ -71,7 +71,7 @@ struct CheckBench {
     beam.y.V_pt[i] = p.Vy;
   }
 
-  void Compose() { ComposeLines(&family, st, rec, f, beam, ltb, buckling, out); }
+  void Compose() { ComposeLines({family, st, beam, ltb}, rec, f, buckling, out); }
 
   void ControlSection() {
     SectionControl(family, st, beam, ltb, f, rec, out);
@@ -79,7 +79,7 @@ struct CheckBench {
   }
 
   void ControlBuckling() {
-    BucklingControl(family, st, beam, ltb, f, rec, buckling, out);
+    BucklingControl({family, st, beam, ltb}, f, rec, buckling, out);
     Compose();
   }
 };

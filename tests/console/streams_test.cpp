@@ -111,6 +111,19 @@ TEST(Streams, ControlCharactersAreShownOnATerminalAlone) {
             std::string::npos);
 }
 
+TEST(Streams, AScriptShowsControlCharactersOnATerminalAlone) {
+  const TempFolder folder;
+  PutFile(folder / "script", "enter iproj a\x1B[2Jb\nshow iproj\nsave /no/\x1B[31m.kvn\nno\x07\n");
+  const ProgramRun piped = RunProgram({"session", folder / "script"});
+  EXPECT_NE(piped.output.find("iproj = a\x1B[2Jb\n"), std::string::npos) << piped.output;
+  const std::string shown = RunOnTerminal({"session", folder / "script"}, false).output;
+  EXPECT_EQ(shown.find('\x1B'), std::string::npos) << shown;
+  EXPECT_EQ(shown.find('\x07'), std::string::npos) << shown;
+  EXPECT_NE(shown.find("iproj = a\\x1B[2Jb\r\n"), std::string::npos) << shown;
+  EXPECT_NE(shown.find("/no/\\x1B[31m.kvn"), std::string::npos) << shown;
+  EXPECT_NE(shown.find("no action no\\x07"), std::string::npos) << shown;
+}
+
 TEST(Streams, NoProgressBarOnADumbTerminal) {
   const TempFolder folder;
   PutProjects(folder, 64);

@@ -87,7 +87,7 @@ std::string CodeNames(const std::vector<std::string>& lines) {
 }
 
 /// Lines in which a code is compared with a number, a switch goes by it, a table's row begins with
-/// one, or a list that is about families holds nothing else.
+/// one, a macro that makes a row is given one, or a list that is about families holds nothing else.
 std::vector<std::string> CodesIn(const std::string& file) {
   const std::vector<std::string> lines = LinesOf(file);
   // The forms of the families hand their code on under this name.
@@ -99,6 +99,7 @@ std::vector<std::string> CodesIn(const std::string& file) {
   const std::regex switched("\\bswitch\\s*\\((?:[\\w.()]|->)*\\b(?:" + names + ")\\s*\\)");
   static const std::regex row(
       R"(^\s*\{\s*(\d+),\s*(?:\d+,\s*)?(?:\{|"|&|nullptr|k[A-Z]|[A-Z]\w*::))");
+  static const std::regex macro(R"(\b[A-Z]+_[A-Z_]+\((\d+),)");
   static const std::regex list(R"(\{\s*(\d+(?:\s*,\s*\d+)+)\s*\})");
   static const std::regex number(R"(\d+)");
   static const std::regex about("famil|profile|support|code|type", std::regex::icase);
@@ -108,7 +109,8 @@ std::vector<std::string> CodesIn(const std::string& file) {
     std::smatch m;
     bool here = std::regex_search(line, compared) || std::regex_search(line, turned) ||
                 std::regex_search(line, switched) ||
-                (std::regex_search(line, m, row) && IsFamily(m[1]));
+                (std::regex_search(line, m, row) && IsFamily(m[1])) ||
+                (std::regex_search(line, m, macro) && IsFamily(m[1]));
     if (!here && std::regex_search(line, about) && std::regex_search(line, m, list)) {
       const std::string codes = m[1];
       const std::sregex_iterator first(codes.begin(), codes.end(), number);
@@ -219,6 +221,82 @@ TEST(House, EachFamilyLivesInTheUnitThatIsNamed) {
     ASSERT_TRUE(unitOf.contains(family.code));
     EXPECT_TRUE(WordsOf(TextOf(unitOf[family.code] + ".h")).contains(step)) << step;
   }
+}
+
+// A family whose dimensions are typed has its rows in the table of what they must be.
+TEST(House, EachTypedFamilyHasItsImpossibleSections) {
+  const std::string table = TextOf("checks/section_exists.cpp");
+  for (const Family& family : AllFamilies()) {
+    const bool there =
+        table.find("KORVANE_TYPED(" + std::to_string(family.code) + ",") != std::string::npos;
+    EXPECT_EQ(there, family.dimensions.size() > 0) << family.code;
+  }
+}
+
+bool IsComment(const std::string& line) {
+  const auto at = line.find_first_not_of(' ');
+  return at != std::string::npos && line.compare(at, 2, "//") == 0;
+}
+
+/// Declarations of routines without a comment of their own, above them or behind them. What is
+/// defined in the line of its declaration says itself what it does.
+std::vector<std::string> DeclaredWithoutWords(const std::vector<std::string>& lines) {
+  // A type, a name and a bracket at the level of a namespace or of a class.
+  static const std::regex declared(
+      R"(^(?:  )?(?:(?:inline|constexpr|static|virtual)\s+)*(?!explicit|return|using|friend|else|throw|case)[A-Za-z_][\w:<>,&* ]*[ &*][A-Za-z]\w*\((?!\)\(|std::))");
+  static const std::regex part(R"(^\s*(private|protected|public|signals):)");
+  static const std::regex opens(R"(^(class|struct)\s+\w+.*\{)");
+  std::vector<std::string> found;
+  bool open = true;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    std::smatch m;
+    if (std::regex_search(lines[i], m, part)) open = m[1] == "public";
+    if (std::regex_search(lines[i], m, opens)) open = m[1] == "struct";
+    if (lines[i].starts_with("}")) open = true;
+    if (!open || IsComment(lines[i]) || !std::regex_search(lines[i], declared)) continue;
+    std::size_t last = i;
+    const auto ends = [&] { return lines[last].find_first_of(";{") != std::string::npos; };
+    while (last + 1 < lines.size() && !ends()) ++last;
+    const std::string& end = lines[last];
+    // Neither what is defined or made by default, nor a variable inside a routine.
+    static const std::regex passed(R"(\{|\) override;|= (default|delete);|static_cast<|L'\\0')");
+    if (std::regex_search(end, passed)) continue;
+    const bool isTemplate = i > 0 && lines[i - 1].find("template <") != std::string::npos;
+    const std::size_t above = isTemplate ? i - 1 : i;
+    const bool told =
+        (above > 0 && IsComment(lines[above - 1])) || end.find("//") != std::string::npos;
+    if (!told) found.push_back(lines[i]);
+  }
+  return found;
+}
+
+// A reader of a header learns of each routine what it gives, in which unit and from which clause.
+TEST(House, EachPublicRoutineOfTheEngineHasItsOwnLine) {
+  int seen = 0;
+  for (const std::string& file : AllSources()) {
+    if (file.starts_with("front/") || !file.ends_with(".h")) continue;
+    for (const std::string& line : DeclaredWithoutWords(LinesOf(file))) {
+      ADD_FAILURE() << file << ": " << line;
+    }
+    ++seen;
+  }
+  EXPECT_GT(seen, 60);
+}
+
+TEST(House, ARoutineWithoutItsOwnLineIsFound) {
+  const std::vector<std::string> lines{"/// kN.",
+                                       "double Force(int row);",
+                                       "double Moment(int row);",
+                                       "std::string Words(const std::string& a,",
+                                       "                  int b);",
+                                       "double Half(double v) { return v / 2; }",
+                                       "class Box {",
+                                       "  void Hidden(int a);",
+                                       "public:",
+                                       "  void Seen(int a) const;",
+                                       "  void Told(int a);  ///< mm",
+                                       "};"};
+  EXPECT_EQ(DeclaredWithoutWords(lines), (std::vector<std::string>{lines[2], lines[3], lines[9]}));
 }
 
 TEST(House, TheFilesOfTheListsExist) {

@@ -109,8 +109,8 @@ void Checks(V& visit, const Design& d) {
     visit("governing", value);
   }
   for (const GoverningForce* force : {&c.Vz, &c.Vy, &c.lateral}) {
-    visit("governing S", force->S);
-    visit("governing Sd", force->Sd);
+    visit("governing S", force->acting);
+    visit("governing Sd", force->capacity);
     visit("governing x", force->x);
   }
   for (const double value : {c.Mu, c.Mv, c.Mud, c.Mvd}) visit("angle", value);

@@ -167,7 +167,7 @@ TEST(BeamSketch, StaysInsideItsHeightWithEverythingOn) {
     st.cp_count = 3;
     const RecordingTarget t = Drawn(st);
     const Box page{0, 0, kPictureWidth, BeamSketchHeight(st, kStyle)};
-    EXPECT_TRUE(page.Contains(t.Bounds().value(), 1e-9)) << type;
+    EXPECT_TRUE(Within(page, t.Bounds().value(), 1e-9)) << type;
     for (const auto& [a, b] : t.OverlappingTexts(0.02)) ADD_FAILURE() << a << " over " << b;
     EXPECT_TRUE(t.OverlappingTexts(0.02).empty()) << type;
   }
@@ -176,7 +176,7 @@ TEST(BeamSketch, StaysInsideItsHeightWithEverythingOn) {
 TEST(Diagrams, TheTableIsInTheOrderOfTheKinds) {
   std::set<std::string> names;
   int index = 0;
-  for (const DiagramInfo& info : AllDiagrams()) {
+  for (const DiagramInfo& info : sample::AllDiagrams()) {
     EXPECT_EQ(static_cast<int>(info.kind), index++);
     EXPECT_TRUE(names.insert(info.name).second) << info.name;
   }
@@ -213,11 +213,11 @@ TEST(Diagrams, EveryKindDrawsInsideTheHeightThatItTells) {
     sample::Member m = seed % 2 ? sample::SimpleBeam() : sample::FixedBeam();
     m.st = sample::FullLoads(seed);
     m.N = seed % 3 ? 120 : -120;
-    for (const DiagramInfo& info : AllDiagrams()) {
+    for (const DiagramInfo& info : sample::AllDiagrams()) {
       RecordingTarget t;
       DrawDiagram(t, info.kind, {}, m.Data(), kStyle);
       const Box page{0, 0, kPictureWidth, DiagramHeight(info.kind, m.Data(), kStyle)};
-      EXPECT_TRUE(page.Contains(t.Bounds().value(), 0.3)) << info.name << " seed " << seed;
+      EXPECT_TRUE(Within(page, t.Bounds().value(), 0.3)) << info.name << " seed " << seed;
       EXPECT_TRUE(t.OverlappingTexts(0.02).empty()) << info.name << " seed " << seed;
     }
   }
@@ -228,7 +228,7 @@ TEST(Diagrams, LargerLettersOverlapAsLittle) {
   for (unsigned seed = 1; seed <= 40; ++seed) {
     sample::Member m = sample::FixedBeam();
     m.st = sample::FullLoads(seed);
-    for (const DiagramInfo& info : AllDiagrams()) {
+    for (const DiagramInfo& info : sample::AllDiagrams()) {
       RecordingTarget t;
       DrawDiagram(t, info.kind, {}, m.Data(), large);
       EXPECT_TRUE(t.OverlappingTexts(0.02).empty()) << info.name << " seed " << seed;
@@ -241,7 +241,7 @@ TEST(Diagrams, APlaceIsFilledWithoutDistortion) {
   RecordingTarget t;
   const Box place = Box::At(50, 60, 200, 400);
   DrawDiagramIn(t, DiagramKind::MomentShearZ, place, Destination::Page, m.Data(), kStyle);
-  EXPECT_TRUE(place.Contains(t.Bounds().value(), 0.1));
+  EXPECT_TRUE(Within(place, t.Bounds().value(), 0.1));
   const std::vector<Point>& curve = t.WithPoints(ShapeKind::Line, 51).at(0)->Points();
   const double unit = 200 / kPictureWidth;
   EXPECT_NEAR(curve[1].x - curve[0].x, 1.4 * unit, 1e-9);
@@ -252,7 +252,7 @@ TEST(Diagrams, LabelsHoldInADistortedFrame) {
   for (unsigned seed = 1; seed <= 20; ++seed) {
     sample::Member m = sample::FixedBeam();
     m.st = sample::FullLoads(seed);
-    for (const DiagramInfo& info : AllDiagrams()) {
+    for (const DiagramInfo& info : sample::AllDiagrams()) {
       RecordingTarget t;
       const double height = DiagramHeight(info.kind, m.Data(), kStyle);
       const ScopedFrame frame(t, Box::At(0, 0, 2 * kPictureWidth, height),

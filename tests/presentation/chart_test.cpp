@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "presentation/recording_target.h"
 #include "presentation/study_charts.h"
 #include "studies/member.h"
+#include "tests/support/recording_target.h"
 #include "tests/support/source_library.h"
 
 namespace korvane {
@@ -89,7 +89,7 @@ TEST(Chart, EverythingStaysInItsPlace) {
   RecordingTarget target;
   DrawChart(target, kPlace, chart, kLetters);
   ASSERT_TRUE(target.Bounds());
-  EXPECT_TRUE(kPlace.Contains(*target.Bounds(), 0.5));
+  EXPECT_TRUE(Within(kPlace, *target.Bounds(), 0.5));
   EXPECT_TRUE(target.OverlappingTexts(0.1).empty());
   for (const char* text : {"A title", "limit 1.00", "x = 5"}) EXPECT_EQ(target.Count(text), 1);
 }

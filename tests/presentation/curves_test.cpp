@@ -204,7 +204,7 @@ TEST(MomentShear, StaysInsideItsHeight) {
   for (const Member& m : {sample::SimpleBeam(), sample::FixedBeam(), Member{}}) {
     const Box b = DrawnMoments(m).Bounds().value();
     const double height = MomentShearHeight(m.beam, Plane::Z, kStyle);
-    EXPECT_TRUE((Box{0, 0, kPictureWidth, height}.Contains(b, 0.01)))
+    EXPECT_TRUE(Within({0, 0, kPictureWidth, height}, b, 0.01))
         << b.left << " " << b.top << " " << b.right << " " << b.bottom << " of " << height;
   }
 }

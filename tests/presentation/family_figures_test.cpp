@@ -262,9 +262,9 @@ TEST_P(FigureOfFamily, LettersStandOnceEachAndNoneOverAnother) {
     for (const auto& [a, b] : t.OverlappingTexts(0.05)) ADD_FAILURE() << a << " over " << b;
     const Box page{0, 0, 300, 300};
     for (const RecordedShape* s : t.OfKind(ShapeKind::Text)) {
-      EXPECT_TRUE(page.Contains(s->box, 0.5)) << s->text;
+      EXPECT_TRUE(Within(page, s->box, 0.5)) << s->text;
     }
-    EXPECT_TRUE(page.Contains(t.Bounds().value(), 1));
+    EXPECT_TRUE(Within(page, t.Bounds().value(), 1));
   }
 }
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "presentation/recording_target.h"
+#include "tests/support/recording_target.h"
 
 namespace korvane {
 namespace {
@@ -76,7 +76,7 @@ TEST(LabelPlacer, LabelsStayInsideTheBounds) {
   t.FontSize = 10;
   LabelPlacer labels(t, kPage);
   for (const Point corner : {Point{0, 0}, Point{200, 0}, Point{0, 100}, Point{200, 100}}) {
-    EXPECT_TRUE(kPage.Contains(labels.Place(At("-123.4", corner)), 1e-9));
+    EXPECT_TRUE(Within(kPage, labels.Place(At("-123.4", corner)), 1e-9));
   }
 }
 

@@ -271,9 +271,9 @@ void ExpectClean(const ProjectState& st, unsigned seed) {
       const double height = LoadsHeight(st, plane, variable, kStyle);
       const Box page{0, 0, kPictureWidth, height};
       for (const RecordedShape* s : t.OfKind(ShapeKind::Text)) {
-        EXPECT_TRUE(page.Contains(s->box, 0.05)) << "seed " << seed << ": " << s->text;
+        EXPECT_TRUE(Within(page, s->box, 0.05)) << "seed " << seed << ": " << s->text;
       }
-      EXPECT_TRUE(page.Contains(t.Bounds().value(), 0.3)) << "seed " << seed;
+      EXPECT_TRUE(Within(page, t.Bounds().value(), 0.3)) << "seed " << seed;
     }
   }
 }

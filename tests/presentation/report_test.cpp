@@ -10,9 +10,9 @@
 #include "core/text.h"
 #include "presentation/aprint.h"
 #include "presentation/page.h"
-#include "presentation/recording_target.h"
 #include "sections/profile_table.h"
 #include "sections/shown_values.h"
+#include "tests/support/recording_target.h"
 #include "tests/support/source_library.h"
 
 namespace korvane {
@@ -316,6 +316,27 @@ TEST(Report, LettersOfTheFigureStayOffTheArrows) {
   }
 }
 
+// The second line below a narrow trapeze has its arrows under the first one's letter.
+TEST(Report, LettersBelowATrapezeStandBetweenItsLines) {
+  Design d(SourceLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 55;
+  Calculate(d);
+  const RecordingTarget page = Drawn(d, Report::SectionAndStability);
+  const RecordedShape* letter = nullptr;
+  for (const RecordedShape* s : page.OfKind(ShapeKind::Text)) {
+    if (s->text == "b2" && s->box.left > kPageWidth / 2) letter = s;
+  }
+  ASSERT_NE(letter, nullptr);
+  for (const RecordedShape* s : page.WithPoints(ShapeKind::Line, 2)) {
+    const bool level = s->box.Height() < 0.01 && s->box.Width() < 20;
+    const double right = letter->box.right;
+    const bool beside = level && s->box.left < right + 2 && s->box.right > letter->box.left;
+    EXPECT_FALSE(beside && s->box.top < letter->box.bottom && s->box.top > letter->box.top)
+        << s->box.left << " " << s->box.top;
+  }
+}
+
 TEST(Report, TheOneWallHasTheLetterOfItsRowInTheFigureToo) {
   for (const int type : {31, 51, 52, 53, 54, 55, 56}) {
     SCOPED_TRACE(type);
@@ -419,6 +440,26 @@ TEST(Report, AFailingLineIsBoldAndMarked) {
   ASSERT_NE(printed, nullptr);
   EXPECT_TRUE(printed->style.bold);
   EXPECT_TRUE(HasText(page, "fails: The greatest ratio"));
+}
+
+// The colour of this line never turns (kept); paper without colours tells it all the same.
+TEST(Report, AnAnglesShearBeyondItsCapacityIsBoldAndMarked) {
+  Design d(SourceLibrary());
+  StartDesign(d);
+  d.st.ProfileType = 10;
+  d.st.q1 = 60.0;
+  Calculate(d);
+  const CheckLine& line = d.checks.lineVz;
+  ASSERT_GT(line.ratio, 1);
+  ASSERT_EQ(line.colour, kGreen);
+  const RecordingTarget page = Drawn(d, Report::SectionAndStability);
+  const RecordedShape* printed = page.FindText(line.formula + line.numbers);
+  ASSERT_NE(printed, nullptr);
+  EXPECT_TRUE(printed->style.bold);
+  for (const RecordedShape* mark : page.OfKind(ShapeKind::Text)) {
+    if (mark->text == "> " && std::fabs(mark->box.top - printed->box.top) < 0.1) return;
+  }
+  ADD_FAILURE() << "no mark before " << printed->text;
 }
 
 TEST(Report, LongNamesWrapAndLoseTheirEndOnlyWithDots) {

@@ -5,15 +5,25 @@
 #include <cmath>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "analysis/beam.h"
 #include "analysis/deflections.h"
 #include "places.h"
 #include "presentation/grafik.h"
-#include "presentation/recording_target.h"
 #include "sections/profile_table.h"
+#include "tests/support/recording_target.h"
 
 namespace korvane::sample {
+
+/// The names of all diagrams, in the order of DiagramKind.
+inline std::vector<DiagramInfo> AllDiagrams() {
+  std::vector<DiagramInfo> all;
+  for (int kind = 0; kind <= int(DiagramKind::AxialForce); ++kind) {
+    all.push_back(InfoOf(static_cast<DiagramKind>(kind)));
+  }
+  return all;
+}
 
 /// A member with results, as a calculation would leave them.
 struct Member {

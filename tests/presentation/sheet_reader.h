@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "presentation/recording_target.h"
+#include "tests/support/recording_target.h"
 
 namespace korvane::sheet {
 

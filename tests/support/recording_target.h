@@ -9,6 +9,12 @@
 
 namespace korvane {
 
+/// Whether a rectangle lies within a place, or sticks out no further than the tolerance.
+inline bool Within(const Box& place, const Box& box, double tolerance = 0) {
+  return box.left >= place.left - tolerance && box.right <= place.right + tolerance &&
+         box.top >= place.top - tolerance && box.bottom <= place.bottom + tolerance;
+}
+
 enum class ShapeKind { Text, Line, Polygon, Ellipse, Arc };
 
 /// One thing drawn, in page units.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "presentation/recording_target.h"
+#include "tests/support/recording_target.h"
 
 #include <cmath>
 
