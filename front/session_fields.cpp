@@ -45,6 +45,7 @@ void Session::KeepTexts() {
   }
   fields_.ForgetRefused();
   removedLoads.reset();
+  news_.clear();
 }
 
 void Session::FillMainWindow() {

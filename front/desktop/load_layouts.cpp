@@ -161,8 +161,8 @@ void AddDrawnLoads(WidgetMaker& maker, QBoxLayout* into, QWidget* window) {
     pane->ShowLoadsOf(plane, height);
     into->addWidget(pane, qRound(height));
   };
-  add({"picloadpn", "picloadvn", "picloadzp", "picloadzv"}, Plane::Z, 9);
-  add({"picloadyp", "picloadyv"}, Plane::Y, 6);
+  add({"picloadpn", "picloadvn", "picloadzp", "picloadzv"}, Plane::Z, 8);
+  add({"picloadyp", "picloadyv"}, Plane::Y, 5);
 }
 
 }  // namespace
@@ -181,7 +181,7 @@ void LayOutLoading(WidgetMaker& maker, QWidget* window) {
   auto* lines = new QWidget;
   (new QVBoxLayout(lines))->setContentsMargins(0, 0, 0, 0);
   lines->layout()->addWidget(new ResultPane(maker.session(), ResultPane::Length::Short));
-  lines->setMinimumSize(Ems(window, 26), Ems(window, 10));
+  lines->setMinimumSize(Ems(window, 26), Ems(window, 13.5));
   right->addWidget(lines, 10);
   AddDrawnLoads(maker, right, window);
   columns->addLayout(left);

@@ -150,6 +150,7 @@ bool ShootForms(Desktop& desktop, NamedSession& s, const QDir& folder, const QSt
         }
       }
     });
+    Settle();
     window->resize(window->sizeHint());
     ok = Shoot(*window, s, folder,
                QStringLiteral("form-%1-%2").arg(QString::fromStdString(form.name), theme)) &&

@@ -317,7 +317,10 @@ TEST_F(LookTest, FormsStandWhereTheyWereLeft) {
   Desktop again(session_);
   again.window().show();
   again.Act([&] { session_.Show("endstiff"); });
-  EXPECT_EQ(again.WindowOf(form)->pos(), left);
+  // A window manager may count its frame in.
+  const QPoint off = again.WindowOf(form)->pos() - left;
+  EXPECT_LE(std::abs(off.x()), kWindowFrame.width());
+  EXPECT_LE(std::abs(off.y()), kWindowFrame.height());
   QSettings(QSettings::IniFormat, QSettings::UserScope, "Korvane_ns", "Korvane_ns").clear();
 }
 
