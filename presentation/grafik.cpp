@@ -128,7 +128,11 @@ bool PlaneIsEmpty(const ProjectState& st, const BeamResults& beam, Plane plane) 
   const PlaneForces& f = plane == Plane::Z ? beam.z : beam.y;
   if (f.M_max != 0 || f.M_min != 0 || f.V_max != 0 || f.V_min != 0) return false;
   if (st.AnalysisMode == 0) return true;
-  return CollectLoads(st, plane, false).Empty() && CollectLoads(st, plane, true).Empty();
+  const auto stands = [&](bool variable) {
+    const LoadItems items = CollectLoads(st, plane, variable);
+    return !items.distributed.empty() || !items.points.empty();
+  };
+  return !stands(false) && !stands(true);
 }
 
 double DiagramHeight(DiagramKind kind, const DiagramData& data, const DiagramStyle& style) {
