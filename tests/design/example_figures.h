@@ -151,6 +151,21 @@ tie-hea120-tension.kvn
   N -441  A 2533.6  Iy 6.0615E6  Wply 119491  S 19.8888  Mdy 38.5629  My_max 3.74583  My_min 0
   Vz_abs 2.99666  DeflZ_max 6.3861  IRsection 0.636478  IRvz 0.0190194  C1 1.132  C2 0.459
   Mcr 31.0915  chiLT_min 0.5738  Mdb 22.1274  IRlateral 0.169285  MaxIR 0.636478
+# fd = 355/1.1 = 322.73. N = 1.2*90 + 1.5*60. Web 138/9 = 15.3 is class 4: lambda_p = 1.012, rho
+# 0.7734, Aeff 2760.5. Curves c, L/i = 66.8 and 90.0.
+chord-t150.kvn
+  N 198  A 3042  Iy 6.12653E6  S 23.8797  Ncrd 890.889  IRsection 0.22225  Xy 0.641191
+  Xz 0.472941  IRnz 0.469932  MaxIR 0.469932
+# fd = 355/1.1 = 322.73. N = 1.2*600 + 1.5*350, q = 9 and 4.5. Webs 326/10 = 32.6: rho 0.9755, Aeff
+# 14760; elastic moduli. mu = -1.4*lambda for both axes.
+column-box350.kvn
+  N 1245  A 14920  Iy 2.97756E8  Wply 1.95098E6  S 117.122  Ncrd 4763.5  My_max 63.2813  My_min 0
+  Vz_abs 33.75  DeflZ_max 3.95318  IRsection 0.456931  Xy 0.788721  Xz 0.714559  ky 1.29146
+  IRcombinedY 0.625436  MaxIR 0.625436
+# fd = 355/1.1 = 322.73. N = -(1.2*120 + 1.5*90) on 1800 mm2.
+hanger-flatbar.kvn
+  N -279  A 1800  Iy 3.375E6  Wply 67500  S 14.13  Mdy 21.7841  My_max 0  IRsection 0.480282
+  MaxIR 0.480282
 )";
 
 }  // namespace korvane
