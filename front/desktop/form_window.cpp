@@ -159,9 +159,12 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::showEvent(QShowEvent* event) {
-  if (!placed_ && !event->spontaneous()) Place();
   const bool first = !placed_;
   placed_ = true;
+  if (first && !event->spontaneous()) {
+    FitContent();  // the place goes by the size
+    Place();
+  }
   QDialog::showEvent(event);
   if (!first) return;
   placedAt_ = pos();

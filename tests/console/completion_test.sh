@@ -27,7 +27,7 @@ expect() {
     fi
 }
 
-expect 'batch|catalogue|design|draw|new|optimise|report|sections|session|solve|table|vary' korvane-cli ''
+expect 'batch|catalogue|design|draw|interaction|new|optimise|report|sections|session|solve|table|vary' korvane-cli ''
 expect 'design|draw' korvane-cli d
 expect 'a.kvn|projects|with blank.kvn' korvane-cli design ''
 expect 'with blank.kvn' korvane-cli optimise w
