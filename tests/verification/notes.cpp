@@ -228,16 +228,88 @@ Case MomentFactorBelowZero() {
           ""};
 }
 
+Case WebLeftOut() {
+  const double with = FigureOf(NoteCode::BucklingIgnored, 1, 4, [](ProjectState& st) {
+    st.idxIPE = 17;
+    st.q1 = 0;
+    st.NP = 500;
+    st.IgnoreWebBuckling = 1;
+  });
+  return {"buckling-ignored: class of IPE 600 in compression, its web counted",
+          "table of the standard, web 514 x 12",
+          "42.83 above 42 eps = 34.2",
+          4,
+          with,
+          "",
+          kExact,
+          ""};
+}
+
+Case CapacityWithoutControl() {
+  const double Md = FigureOf(NoteCode::NoControl, 2, 27, [](ProjectState& st) {
+    st.p27_h = 400;
+    st.p27_b1 = 300;
+    st.p27_b2 = 300;
+    st.p27_a = 200;
+    st.p27_tw = 10;
+    st.p27_tf1 = 20;
+    st.p27_tf2 = 20;
+    st.q1 = 10;
+  });
+  return {"no-control: MdyTop of box 300x20, webs 360x10",
+          "plates about the middle",
+          "(6000 380 + 2 10 360^2/4) 355/1.1",
+          944.9455,
+          Md,
+          "kNm",
+          kExact,
+          ""};
+}
+
+Case FlatOfATrapezoid() {
+  const double slenderness = FigureOf(NoteCode::TrapezoidFlats, 0, 55, [](ProjectState& st) {
+    st.p55_b1 = 350;
+    st.p55_tf1 = 5;
+    st.q1 = 5;
+  });
+  return {"trapezoid-flats: c/t of the plate between the walls",
+          "200 + 2 50 less two walls of 8 mm cut along the plate",
+          "(300 - 16 sqrt(1 + 0.2^2))/5",
+          56.7366,
+          slenderness,
+          "",
+          kExact,
+          ""};
+}
+
+Case CapacityBelowZero() {
+  const double Mn = FigureOf(NoteCode::CapacityNotPositive, 1, 2, [](ProjectState& st) {
+    st.idxHEB = 0;
+    st.SectionControlMode = 1;
+    st.SupportType = 2;
+    st.q1 = 1;
+    st.NP = -20000;
+  });
+  return {"capacity-not-positive: Mndy of HEB 100 under N = -24000 kN",
+          "Mdy (1 - n)/(1 - 0.5 a), Wpl = 104.2 cm3, A = 26.04 cm2 as catalogues print them",
+          "n = 28.56, a = 604/2604, Mdy = 33.63 kNm",
+          -1048.32,
+          Mn,
+          "kNm",
+          kPrinted,
+          ""};
+}
+
 }  // namespace
 
 Chapter NoteFigures() {
-  return {
-      "Figures of the verdict's notes",
-      "What a note says beside the check lines. Which note a member has, and that ordinary "
-      "members have few, is tested apart.",
-      {TrippingOfT(), TrippingOfAngle(), SlendernessOfTheNote(), TensionBeyondTheSection(),
-       DeflectionOfTheNote(), RemovedForce(), OutstandsOfABox(), UnreadForceOfAnI(),
-       LateralBucklingOff(), CompressedSideOfAFlat(), RemovedBeyond(), MomentFactorBelowZero()}};
+  return {"Figures of the verdict's notes",
+          "What a note says beside the check lines. Which note a member has, and that ordinary "
+          "members have few, is tested apart.",
+          {TrippingOfT(), TrippingOfAngle(), SlendernessOfTheNote(), TensionBeyondTheSection(),
+           DeflectionOfTheNote(), RemovedForce(), OutstandsOfABox(), UnreadForceOfAnI(),
+           LateralBucklingOff(), CompressedSideOfAFlat(), RemovedBeyond(), MomentFactorBelowZero(),
+           WebLeftOut(), CapacityWithoutControl(), FlatOfATrapezoid(), CapacityBelowZero()}};
 }
 
 }  // namespace korvane::verification
