@@ -311,11 +311,13 @@ std::optional<RefusedInput> MemberInputs::Put(std::span<const InputCell> cells, 
     if (cell.input->kind == InputKind::Field) {
       if (auto refused = Refused(*cell.input, st)) return refused;
     } else if (cell.input->kind == InputKind::Section) {
-      // Dimensions in a name are typed ones too.
-      const Family& family = *FindFamily(st.ProfileType);
-      for (std::size_t i = 0; i < family.titled; ++i) {
+      // Dimensions in a name are typed ones too. A family typed beside the name may not exist,
+      // which its own cell tells.
+      const Family* family = FindFamily(st.ProfileType);
+      if (family == nullptr) continue;
+      for (std::size_t i = 0; i < family->titled; ++i) {
         const InputRef ref = std::visit([](auto member) { return InputOf(InputMember(member)); },
-                                        family.dimensions[i].field);
+                                        family->dimensions[i].field);
         const Limit limit = LimitOf(st, ref);
         if (!Accepts(limit, ReadInput(st, ref))) return In(*cell.input, limit.message);
       }

@@ -271,6 +271,15 @@ TEST(Table, ALineOfUnitsIsSkippedAndUnitsInHeadingsToo) {
   EXPECT_EQ(Design("id,L [m],q1 (kN/m)\na,5.5,3\n", Columns("MaxIR")).output, plain);
 }
 
+// The family typed beside a section's name wins over it, and may not exist.
+TEST(Table, AFamilyThatDoesNotExistBesideASectionIsRefused) {
+  const Ran ran = Design("section,ProfileType\nIPE300,99\nIPE300,4\n", Columns("standing,notes"));
+  const Strings lines = Lines(ran.output);
+  ASSERT_EQ(lines.size(), 3U);
+  EXPECT_EQ(lines[1], "refused,\"column ProfileType, row 2: no such family\"");
+  EXPECT_EQ(lines[2].substr(0, 6), "passes");
+}
+
 TEST(Table, ARefusedRowTouchesNoOther) {
   const Ran ran =
       Design("id,L,q1,section\n1,5,3,\n2,5,x,\n3,5,3,HEA 1\n4,0.01,3,\n5,5,3,,,7\n6,5,3,\n",
