@@ -52,4 +52,9 @@ bool IsTemporaryName(std::string_view name) {
   return name.find_first_not_of("0123456789abcdef", kPrefix.size()) == std::string_view::npos;
 }
 
+WriteResult WriteFile(const std::string& path, std::string_view bytes, const WriteRules& rules) {
+  return WriteFileInPieces(
+      path, [bytes](const PieceTaker& take) { return take(bytes); }, rules);
+}
+
 }  // namespace korvane

@@ -462,11 +462,6 @@ WriteResult CheckWritable(const std::string& path, const WriteRules& rules) {
   return folder ? WriteResult() : ResultOfError(::GetLastError());
 }
 
-WriteResult WriteFile(const std::string& path, std::string_view bytes, const WriteRules& rules) {
-  return WriteFileInPieces(
-      path, [bytes](const PieceTaker& take) { return take(bytes); }, rules);
-}
-
 WriteResult WriteFileInPieces(const std::string& path,
                               const std::function<bool(const PieceTaker&)>& make,
                               const WriteRules& rules) {
